@@ -1,0 +1,12 @@
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+# varnel_test(NAME <name> SOURCES <file>... [LIBRARIES <target>...])
+# A Google Test program whose cases are registered when ctest starts, so that building stays quick.
+function(varnel_test)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "NAME" "SOURCES;LIBRARIES")
+    add_executable(${arg_NAME} ${arg_SOURCES})
+    varnel_settings(${arg_NAME})
+    target_link_libraries(${arg_NAME} PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
+    gtest_discover_tests(${arg_NAME} DISCOVERY_MODE PRE_TEST)
+endfunction()
