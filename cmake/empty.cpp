@@ -1,1 +1,1 @@
-// A shared library needs a source of its own; everything else comes from the static one.
+// For targets that need a source of their own although their content comes from elsewhere.

@@ -1,0 +1,13 @@
+# varnel_headers_alone(<target> ROOT <folder> HEADERS <path>...)
+# Objects made of one source per header that includes this header and nothing else.
+function(varnel_headers_alone target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "ROOT" "HEADERS")
+    add_library(${target} OBJECT ${PROJECT_SOURCE_DIR}/cmake/empty.cpp)
+    foreach(header IN LISTS arg_HEADERS)
+        set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${header}.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${header}\"\n")
+        target_sources(${target} PRIVATE ${source})
+    endforeach()
+    varnel_settings(${target})
+    target_include_directories(${target} BEFORE PRIVATE ${arg_ROOT})
+endfunction()
