@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "engine/document.h"
+
+namespace varnel::engine {
+
+/// Finished pages, readable in any order. They are kept in memory up to a limit and in a temporary
+/// file beyond it; the file has no name and goes with the store. Errors of the file are
+/// std::system_error.
+class PageStore {
+  public:
+    static constexpr std::size_t kMemoryLimit = 8u << 20;
+    explicit PageStore(std::size_t memory_limit = kMemoryLimit);
+    ~PageStore();
+    PageStore(const PageStore&) = delete;
+    PageStore& operator=(const PageStore&) = delete;
+
+    void Append(const Page& page);
+    int Count() const;
+    /// Reads page `index` (from 0) into `page`, whose storage is reused.
+    void Read(int index, Page& page);
+
+  private:
+    struct Storage;
+    std::unique_ptr<Storage> storage_;
+};
+
+}  // namespace varnel::engine

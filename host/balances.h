@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/currency.h"
+#include "host/date.h"
+#include "host/exchange_rates.h"
+
+namespace varnel {
+
+/// Which lines a balance is made of.
+struct BalanceScope {
+    /// Both days included; 1899-12-31 as `from` takes the whole history.
+    Date from = kOpenStart;
+    Date to = kOpenEnd;
+    /// Parenthesised condition on GLDet, without a leading AND; empty takes all lines.
+    std::string segment_clause;
+    /// Comma-separated project ids; empty takes all lines.
+    std::string project_ids;
+    friend bool operator==(const BalanceScope&, const BalanceScope&) = default;
+};
+
+/// Balances of the ledger, debit positive and exact. A host answers every account of a scope from
+/// one grouped query.
+class BalanceService {
+  public:
+    virtual ~BalanceService() = default;
+    /// The account's net amount over the scope: in home currency, or with `in_foreign_currency` the
+    /// sum of the foreign amounts of its lines. Account -1 is every account.
+    virtual Currency AccountBalance(std::int32_t account_id, const BalanceScope& scope,
+                                    bool in_foreign_currency) = 0;
+    /// The net result of all income-statement accounts strictly before the date (a profit is
+    /// negative).
+    virtual Currency EarningsBefore(Date date, const BalanceScope& scope) = 0;
+    /// Forgets what it has read, so that the next run sees the ledger as it is then.
+    virtual void BeginRun() = 0;
+};
+
+}  // namespace varnel
