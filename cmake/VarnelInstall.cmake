@@ -11,7 +11,8 @@ foreach(folder host framework accounts reports engine)
 endforeach()
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Varnel)
-install(EXPORT varnelTargets FILE VarnelConfig.cmake NAMESPACE Varnel:: DESTINATION ${package_folder})
+install(EXPORT varnelTargets FILE VarnelConfig.cmake NAMESPACE Varnel::
+    DESTINATION ${package_folder})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/VarnelConfigVersion.cmake
     COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/VarnelConfigVersion.cmake DESTINATION ${package_folder})
