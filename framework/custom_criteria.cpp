@@ -1,0 +1,21 @@
+#include "framework/custom_criteria.h"
+
+namespace varnel::framework {
+
+CustomCriteria CustomCriteria::Split(std::string_view filter) {
+    const auto bar = filter.find('|');
+    if (bar == std::string_view::npos) return {std::string(filter), {}};
+    const auto rest = filter.substr(bar + 1);
+    return {std::string(filter.substr(0, bar)), std::string(rest.substr(0, rest.find('|')))};
+}
+
+std::string CustomCriteria::AndClause() const {
+    return criteria.empty() ? std::string() : " AND (" + criteria + ") ";
+}
+
+std::string CustomCriteria::OrderClause(std::string_view leading_key,
+                                        std::string_view default_order) const {
+    return ordering.empty() ? std::string(default_order) : std::string(leading_key) + ordering;
+}
+
+}  // namespace varnel::framework

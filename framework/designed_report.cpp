@@ -1,0 +1,32 @@
+#include "framework/designed_report.h"
+
+#include "framework/texts.h"
+
+namespace varnel::framework {
+
+Variant DesignedReport::Get(std::string_view name) {
+    Control* control = surface_.Find(name);
+    if (control == nullptr) RaiseUnknownMember(ObjectName(), name);
+    // Shares the report's count: the control lives as long as somebody holds it.
+    return ObjectRef(shared_from_this(), control);
+}
+
+void DesignedReport::ActiveReport_Initialize() {
+    Guard("ActiveReport_Initialize", [&] {
+        for (auto& section : surface_.Sections())
+            for (auto& control : section.Controls()) {
+                const auto number = control.Design().caption;
+                Mark();
+                if (number != 0) control.SetText(PlainText(App(), number));
+            }
+    });
+}
+
+Application& DesignedReport::App() {
+    if (application_ == nullptr)
+        Raise(error_number::kObjectNotSet, std::string(ObjectName()),
+              "The report has no application: set IReport_Application before running it");
+    return *application_;
+}
+
+}  // namespace varnel::framework

@@ -1,0 +1,21 @@
+#include "framework/period_caption.h"
+
+#include "framework/texts.h"
+
+namespace varnel::framework {
+
+namespace {
+
+constexpr std::int16_t kAllDates = 1376;
+constexpr std::int16_t kFrom = 3012;
+constexpr std::int16_t kTo = 3013;
+
+}  // namespace
+
+std::string JournalPeriodCaption(Application& application, Date from, Date to) {
+    if (from == kOpenStart || to == kOpenEnd) return PlainText(application, kAllDates);
+    return PlainText(application, kFrom) + " " + ShortDate(application, from) + " " +
+           PlainText(application, kTo) + " " + ShortDate(application, to);
+}
+
+}  // namespace varnel::framework

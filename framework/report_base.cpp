@@ -1,0 +1,104 @@
+#include "framework/report_base.h"
+
+#include "framework/standard_header.h"
+#include "framework/texts.h"
+#include "host/member_table.h"
+
+namespace varnel::framework {
+
+namespace {
+
+constexpr Member<ReportBase> kMembers[] = {
+    {"IReport_Application", nullptr,
+     [](ReportBase& r, const Variant& v) {
+         r.IReport_Application(std::dynamic_pointer_cast<Application>(v.ToObject()));
+     }},
+    {"IReport_DateFrom", nullptr,
+     [](ReportBase& r, const Variant& v) { r.IReport_DateFrom(v.ToDate()); }},
+    {"IReport_DateTo", nullptr,
+     [](ReportBase& r, const Variant& v) { r.IReport_DateTo(v.ToDate()); }},
+    {"IReport_DateDisplayOptions",
+     [](ReportBase& r) -> Variant {
+         return static_cast<std::int16_t>(r.IReport_DateDisplayOptions());
+     }},
+    {"IReport_NoHeaders", [](ReportBase& r) -> Variant { return r.IReport_NoHeaders(); }},
+    {"IReport_DisplayForeignCurrency", nullptr,
+     [](ReportBase& r, const Variant& v) { r.IReport_DisplayForeignCurrency(v.ToBool()); }},
+    {"IReport_UseCurrency", [](ReportBase& r) -> Variant { return r.IReport_UseCurrency(); }},
+    {"IReport_Initialize", nullptr, nullptr,
+     [](ReportBase& r, std::span<const Variant>) -> Variant {
+         r.IReport_Initialize();
+         return {};
+     }},
+    {"IReport_ReportDesigner",
+     [](ReportBase& r) -> Variant { return ObjectRef(r.IReport_ReportDesigner()); }},
+    {"IReport_ReportTitle", [](ReportBase& r) -> Variant { return r.IReport_ReportTitle(); }},
+};
+
+}  // namespace
+
+Variant ReportBase::Get(std::string_view name) {
+    const auto* member = FindMember<ReportBase>(kMembers, name);
+    if (member == nullptr || member->get == nullptr) return DesignedReport::Get(name);
+    return member->get(*this);
+}
+
+void ReportBase::Put(std::string_view name, const Variant& value) {
+    PutMember<ReportBase>(kMembers, *this, name, value);
+}
+
+Variant ReportBase::Call(std::string_view name, std::span<const Variant> arguments) {
+    return CallMember<ReportBase>(kMembers, *this, name, arguments);
+}
+
+void ReportBase::IReport_Application(std::shared_ptr<Application> application) {
+    Guard("IReport_Application", [&] { SetApplication(std::move(application)); });
+}
+
+void ReportBase::IReport_DateFrom(Date date) {
+    Guard("IReport_DateFrom", [&] { date_from_ = date; });
+}
+
+void ReportBase::IReport_DateTo(Date date) {
+    Guard("IReport_DateTo", [&] { date_to_ = date; });
+}
+
+DateDisplay ReportBase::IReport_DateDisplayOptions() { return facts_.date_display; }
+
+bool ReportBase::IReport_NoHeaders() { return false; }
+
+void ReportBase::IReport_DisplayForeignCurrency(bool display) {
+    Guard("IReport_DisplayForeignCurrency", [&] { display_foreign_ = display; });
+}
+
+bool ReportBase::IReport_UseCurrency() {
+    bool used = false;
+    Guard("IReport_UseCurrency",
+          [&] { Mark(), used = GetCurrencyInfo().CieIsForeignCurrencyUsed(); });
+    return used;
+}
+
+void ReportBase::IReport_Initialize() {
+    Guard("IReport_Initialize",
+          [&] { Mark(), home_currency_id_ = GetCurrencyInfo().CieHomeCurrencyId(); });
+}
+
+std::shared_ptr<BandedReport> ReportBase::IReport_ReportDesigner() { return shared_from_this(); }
+
+std::string ReportBase::IReport_ReportTitle() {
+    std::string title;
+    Guard("IReport_ReportTitle", [&] { Mark(), title = PlainText(App(), facts_.title_text); });
+    return title;
+}
+
+void ReportBase::ActiveReport_Initialize() {
+    DesignedReport::ActiveReport_Initialize();
+    Guard("ActiveReport_Initialize", [&] {
+        Mark(), FillStandardHeader(GetSurface(), App(), IReport_ReportTitle());
+        Mark(), CurrentCompany().Balances().BeginRun();
+    });
+}
+
+void ReportBase::ActiveReport_Terminate() { Data().Attach(nullptr); }
+
+}  // namespace varnel::framework

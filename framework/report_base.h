@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "framework/designed_report.h"
+#include "host/report.h"
+
+namespace varnel::framework {
+
+/// The host contract, once for all reports: what the host sets is stored, what it asks is answered,
+/// every procedure in form A. A report adds its title, its rows and its handlers.
+class ReportBase : public DesignedReport, public IReport {
+  public:
+    struct Facts {
+        std::int16_t title_text = 0;
+        DateDisplay date_display = DateDisplay::kFromTo;
+    };
+
+    ReportBase(const Layout& layout, const Facts& facts) : DesignedReport(layout), facts_(facts) {}
+
+    /// Interface members by their names, then controls.
+    Variant Get(std::string_view name) override;
+    void Put(std::string_view name, const Variant& value) override;
+    Variant Call(std::string_view name, std::span<const Variant> arguments) override;
+
+    void IReport_Application(std::shared_ptr<Application> application) override;
+    void IReport_DateFrom(Date date) override;
+    void IReport_DateTo(Date date) override;
+    DateDisplay IReport_DateDisplayOptions() override;
+    bool IReport_NoHeaders() override;
+    void IReport_DisplayForeignCurrency(bool display) override;
+    bool IReport_UseCurrency() override;
+    void IReport_Initialize() override;
+    std::shared_ptr<BandedReport> IReport_ReportDesigner() override;
+    std::string IReport_ReportTitle() override;
+
+    void ActiveReport_Initialize() override;
+    void ActiveReport_Terminate() override;
+
+  protected:
+    Date DateFrom() const { return date_from_; }
+    Date DateTo() const { return date_to_; }
+    bool DisplayForeignCurrency() const { return display_foreign_; }
+    std::int32_t HomeCurrencyId() const { return home_currency_id_; }
+    Company& CurrentCompany() { return App().CurrentContext().CurrentCompany(); }
+
+    CurrencyInfo& GetCurrencyInfo() { return CurrentCompany().GetCurrencyInfo(); }
+
+  private:
+    Facts facts_;
+    Date date_from_;
+    Date date_to_;
+    bool display_foreign_ = false;
+    std::int32_t home_currency_id_ = 0;
+};
+
+}  // namespace varnel::framework

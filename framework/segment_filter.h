@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/report.h"
+
+namespace varnel::framework {
+
+/// The segment condition on `column`, in parentheses: the listed segments, lines without one, or
+/// both. Empty when the filter takes everything. The list goes in as it stands.
+std::string SegmentClause(std::string_view column, std::string_view ids, bool also_none);
+
+/// `ISegmentFilter`, once for all reports that have it.
+class SegmentFilter : public ISegmentFilter {
+  public:
+    void ISegmentFilter_SegmentFilter(const std::string& ids) override { ids_ = ids; }
+    void ISegmentFilter_SegmentFilterDisplay(const std::string& text) override { display_ = text; }
+    void ISegmentFilter_SegmentNoneFilter(bool also_none) override { also_none_ = also_none; }
+
+  protected:
+    bool IsSegmentFiltered() const { return !ids_.empty() || also_none_; }
+    std::string SegmentClauseOn(std::string_view column) const {
+        return SegmentClause(column, ids_, also_none_);
+    }
+    const std::string& SegmentFilterDisplay() const { return display_; }
+
+  private:
+    std::string ids_;
+    std::string display_;
+    bool also_none_ = false;
+};
+
+}  // namespace varnel::framework

@@ -1,0 +1,44 @@
+#include "framework/catalogue.h"
+
+#include "reports/journal/general_journal.h"
+
+namespace varnel::framework {
+
+namespace {
+
+template <class Report>
+std::shared_ptr<IReport> Make() {
+    return std::make_shared<Report>();
+}
+
+constexpr CatalogueEntry kReports[] = {
+    {"dsrGeneralJournal", 6173, Make<reports::dsrGeneralJournal>},
+    {"dsrGeneralLedger", 30013, nullptr},
+    {"dsrGeneralLedgerByAccount", 30014, nullptr},
+    {"dsrTrialBalanceSummary", 30001, nullptr},
+    {"dsrTrialBalanceDetail", 30002, nullptr},
+    {"dsrIncomeStatement", 6096, nullptr},
+    {"dsrBalanceSheet", 30003, nullptr},
+    {"dsrComparativeIncomeStatement", 30004, nullptr},
+    {"dsrComparativeBalanceSheet", 30006, nullptr},
+    {"dsrGIFIReport", 30007, nullptr},
+    {"dsrBankReconciliation", 30008, nullptr},
+    {"dsrCurrentBankReconciliation", 30009, nullptr},
+    {"dsrUnRealExchProfitloss", 30010, nullptr},
+    {"dsrUnRealExchProfitlossDetail", 30011, nullptr},
+    {"dsrRealizedExchProfitloss", 30012, nullptr},
+};
+
+constexpr PublicClass kClasses[] = {
+    {"Varnel.CGLAcct", nullptr},
+    {"Varnel.CGLAccts", nullptr},
+    {"Varnel.CGLAcctHelper", nullptr},
+};
+
+}  // namespace
+
+std::span<const CatalogueEntry> Catalogue() { return kReports; }
+
+std::span<const PublicClass> PublicClasses() { return kClasses; }
+
+}  // namespace varnel::framework
