@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+
+namespace varnel::company {
+
+struct DemoOptions {
+    /// Ledger lines to write, give or take one document. The company grows with them: the
+    /// proportions of accounts, documents and currencies stay.
+    std::int64_t lines = 12'000;
+    /// The same seed and number of lines give the same company everywhere.
+    std::uint64_t seed = 1;
+    /// Replace a file that is there; otherwise it is an error.
+    bool overwrite = false;
+    /// Hears now and then how many of the lines are written; false stops the work with an error.
+    std::function<bool(std::int64_t done, std::int64_t lines)> progress;
+};
+
+inline constexpr std::int64_t kDemoLinesMin = 1'000;
+inline constexpr std::int64_t kDemoLinesMax = 100'000'000;
+
+/// Writes the company database of a small kitchenware trader to `file`: two fiscal years and an
+/// open one, three currencies, segments, projects, budgets, bank reconciliations. Every entry
+/// balances. The file appears whole or not at all; anything that prevents it is an `Error` that
+/// names the file.
+void CreateDemoCompany(const std::filesystem::path& file, const DemoOptions& options = {});
+
+}  // namespace varnel::company
