@@ -10,15 +10,10 @@ target_compile_options(varnel_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     $<$<BOOL:${VARNEL_WERROR}>:-Werror>)
 
-# The standard header that clang 14 lacks; private, as it is for building only.
-set(clang14 $<AND:$<CXX_COMPILER_ID:Clang>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,15>>)
-
 # C++20 without extensions, our warnings, and include paths from the root of the sources.
 function(varnel_settings target)
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${Varnel_SOURCE_DIR}>)
-    target_include_directories(${target} SYSTEM BEFORE PRIVATE
-        $<${clang14}:${Varnel_SOURCE_DIR}/cmake/clang14>)
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:varnel_warnings>)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
 endfunction()
