@@ -94,15 +94,18 @@ void FontSet::LoadPage(FontStyle style, char32_t page_number) {
 GlyphCell FontSet::MakeCell(FontStyle style, char32_t code_point) const {
     const bool control = IsControl(code_point);
     const char32_t shown = control ? U' ' : code_point;
-    const auto flags = control ? std::uint8_t{GlyphCell::kPlain} : FlagsOf(code_point);
+    std::uint8_t flags = control ? std::uint8_t{GlyphCell::kPlain} : FlagsOf(code_point);
+    const bool visible = (flags & GlyphCell::kInvisible) == 0;
     auto face = static_cast<FaceIndex>(style);
     GlyphId glyph = faces_[face]->Glyph(shown);
     if (glyph == 0) {
         face = FallbackOf(style);
         glyph = faces_[face]->Glyph(shown);
     }
-    if (glyph == 0) glyph = faces_[face]->Glyph(kReplacementCharacter);
-    const bool visible = (flags & GlyphCell::kInvisible) == 0;
+    if (glyph == 0) {
+        glyph = faces_[face]->Glyph(kReplacementCharacter);
+        if (visible) flags |= GlyphCell::kMissing;
+    }
     return {Hexadecimal(glyph), visible ? faces_[face]->Advance(glyph) : 0, glyph, face, flags};
 }
 

@@ -26,6 +26,7 @@ struct GlyphCell {
         kPlain = 0,
         kNeedsShaping = 1,  // the script joins, reorders or stacks: see FontSet::Shape
         kInvisible = 2,     // formatting character: no width, nothing to draw
+        kMissing = 4,       // no face has it: the cell is that of U+FFFD
     };
 
     std::array<char, 4> hex;  // the glyph id in hexadecimal

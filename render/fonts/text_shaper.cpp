@@ -46,11 +46,10 @@ void TextShaper::ReadCharacters(FontStyle style, std::string_view utf8) {
 TextShaper::Character TextShaper::ReadCharacter(FontStyle style, char32_t code_point,
                                                 std::uint32_t offset) {
     const GlyphCell& cell = fonts_.Cell(style, code_point);
-    const bool has_shape = !IsMark(code_point) && !IsFormatting(code_point);
     if (IsControl(code_point)) {
         code_point = U' ';
-    } else if (has_shape && fonts_.Face(cell.face).Glyph(code_point) != cell.glyph) {
-        code_point = kReplacementCharacter;  // no face has it
+    } else if ((cell.flags & GlyphCell::kMissing) != 0 && !IsMark(code_point)) {
+        code_point = kReplacementCharacter;  // a mark may still compose with its base
     }
     const std::uint32_t script = ScriptOf(code_point);
     return {code_point, offset, script, cell.face, DirectionOf(code_point, script)};

@@ -10,7 +10,6 @@ namespace varnel::render {
 
 namespace {
 
-// A level as a fraction of one, in hundredths of a percent for enough precision: 128 is 0.502.
 void AppendLevel(std::string& out, std::uint8_t level) {
     AppendDecimal(out, level / 255.0);
     out += ' ';
@@ -48,13 +47,13 @@ double PdfPage::TextWidth(const TextStyle& style, std::string_view utf8) {
 }
 
 void PdfPage::Text(double x, double y, const TextStyle& style, std::string_view utf8, Align align) {
-    if (utf8.empty()) return;
+    const Hundredths size = ToHundredths(style.size);
+    if (utf8.empty() || size <= 0) return;
     if (align == Align::kRight) x -= TextWidth(style, utf8);
     if (align == Align::kCentre) x -= TextWidth(style, utf8) / 2;
     SetFill(style.colour);
     MoveTo(x, y);
     SetStretch(style.stretch);
-    const Hundredths size = ToHundredths(style.size);
     if (fonts_.NeedsShaping(style.font, utf8)) return ShowShaped(style.font, size, utf8);
     ShowPlain(style.font, size, utf8);
 }
@@ -159,10 +158,13 @@ void PdfPage::ShowPlain(FontStyle style, Hundredths size, std::string_view utf8)
     while (position < end) {
         const auto byte = static_cast<unsigned char>(*position);
         const bool is_ascii = byte < 0x80;
-        const char32_t code_point = is_ascii ? byte : DecodeUtf8(position, end);
+        char32_t code_point = is_ascii ? byte : DecodeUtf8(position, end);
         const GlyphCell& cell = is_ascii ? ascii[byte] : fonts_.Cell(style, code_point);
         position += is_ascii;
-        if (cell.flags != GlyphCell::kPlain) continue;
+        if (cell.flags != GlyphCell::kPlain) {
+            if (cell.flags == GlyphCell::kInvisible) continue;
+            code_point = kReplacementCharacter;
+        }
         if (room == 0 || cell.face != state_.face) {
             if (out != nullptr) content_.Commit(Copy(out, kEnd));
             SetFont(cell.face, size);
@@ -202,11 +204,20 @@ void PdfPage::ShowShaped(FontStyle style, Hundredths size, std::string_view utf8
         ShowGlyph(glyph, static_cast<std::int32_t>(pen_error + glyph.x_offset));
         const std::int32_t drawn = fonts_.Face(glyph.face).Advance(glyph.glyph);
         pen_error = std::int64_t{glyph.advance} - glyph.x_offset - drawn;
-        const auto text = utf8.substr(glyph.text_begin, glyph.text_end - glyph.text_begin);
-        used_fonts_.Use(glyph.face).AddText(glyph.glyph, text);
+        used_fonts_.Use(glyph.face).AddText(glyph.glyph, TextOf(glyph, style, utf8));
     }
     if (open) content_.Append("]TJ\n");
     if (rise != 0) Operator({0}, "Ts");
+}
+
+// The characters a glyph stands for, which is not what the text has when no face has a glyph for
+// it.
+std::string_view PdfPage::TextOf(const ShapedGlyph& glyph, FontStyle style, std::string_view utf8) {
+    const auto text = utf8.substr(glyph.text_begin, glyph.text_end - glyph.text_begin);
+    if (text.empty()) return text;
+    const char* position = text.data();
+    const char32_t first = DecodeUtf8(position, text.data() + text.size());
+    return (fonts_.Cell(style, first).flags & GlyphCell::kMissing) != 0 ? "\uFFFD" : text;
 }
 
 void PdfPage::ShowGlyph(const ShapedGlyph& glyph, std::int32_t adjustment) {

@@ -82,6 +82,7 @@ class PdfPage {
     void SetLineWidth(double width);
     void ShowPlain(FontStyle style, Hundredths size, std::string_view utf8);
     void ShowShaped(FontStyle style, Hundredths size, std::string_view utf8);
+    std::string_view TextOf(const ShapedGlyph& glyph, FontStyle style, std::string_view utf8);
     void ShowGlyph(const ShapedGlyph& glyph, std::int32_t adjustment);
     Hundredths FromBottom(double y) const { return height_hundredths_ - ToHundredths(y); }
     Hundredths Rise(const ShapedGlyph& glyph, Hundredths size) const;

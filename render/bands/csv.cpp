@@ -1,0 +1,140 @@
+#include "render/bands/csv.h"
+
+#include <charconv>
+#include <stdexcept>
+
+#include "render/bands/csv_quote.h"
+
+namespace varnel::render {
+
+namespace {
+
+constexpr int kLeastDecimals = 2;
+
+bool IsColumn(const ControlLayout& control) { return !control.column.empty(); }
+
+void AppendValue(std::string& out, const Control& control) {
+    const ControlValue& value = control.Value();
+    if (const auto* amount = std::get_if<Currency>(&value)) {
+        amount->AppendText(out, kLeastDecimals);
+    } else if (const auto* date = std::get_if<Date>(&value)) {
+        date->AppendIso(out);
+    } else if (const auto* count = std::get_if<std::int32_t>(&value)) {
+        char digits[16];
+        out.append(digits, std::to_chars(digits, digits + sizeof digits, *count).ptr);
+    } else {
+        AppendCsvField(out, control.Text());
+    }
+}
+
+/// Every field is followed by a comma, so that levels can be put one after the other.
+void AppendFields(std::string& out, const Section& section) {
+    for (const Control& control : section.Controls()) {
+        if (!IsColumn(control.Design())) continue;
+        if (control.Visible()) AppendValue(out, control);
+        out += ',';
+    }
+}
+
+}  // namespace
+
+void CsvWriter::Begin(const engine::DocumentInfo&, const Surface& surface) {
+    ReadLayout(surface.Design());
+    WriteHeaderLine(surface.Design());
+}
+
+void CsvWriter::ReadLayout(const Layout& layout) {
+    groups_.clear();
+    for (const SectionLayout& section : layout.sections) {
+        if (section.kind == SectionKind::kGroupHeader) AddGroup(section);
+        if (section.kind == SectionKind::kGroupFooter) PairFooter(section);
+    }
+}
+
+void CsvWriter::AddGroup(const SectionLayout& header) {
+    Group group{.header = &header, .footer = nullptr, .fields = {}, .no_fields = {}};
+    for (const ControlLayout& control : header.controls) {
+        if (IsColumn(control)) group.no_fields += ',';
+    }
+    group.fields = group.no_fields;
+    groups_.push_back(std::move(group));
+}
+
+void CsvWriter::PairFooter(const SectionLayout& footer) {
+    for (auto group = groups_.rbegin(); group != groups_.rend(); ++group) {
+        if (group->footer != nullptr) continue;
+        group->footer = &footer;
+        return;
+    }
+}
+
+void CsvWriter::WriteHeaderLine(const Layout& layout) {
+    std::string& out = output_.Bytes();
+    const std::size_t start = out.size();
+    for (const SectionLayout& section : layout.sections) {
+        if (section.kind != SectionKind::kGroupHeader && section.kind != SectionKind::kDetail)
+            continue;
+        for (const ControlLayout& control : section.controls) {
+            if (!IsColumn(control)) continue;
+            AppendCsvField(out, control.column);
+            out += ',';
+        }
+    }
+    if (out.size() == start)
+        throw std::invalid_argument("The layout " + std::string(layout.name) +
+                                    " names no columns, so there is nothing to write as CSV; "
+                                    "choose another format");
+    EndLine(start);
+}
+
+void CsvWriter::Write(const Section& section, int depth) {
+    if (depth > 0) return;
+    switch (section.Kind()) {
+        case SectionKind::kDetail:
+            return WriteRecord(section);
+        case SectionKind::kGroupHeader:
+            return OpenGroup(section);
+        case SectionKind::kGroupFooter:
+            return CloseGroup(section.Design());
+        default:
+            return;
+    }
+}
+
+void CsvWriter::OpenGroup(const Section& header) {
+    bool inside = false;
+    for (Group& group : groups_) {
+        // What an inner group printed last belongs to another outer group now.
+        if (inside) group.fields = group.no_fields;
+        if (group.header != &header.Design()) continue;
+        inside = true;
+        group.fields.clear();
+        AppendFields(group.fields, header);
+    }
+}
+
+// The next group of this level may not print its header: it must not inherit this one's fields.
+void CsvWriter::CloseGroup(const SectionLayout& footer) {
+    for (Group& group : groups_) {
+        if (group.footer == &footer) group.fields = group.no_fields;
+    }
+}
+
+void CsvWriter::WriteRecord(const Section& detail) {
+    std::string& out = output_.Bytes();
+    const std::size_t start = out.size();
+    for (const Group& group : groups_) out += group.fields;
+    AppendFields(out, detail);
+    EndLine(start);
+}
+
+void CsvWriter::EndLine(std::size_t line_start) {
+    std::string& out = output_.Bytes();
+    out.pop_back();
+    // A record of one empty field would be an empty line, which readers skip.
+    if (out.size() == line_start) out += "\"\"";
+    out += "\r\n";
+    output_.EndRecord();
+}
+
+}  // namespace varnel::render

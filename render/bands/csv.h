@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/document.h"
+#include "render/output_buffer.h"
+
+namespace varnel::render {
+
+/// Writes the printed details of a report as comma-separated values: one header line with the
+/// layout's column names, then one record a detail, the fields of its groups first. docs/formats.md
+/// describes the format.
+///
+/// Begin throws std::invalid_argument when the layout names no columns.
+class CsvWriter final : public engine::BandSink {
+  public:
+    /// The sink must outlive the writer; it is neither flushed nor closed here.
+    explicit CsvWriter(ByteSink& sink) : output_(sink) {}
+
+    void Begin(const engine::DocumentInfo& info, const Surface& surface) override;
+    void Write(const Section& section, int depth) override;
+    void End() override { output_.HandOver(); }
+
+  private:
+    /// A group level: its fields as they go in front of each of its records, commas included.
+    struct Group {
+        const SectionLayout* header = nullptr;
+        const SectionLayout* footer = nullptr;
+        std::string fields;
+        std::string no_fields;  // As many commas as there are columns.
+    };
+
+    void ReadLayout(const Layout& layout);
+    void AddGroup(const SectionLayout& header);
+    void PairFooter(const SectionLayout& footer);
+    void WriteHeaderLine(const Layout& layout);
+    void OpenGroup(const Section& header);
+    void CloseGroup(const SectionLayout& footer);
+    void WriteRecord(const Section& detail);
+    void EndLine(std::size_t line_start);
+
+    OutputBuffer output_;
+    std::vector<Group> groups_;  // From the outside in.
+};
+
+}  // namespace varnel::render

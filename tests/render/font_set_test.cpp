@@ -1,0 +1,89 @@
+#include "render/fonts/font_set.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace varnel::render {
+namespace {
+
+constexpr FontStyle kStyles[] = {FontStyle::kRegular, FontStyle::kBold, FontStyle::kItalic,
+                                 FontStyle::kBoldItalic, FontStyle::kSemibold};
+
+std::string ErrorOf(const std::filesystem::path& folder) {
+    try {
+        FontSet fonts(folder);
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+TEST(FontSet, FiguresOfAStyleAreEquallyWide) {
+    FontSet fonts;
+    for (const FontStyle style : kStyles) {
+        const std::int64_t zero = fonts.Advance(style, "0");
+        EXPECT_GT(zero, 0);
+        for (const char* digit : {"1", "2", "3", "4", "5", "6", "7", "8", "9"}) {
+            EXPECT_EQ(fonts.Advance(style, digit), zero) << digit;
+        }
+    }
+}
+
+// The advances are those of the font's hmtx table, of 2048 units an em.
+TEST(FontSet, MeasuresInTheUnitOfTheSize) {
+    FontSet fonts;
+    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 2048, "0"), 1171);
+    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 2048, " "), 532);
+    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 2048, "0 0"), 1171 + 532 + 1171);
+    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 10, "00"), 10 * 2.0 * 1171 / 2048);
+    EXPECT_EQ(fonts.Width(FontStyle::kRegular, 10, ""), 0);
+}
+
+TEST(FontSet, TakesFromTheFallbackWhatTheFirstFaceLacks) {
+    FontSet fonts;
+    const GlyphCell& letter = fonts.Cell(FontStyle::kBold, U'A');
+    const GlyphCell& tick = fonts.Cell(FontStyle::kBold, U'\u2713');
+    EXPECT_EQ(fonts.Face(letter.face).PostScriptName(), "OpenSans-Bold");
+    EXPECT_EQ(fonts.Face(tick.face).PostScriptName(), "DejaVuSans-Bold");
+    EXPECT_NE(tick.glyph, 0);
+    EXPECT_EQ(tick.flags, GlyphCell::kPlain);
+}
+
+TEST(FontSet, ShowsTheReplacementForWhatNoFaceHas) {
+    FontSet fonts;
+    const GlyphCell& cell = fonts.Cell(FontStyle::kRegular, U'\u65E5');
+    EXPECT_EQ(cell.flags, GlyphCell::kMissing);
+    EXPECT_EQ(cell.glyph, fonts.Face(cell.face).Glyph(U'\uFFFD'));
+    EXPECT_GT(fonts.Advance(FontStyle::kRegular, "\xFF"), 0);
+}
+
+TEST(FontSet, FormattingCharactersTakeNoRoomAndControlsAreSpaces) {
+    FontSet fonts;
+    const auto width = [&](std::string_view text) {
+        return fonts.Advance(FontStyle::kRegular, text);
+    };
+    EXPECT_EQ(width("a\u00ADb\u200E"), width("ab"));
+    EXPECT_EQ(width("a\tb\n"), width("a b "));
+}
+
+TEST(FontSet, NamesMissingFileAndPackage) {
+    using testing::AllOf;
+    using testing::HasSubstr;
+    EXPECT_THAT(ErrorOf("/no-such-folder"), AllOf(HasSubstr("/no-such-folder/OpenSans-Regular.ttf"),
+                                                  HasSubstr("fonts-open-sans")));
+    ::setenv("VARNEL_FONT_DIR", "/nowhere", 1);
+    EXPECT_THROW(FontSet(), std::runtime_error);
+    ::unsetenv("VARNEL_FONT_DIR");
+}
+
+TEST(FontFace, RefusesAFileThatIsNoFont) {
+    EXPECT_THROW(FontFace("/etc/passwd"), std::runtime_error);
+    EXPECT_THROW(FontFace("/no-such-file.ttf"), std::runtime_error);
+}
+
+}  // namespace
+}  // namespace varnel::render

@@ -1,0 +1,76 @@
+#include "render/pdf/pdf_objects.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "tests/render/pdf_tools.h"
+
+namespace varnel::render {
+namespace {
+
+TEST(PdfObjects, RefusesAnObjectWrittenTwiceOrNotReserved) {
+    MemorySink sink;
+    PdfObjects objects(sink, 6);
+    const ObjectId id = objects.Reserve();
+    objects.WriteObject(id, "<<>>");
+    EXPECT_THROW(objects.WriteObject(id, "<<>>"), std::logic_error);
+    EXPECT_THROW(objects.WriteObject(id + 1, "<<>>"), std::logic_error);
+    EXPECT_THROW(objects.WriteObject(0, "<<>>"), std::logic_error);
+}
+
+TEST(PdfObjects, RefusesToFinishWithAReferenceToNothing) {
+    MemorySink sink;
+    PdfObjects objects(sink, 6);
+    const ObjectId id = objects.Reserve();
+    EXPECT_THROW(objects.Finish(id, id), std::logic_error);
+}
+
+TEST(PdfObjects, RefusesCompressionLevelsThatDoNotExist) {
+    MemorySink sink;
+    EXPECT_THROW(PdfObjects(sink, 13), std::invalid_argument);
+    EXPECT_THROW(PdfObjects(sink, -1), std::invalid_argument);
+    EXPECT_EQ(sink.Bytes(), "");
+}
+
+TEST(PdfObjects, TableSaysWhereEachObjectIs) {
+    MemorySink sink;
+    PdfObjects objects(sink, 6);
+    const ObjectId first = objects.Reserve();
+    const ObjectId second = objects.Reserve();
+    objects.WriteObject(second, "(second)");
+    objects.WriteObject(first, "(first)");
+    objects.Finish(first, second);
+    const std::string& file = sink.Bytes();
+    const std::size_t table = file.find("xref\n0 3\n") + std::string_view("xref\n0 3\n").size();
+    const auto offset = [&](std::size_t i) { return std::stoul(file.substr(table + 20 * i, 10)); };
+    EXPECT_EQ(file.substr(offset(1), 7), "1 0 obj");
+    EXPECT_EQ(file.substr(offset(2), 7), "2 0 obj");
+    EXPECT_THAT(file, testing::EndsWith("startxref\n" + std::to_string(file.find("xref\n0 3")) +
+                                        "\n%%EOF\n"));
+}
+
+// This is how links and other features are added beside the writer.
+TEST(PdfObjects, LetLaterFeaturesHangInTheirOwn) {
+    if (!HasTool("qpdf")) GTEST_SKIP() << "qpdf is not installed";
+    MemorySink sink;
+    FontSet fonts;
+    PdfWriter writer(sink, fonts);
+    PdfPage& page = writer.BeginPage(612, 792);
+    const ObjectId link = writer.Objects().Reserve();
+    writer.Objects().WriteObject(link,
+                                 "<</Type/Annot/Subtype/Link/Rect[0 0 9 9]"
+                                 "/A<</S/URI/URI(https://example.org)>>>>");
+    page.AddEntry("/Annots[" + std::to_string(link) + " 0 R]");
+    writer.AddCatalogEntry("/PageMode/UseThumbs");
+    writer.EndPage();
+    writer.Finish();
+    const TemporaryFile file(sink.Bytes());
+    const std::string text = RunTool("qpdf --qdf " + file.Path() + " -").output;
+    EXPECT_THAT(text, testing::HasSubstr("(https://example.org)"));
+    EXPECT_THAT(text, testing::HasSubstr("/PageMode /UseThumbs"));
+}
+
+}  // namespace
+}  // namespace varnel::render

@@ -1,0 +1,105 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+#include "tests/render/pdf_tools.h"
+
+namespace varnel::render {
+namespace {
+
+class PdfText : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!HasTool("pdftotext")) GTEST_SKIP() << "pdftotext is not installed";
+    }
+};
+
+TEST_F(PdfText, ComesBackAsItWentIn) {
+    for (const char* text :
+         {"Plain 0123456789 1,234.56", "(brackets) \\ back <slash> ]",
+          "Relev\u00E9 \u00E0 l\u2019\u00E9ch\u00E9ance \u2013 1\u2212234,56 \u20AC \u0153uvre",
+          "\u041F\u0440\u0438\u0432\u0435\u0442 \u03B5\u03BB\u03BB", "tick \u2713 arrow \u2190 end",
+          "q\u0308 x\u0323"}) {
+        EXPECT_EQ(ExtractText(MakePdf(text)), text);
+    }
+}
+
+TEST_F(PdfText, ComesBackFromEveryStyle) {
+    const std::string pdf = MakePdf([](PdfPage& page) {
+        double y = 0;
+        for (const FontStyle font : {FontStyle::kRegular, FontStyle::kBold, FontStyle::kItalic,
+                                     FontStyle::kBoldItalic, FontStyle::kSemibold}) {
+            page.Text(36, y += 30, {.font = font, .size = 12}, "Total \u00E9 1,234.56 \u2713");
+        }
+    });
+    EXPECT_EQ(Count(ExtractText(pdf), "Total \u00E9 1,234.56 \u2713"), 5u);
+}
+
+TEST_F(PdfText, HasOrdinarySpacesAlthoughNoBreakSpacesShareTheirGlyph) {
+    EXPECT_EQ(ExtractText(MakePdf("1\u00A0234 a b")), "1 234 a b");
+}
+
+TEST_F(PdfText, ShowsMalformedAndUnknownTextAsReplacements) {
+    EXPECT_EQ(ExtractText(MakePdf("a\xFF\xC3(b")), "a\uFFFD\uFFFD(b");
+    EXPECT_EQ(ExtractText(MakePdf("x\u65E5\u672Cy")), "x\uFFFD\uFFFDy");
+    EXPECT_EQ(ExtractText(MakePdf("e\u0301\u65E5\u672Cy")), "e\u0301\uFFFD\uFFFDy");
+}
+
+TEST_F(PdfText, KeepsHebrewInReadingOrder) {
+    const std::string hebrew = "\u05E9\u05DC\u05D5\u05DD";
+    EXPECT_THAT(ExtractText(MakePdf("Name " + hebrew)), testing::HasSubstr(hebrew));
+}
+
+TEST_F(PdfText, SurvivesShapedArabic) {
+    const std::string text = ExtractText(MakePdf("\u0628\u0646\u0643 123.45 USD"));
+    EXPECT_THAT(text, testing::HasSubstr("\u0628\u0646\u0643"));
+    EXPECT_THAT(text, testing::HasSubstr("123.45"));
+}
+
+TEST_F(PdfText, IsCompleteWhenHuge) {
+    std::string text;
+    for (int i = 0; i < 200'000; ++i) text += i % 1000 == 0 ? "\u2713" : "0";
+    const std::string pdf = MakePdf([&](PdfPage& page) { page.Text(0, 72, {.size = 0.01}, text); });
+    const TemporaryFile file(pdf);
+    const std::string content = RunTool("qpdf --qdf " + file.Path() + " - | grep -a Tj").output;
+    EXPECT_EQ(Count(content, "<0013"), 200u);
+    EXPECT_EQ(Count(content, "0013"), 199'800u);
+}
+
+/// The boxes "xMin xMax" of the words that poppler finds, in order.
+std::vector<std::pair<double, double>> WordEdges(const std::string& pdf) {
+    const TemporaryFile file(pdf);
+    std::istringstream lines(RunTool("pdftotext -bbox " + file.Path() + " -").output);
+    std::vector<std::pair<double, double>> edges;
+    const auto value = [](const std::string& line, const std::string& name) {
+        return std::stod(line.substr(line.find(name) + name.size() + 2));
+    };
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find("<word") == std::string::npos) continue;
+        edges.emplace_back(value(line, "xMin"), value(line, "xMax"));
+    }
+    return edges;
+}
+
+TEST_F(PdfText, StandsWhereItWasAlignedTo) {
+    const auto edges = WordEdges(MakePdf([](PdfPage& page) {
+        page.Text(100, 100, {}, "Left");
+        page.Text(300, 130, {}, "1,234,567.89", Align::kRight);
+        page.Text(300, 160, {.size = 9, .stretch = 60}, "1,234,567.89", Align::kRight);
+        page.Text(300, 190, {.font = FontStyle::kBold}, "Middle", Align::kCentre);
+        page.Text(300, 220, {}, "\u05E9\u05DC\u05D5\u05DD", Align::kRight);
+    }));
+    ASSERT_EQ(edges.size(), 5u);
+    EXPECT_NEAR(edges[0].first, 100, 0.02);
+    EXPECT_NEAR(edges[1].second, 300, 0.02);
+    EXPECT_NEAR(edges[2].second, 300, 0.02);
+    const double full = edges[1].second - edges[1].first;
+    EXPECT_NEAR(edges[2].second - edges[2].first, full * 0.6, 0.02);
+    EXPECT_NEAR((edges[3].first + edges[3].second) / 2, 300, 0.02);
+    EXPECT_NEAR(edges[4].second, 300, 0.02);
+}
+
+}  // namespace
+}  // namespace varnel::render
