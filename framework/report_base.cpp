@@ -93,10 +93,8 @@ std::string ReportBase::IReport_ReportTitle() {
 
 void ReportBase::ActiveReport_Initialize() {
     DesignedReport::ActiveReport_Initialize();
-    Guard("ActiveReport_Initialize", [&] {
-        Mark(), FillStandardHeader(GetSurface(), App(), IReport_ReportTitle());
-        Mark(), CurrentCompany().Balances().BeginRun();
-    });
+    Guard("ActiveReport_Initialize",
+          [&] { Mark(), FillStandardHeader(GetSurface(), App(), IReport_ReportTitle()); });
 }
 
 void ReportBase::ActiveReport_Terminate() { Data().Attach(nullptr); }

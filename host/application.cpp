@@ -1,5 +1,7 @@
 #include "host/application.h"
 
+#include "host/missing_service.h"
+
 namespace varnel {
 
 namespace {
@@ -10,6 +12,8 @@ std::weak_ptr<Application>& Running() {
 }
 
 }  // namespace
+
+DialogService& Application::Dialogs() { RaiseMissingService("dialogs"); }
 
 void SetRunningHost(std::weak_ptr<Application> application) { Running() = std::move(application); }
 

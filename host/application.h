@@ -82,7 +82,8 @@ class Application : public Object {
     virtual Context& CurrentContext() = 0;
     virtual Formats& GetFormats() = 0;
     virtual MessageService& Messages() = 0;
-    virtual DialogService& Dialogs() = 0;
+    /// Error 445 in a host that shows no dialogs.
+    virtual DialogService& Dialogs();
 };
 
 /// The application of the process, for code that was given none. The host sets it once; null until

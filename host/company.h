@@ -77,11 +77,13 @@ class Company {
     virtual bool UsesProjects() = 0;
 
     virtual CurrencyInfo& GetCurrencyInfo() = 0;
-    virtual BalanceService& Balances() = 0;
-    virtual BudgetService& Budgets() = 0;
-    virtual AccountTypes& GetAccountTypes() = 0;
-    virtual ChartOfAccounts& Accounts() = 0;
-    virtual ReconciliationHistory& Reconciliations() = 0;
+    // Services that some reports need. A host that runs only others may leave them: asking for one
+    // then raises error 445.
+    virtual BalanceService& Balances();
+    virtual BudgetService& Budgets();
+    virtual AccountTypes& GetAccountTypes();
+    virtual ChartOfAccounts& Accounts();
+    virtual ReconciliationHistory& Reconciliations();
 };
 
 /// Section of the account parameters that reports read.

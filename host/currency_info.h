@@ -41,25 +41,31 @@ class CurrencyInfo {
     virtual std::int32_t CieHomeCurrencyId() = 0;
     /// Whether the company works in more than one currency.
     virtual bool CieIsForeignCurrencyUsed() = 0;
-    virtual std::int32_t UnrealizedGainLossAcctId() = 0;
-    /// Fills rates, their date and the revaluation switch of `target` for the closing date.
-    /// `use_rate_table`: take what the company's own table says. `filter` is the report's filter,
-    /// split at "|".
-    virtual void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
-                                        std::span<const std::string> filter) = 0;
-    /// One foreign amount in home currency: at the rate of `rates` when it revalues, else at the
-    /// line's booked rate.
-    virtual Currency EvaluateValueWithExchangeRate(Rate booked_rate, std::int32_t currency_id,
-                                                   Currency foreign_amount,
-                                                   IExchangeRates& rates) = 0;
+    /// Account of the unrealized exchange gain or loss; 0 when the company has none.
+    virtual std::int32_t UnrealizedGainLossAcctId() { return 0; }
     /// Appends the amount in that currency's format: its own decimals, no code.
     virtual void FormatWorldCurrency(Currency amount, std::int32_t currency_id,
                                      std::string& out) = 0;
     /// Rounding service: half away from zero.
-    virtual Currency Round(Currency amount, int decimals) = 0;
+    virtual Currency Round(Currency amount, int decimals) {
+        return varnel::Round(amount, decimals);
+    }
     /// Amount × rate, rounded once.
-    virtual Currency RoundProduct(Currency amount, Rate rate, int decimals) = 0;
-    virtual Currencies& GetCurrencies() = 0;
+    virtual Currency RoundProduct(Currency amount, Rate rate, int decimals) {
+        return Multiply(amount, rate, decimals);
+    }
+
+    // What only reports that revalue need: error 445 in a host that leaves it out.
+    /// Fills rates, their date and the revaluation switch of `target` for the closing date.
+    /// `use_rate_table`: take what the company's own table says. `filter` is the report's filter,
+    /// split at "|".
+    virtual void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
+                                        std::span<const std::string> filter);
+    /// One foreign amount in home currency: at the rate of `rates` when it revalues, else at the
+    /// line's booked rate.
+    virtual Currency EvaluateValueWithExchangeRate(Rate booked_rate, std::int32_t currency_id,
+                                                   Currency foreign_amount, IExchangeRates& rates);
+    virtual Currencies& GetCurrencies();
 };
 
 }  // namespace varnel

@@ -1,0 +1,17 @@
+#include "host/company.h"
+
+#include "host/missing_service.h"
+
+namespace varnel {
+
+BalanceService& Company::Balances() { RaiseMissingService("balances"); }
+
+BudgetService& Company::Budgets() { RaiseMissingService("budgets"); }
+
+AccountTypes& Company::GetAccountTypes() { RaiseMissingService("account types"); }
+
+ChartOfAccounts& Company::Accounts() { RaiseMissingService("a chart of accounts"); }
+
+ReconciliationHistory& Company::Reconciliations() { RaiseMissingService("saved reconciliations"); }
+
+}  // namespace varnel
