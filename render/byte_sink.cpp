@@ -3,8 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <system_error>
 #include <utility>
 
@@ -37,7 +37,7 @@ DescriptorSink::DescriptorSink(int descriptor, std::string name)
 void DescriptorSink::Write(std::string_view bytes) {
     if (bytes.size() > kBufferSize - used_) Flush();
     if (bytes.size() >= kBufferSize) return WriteAll(bytes);
-    std::memcpy(buffer_.get() + used_, bytes.data(), bytes.size());
+    std::copy(bytes.begin(), bytes.end(), buffer_.get() + used_);
     used_ += bytes.size();
 }
 

@@ -34,11 +34,14 @@ class Ruler {
         return fonts_.NeedsShaping(style_, text) ? FitShaped(text, limit) : FitPlain(text, limit);
     }
 
-    /// The first place at or after `offset` that divides no character from its marks.
+    /// The first place at or after `offset` that divides no character from its marks. Looks ahead
+    /// no further than any writing goes, so that malformed text cannot make it slow.
     static std::size_t Boundary(std::string_view text, std::size_t offset) {
+        constexpr std::size_t kLookAhead = 64;
         std::size_t place = std::min(offset, text.size());
-        while (place < text.size() && (text[place] & '\xC0') == '\x80') ++place;
-        while (place < text.size()) {
+        const std::size_t last = std::min(place + kLookAhead, text.size());
+        while (place < last && (text[place] & '\xC0') == '\x80') ++place;
+        while (place < last) {
             const char* position = text.data() + place;
             if (!IsMark(DecodeUtf8(position, text.data() + text.size()))) break;
             place = static_cast<std::size_t>(position - text.data());
