@@ -11,10 +11,10 @@ namespace varnel::engine {
 
 /// What a whole output is about.
 struct DocumentInfo {
-    std::string title;
-    std::string company;
-    std::string language;  // "en-CA"
-    std::string creator;   // The program that made it.
+    std::string title = {};
+    std::string company = {};
+    std::string language = {};  // "en-CA"
+    std::string creator = {};   // The program that made it.
     std::string
         date;  // ISO, the session date: no clock, so that the same input gives the same bytes.
 };

@@ -36,12 +36,12 @@ class Formats {
     virtual void AppendShortDate(Date date, std::string& out) = 0;
     /// The general currency format: grouping, two decimals, no symbol: "1,234.50", "-1,234.50",
     /// "0.00".
-    virtual void AppendAmount(Currency amount, std::string& out) = 0;
+    virtual void AppendAmount(Currency amount, std::string& out) { AppendAmount(amount, 2, out); }
     /// The same with the given number of decimals, 0 to 4.
     virtual void AppendAmount(Currency amount, int decimals, std::string& out) = 0;
     /// A plain number with grouping, for percentages.
     virtual void AppendNumber(double value, int decimals, std::string& out) = 0;
-    virtual void AppendCount(std::int64_t count, std::string& out) = 0;
+    virtual void AppendCount(std::int64_t count, std::string& out) { out += std::to_string(count); }
 };
 
 /// Turns a user's criteria into words and into selections. Reports hand it the tables that criteria

@@ -27,18 +27,28 @@ class ReportData {
     bool EndOfData() const { return row_ == nullptr; }
     /// Columns of the current row; only when there is one.
     const Row& Current() const { return *row_; }
+    /// The unbound fields as they were with the current row; the same as Current() for a report
+    /// without a row set.
+    const Row& CurrentFields() const { return *shown_fields_; }
 
     // For the engine.
     /// Drops the rows of the last run and clears the fields.
     void Clear();
-    void Show(const Row* row) { row_ = row; }
+    void Show(const Row* row, const Row* fields = nullptr) {
+        row_ = row;
+        shown_fields_ = fields;
+    }
     const Row& Fields() const { return fields_; }
+    /// Copies the fields' values as they are now. Texts that were set over are dropped on the way,
+    /// so that fields set for every row take no more memory than those of one.
+    void CopyFields(Row& into);
 
   private:
     std::shared_ptr<Recordset> rows_;
     Columns field_names_;
     Row fields_;
     const Row* row_ = nullptr;
+    const Row* shown_fields_ = nullptr;
 };
 
 /// A report as the engine runs it: a surface, rows, and events. Section format events are the

@@ -64,17 +64,19 @@ class Company {
     /// hosts that keep a setting per object; reports pass an empty reference and -1.
     virtual std::string GetSetting(std::string_view name, std::string_view default_text,
                                    const ObjectRef& scope, std::int32_t index) = 0;
-    /// Internal id of the account with that role ("GLRtainEarn", "GLCurntEarn", "CustGLAR",
-    /// "SuppGLAP"); 0 when none.
-    virtual std::int32_t GetGLAccountParam(std::string_view name, std::string_view section) = 0;
     /// First day of the fiscal year that holds the date, else of the last one that begins before
     /// it, else 1 January.
     virtual Date FiscalYearStart(Date date) = 0;
     /// True when `from` lies before the fiscal-year start of `to`.
-    virtual bool PeriodTest(Date from, Date to) = 0;
+    virtual bool PeriodTest(Date from, Date to) { return from < FiscalYearStart(to); }
+    /// Internal id of the account with that role ("GLRtainEarn", "GLCurntEarn", "CustGLAR",
+    /// "SuppGLAP"); 0 when none.
+    virtual std::int32_t GetGLAccountParam(std::string_view, std::string_view /*section*/) {
+        return 0;
+    }
     /// Date from which inventory adjustments are posted to the ledger; none when they never are.
-    virtual std::optional<Date> ItemAdjustmentStart() = 0;
-    virtual bool UsesProjects() = 0;
+    virtual std::optional<Date> ItemAdjustmentStart() { return std::nullopt; }
+    virtual bool UsesProjects() { return false; }
 
     virtual CurrencyInfo& GetCurrencyInfo() = 0;
     // Services that some reports need. A host that runs only others may leave them: asking for one

@@ -55,7 +55,9 @@ class CompanyDatabase {
     virtual int DatabaseType() = 0;
     virtual std::shared_ptr<Command> NewCommand() = 0;
     /// The host's parameter binder: appends the values to the command in order.
-    virtual void BindParameters(Command& command, std::span<const Variant> parameters) = 0;
+    virtual void BindParameters(Command& command, std::span<const Variant> parameters) {
+        for (const auto& parameter : parameters) command.AppendParameter(parameter);
+    }
 };
 
 }  // namespace varnel

@@ -127,11 +127,15 @@ void Surface::Widen(Twips width) {
 
 void Surface::Save() {
     saved_.width = width_;
-    saved_.sections.clear();
-    saved_.controls.clear();
-    for (auto& section : sections_) {
-        saved_.sections.push_back(section.state_);
-        for (auto& control : section.controls_) saved_.controls.push_back(control.state_);
+    std::size_t controls = 0;
+    for (const auto& section : sections_) controls += section.controls_.size();
+    saved_.sections.resize(sections_.size());
+    saved_.controls.resize(controls);
+    auto section_state = saved_.sections.begin();
+    auto control_state = saved_.controls.begin();
+    for (const auto& section : sections_) {
+        *section_state++ = section.state_;
+        for (const auto& control : section.controls_) *control_state++ = control.state_;
     }
 }
 
