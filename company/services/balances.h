@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+
+#include "company/services/accounts.h"
+#include "host/balances.h"
+
+namespace varnel::company {
+
+/// Balances from GLDet: one grouped query per scope, kept until the next run.
+class LedgerBalances final : public BalanceService {
+  public:
+    LedgerBalances(CompanyDatabase& database, CompanyAccounts& accounts)
+        : database_(database), accounts_(accounts) {}
+
+    Currency AccountBalance(std::int32_t account_id, const BalanceScope& scope,
+                            bool in_foreign_currency) override;
+    /// Takes segment clause and projects from `scope`; its dates make no difference.
+    Currency EarningsBefore(Date date, const BalanceScope& scope) override;
+    void BeginRun() override { scopes_.clear(); }
+
+  private:
+    struct Balance {
+        Currency home, foreign;
+    };
+    using Balances = std::unordered_map<std::int32_t, Balance>;
+    struct ScopeHash {
+        std::size_t operator()(const BalanceScope& scope) const;
+    };
+    const Balances& BalancesOf(const BalanceScope& scope);
+    Balances Read(const BalanceScope& scope);
+
+    CompanyDatabase& database_;
+    CompanyAccounts& accounts_;
+    std::unordered_map<BalanceScope, Balances, ScopeHash> scopes_;
+};
+
+}  // namespace varnel::company

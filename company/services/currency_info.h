@@ -1,0 +1,48 @@
+#pragma once
+
+#include "company/services/account_params.h"
+#include "company/services/currencies.h"
+#include "host/application.h"
+#include "host/currency_info.h"
+
+namespace varnel::company {
+
+/// Currencies, rates and rounding over the company database.
+class CompanyCurrencyInfo final : public CurrencyInfo {
+  public:
+    CompanyCurrencyInfo(CompanyDatabase& database, CompanyCurrencies& currencies,
+                        AccountParams& params, Formats& formats)
+        : database_(database), currencies_(currencies), params_(params), formats_(formats) {}
+
+    std::int32_t CieHomeCurrencyId() override { return currencies_.HomeId(); }
+    bool CieIsForeignCurrencyUsed() override { return currencies_.ForeignUsed(); }
+    std::int32_t UnrealizedGainLossAcctId() override;
+
+    /// Sets the latest rate on or before the date for every foreign currency, the text of the date
+    /// (with an open end: of the newest rate) and the switch, which is on when the company works in
+    /// more than one currency. Without `use_rate_table` rates that `target` has already stay.
+    ///
+    /// A foreign currency without any rate raises error 5 naming currency and date, after all that
+    /// there is was set. `filter` makes no difference here.
+    void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
+                                std::span<const std::string> filter) override;
+    /// Rounded to four decimals. The amount itself in home currency and in a company of one
+    /// currency. Error 5 naming currency and date when `rates` revalues and has no rate.
+    Currency EvaluateValueWithExchangeRate(Rate booked_rate, std::int32_t currency_id,
+                                           Currency foreign_amount, IExchangeRates& rates) override;
+    void FormatWorldCurrency(Currency amount, std::int32_t currency_id, std::string& out) override;
+    Currency Round(Currency amount, int decimals) override;
+    Currency RoundProduct(Currency amount, Rate rate, int decimals) override;
+    Currencies& GetCurrencies() override { return currencies_; }
+
+  private:
+    void RequireRates(const RateCollection& rates, const std::string& date);
+    [[noreturn]] void RaiseNoRate(const std::string& codes, const std::string& date);
+
+    CompanyDatabase& database_;
+    CompanyCurrencies& currencies_;
+    AccountParams& params_;
+    Formats& formats_;
+};
+
+}  // namespace varnel::company
