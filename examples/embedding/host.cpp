@@ -1,5 +1,5 @@
 // A program of your own that prints a general journal: it offers its ledger to the library, asks
-// the factory for the report and writes it as text. Nothing but this file stands between the two.
+// the factory for the report and writes it as text.
 
 #include <iostream>
 #include <map>
