@@ -15,8 +15,8 @@ struct DocumentInfo {
     std::string company = {};
     std::string language = {};  // "en-CA"
     std::string creator = {};   // The program that made it.
-    std::string
-        date;  // ISO, the session date: no clock, so that the same input gives the same bytes.
+    /// ISO, the session date: no clock, so that the same input gives the same bytes.
+    std::string date = {};
 };
 
 /// Paper and margins in twips. The layout is centred between the margins' minimum and widened to
