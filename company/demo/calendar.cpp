@@ -35,8 +35,6 @@ int BusinessDaysLeftInMonth(Date date) {
     return left;
 }
 
-bool IsPayday(Date date) {
-    return Weekday(date) == 4 && (date.DayNumber() / 7) % 2 == 0;
-}
+bool IsPayday(Date date) { return Weekday(date) == 4 && (date.DayNumber() / 7) % 2 == 0; }
 
 }  // namespace varnel::company::demo

@@ -10,7 +10,15 @@
 namespace varnel::company::demo {
 
 /// Account types of the demo company. 6 and 7 are shown together as "other items".
-enum AccountType { kAsset = 1, kLiability, kEquity, kRevenue, kExpense, kOtherIncome, kOtherExpense };
+enum AccountType {
+    kAsset = 1,
+    kLiability,
+    kEquity,
+    kRevenue,
+    kExpense,
+    kOtherIncome,
+    kOtherExpense
+};
 
 /// A row's part in a statement. Posting accounts carry one of three roles by where they stand:
 /// inside a level-1 block, inside a level-2 block only, or outside both.
@@ -36,15 +44,23 @@ struct ChartRow {
     const char* gifi = nullptr;
     int currency = 0;
     const char* inactive = nullptr;  // "0", "1" or null
-    const char* note = nullptr;
-    bool bank = false;
     int budget = 0;  // dollars a month, debit positive, for a company of the reference size
+    bool bank = false;
 };
 
 inline constexpr std::size_t kChartRows = 178;
 extern const std::array<ChartRow, kChartRows> kChart;
 
-/// A row's place in `kChart`; its `InGLAcctId` is another number, so that neither is taken for the other.
+struct AccountNote {
+    const char* account;
+    const char* note;
+};
+
+inline constexpr std::size_t kAccountNotes = 10;
+extern const std::array<AccountNote, kAccountNotes> kNotes;
+
+/// A row's place in `kChart`. Its `InGLAcctId` is another number, so that neither is taken for the
+/// other.
 using AccountIndex = std::size_t;
 
 /// The row with this number; the number must be in the chart.

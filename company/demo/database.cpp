@@ -18,8 +18,9 @@ Database::Database(const std::filesystem::path& file) : file_(file) {
     handle_.reset(handle);
     if (result != SQLITE_OK) Fail();
     // The file is thrown away on any failure, so a rollback journal would protect nothing.
-    Execute("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA locking_mode = EXCLUSIVE;"
-            "PRAGMA cache_size = -32768; PRAGMA temp_store = FILE");
+    Execute(
+        "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA locking_mode = EXCLUSIVE;"
+        "PRAGMA cache_size = -32768; PRAGMA temp_store = FILE");
 }
 
 void Database::Execute(const char* sql) {
@@ -35,8 +36,9 @@ void Database::Fail() const {
 
 Statement::Statement(Database& database, std::string_view sql) : database_(database) {
     sqlite3_stmt* statement = nullptr;
-    const int result = sqlite3_prepare_v3(database.Handle(), sql.data(), static_cast<int>(sql.size()),
-                                          SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+    const int result =
+        sqlite3_prepare_v3(database.Handle(), sql.data(), static_cast<int>(sql.size()),
+                           SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
     statement_.reset(statement);
     if (result != SQLITE_OK) database.Fail();
 }

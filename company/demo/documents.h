@@ -31,7 +31,9 @@ bool RemitTaxes(Books& books, Date date);
 bool RemitPayroll(Books& books, Date date);
 bool ProvideForIncomeTaxes(Books& books, Date date);
 bool PayIncomeTaxes(Books& books, Date date);
-bool PayDividend(Books& books, Date date, Currency amount);
+bool PayEndingContract(Books& books, Date date);
+/// `wanted`, or as much of it as the bank account can spare.
+bool PayDividend(Books& books, Date date, Currency wanted);
 
 /// The balances that the company starts from, with the invoices that were unpaid then.
 void OpenBooks(Books& books);

@@ -2,9 +2,7 @@
 
 namespace varnel::company::demo {
 
-void Entry::Add(AccountIndex account, Currency amount) {
-    AddForeign(account, kHome, amount, kPar);
-}
+void Entry::Add(AccountIndex account, Currency amount) { AddForeign(account, kHome, amount, kPar); }
 
 void Entry::AddForeign(AccountIndex account, int currency, Currency foreign, Rate rate) {
     lines.push_back({.account = account,
@@ -27,8 +25,6 @@ void Entry::BalanceOn(const char* account) {
     if (!total.IsZero()) Add(account, -total);
 }
 
-void Entry::RoundOffOnLastLine() {
-    lines.back().amount -= Total();
-}
+void Entry::RoundOffOnLastLine() { lines.back().amount -= Total(); }
 
 }  // namespace varnel::company::demo

@@ -22,7 +22,8 @@ struct Line {
 };
 
 /// One entry of the ledger, built line by line; debits positive. Lines take the segment and the
-/// project that the entry holds when they are added; only income and expense lines take the project.
+/// project that the entry holds when they are added; only income and expense lines take the
+/// project.
 struct Entry {
     Date date;
     const char* source = "";

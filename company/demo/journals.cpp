@@ -59,8 +59,9 @@ bool MakeCardStatement(Books& books, Date date) {
     constexpr const char* kSpentOn[] = {"5410", "5430", "5470", "5480", "5310", "5485",
                                         "5240", "5480", "5470", "5330", "5940"};
     Random& random = books.random;
-    Entry entry = Begin(books, date, "Corporate card – purchases of week " +
-                                         std::to_string(1 + (date.Civil().day - 1) / 7));
+    Entry entry = Begin(
+        books, date,
+        "Corporate card – purchases of week " + std::to_string(1 + (date.Civil().day - 1) / 7));
     for (std::int64_t i = random.Between(3, 7); i > 0; --i) {
         if (random.Chance(60)) entry.segment = static_cast<int>(random.Between(1, 5));
         const char* account = random.Choose(kSpentOn);
@@ -174,7 +175,6 @@ bool MakeSundryEntry(Books& books, Date date) {
         {"Goods received from customs", "1110", "1120", 1'400'000},
         {"Gift cards sold through a partner", "1020", "2330", 12'000},
         {"Gift cards redeemed", "2330", "4120", 11'000},
-        {"Regional courier contract, last instalments", "5690", "1020", 21'000},
         {"Utilities correction", "5230", "5240", 4'200},
     };
     const Usual& usual = books.random.Choose(kSundry);
@@ -185,9 +185,13 @@ bool MakeSundryEntry(Books& books, Date date) {
     }
     if (debit == "2330") amount = std::min(amount, -books.Balance(usual.debit));
     if (amount <= Currency()) return false;
-    if (debit == "5690" && date.Civil().year > 2024) return false;
     const bool through_bank = debit == "1020" || credit == "1020";
     return PostUsual(books, through_bank ? date : MaybeBackdated(books, date), usual, amount);
+}
+
+bool PayEndingContract(Books& books, Date date) {
+    constexpr Usual kContract = {"Regional courier contract, last instalments", "5690", "1020", 0};
+    return PostUsual(books, date, kContract, books.Scaled(Dollars(240)));
 }
 
 }  // namespace varnel::company::demo

@@ -20,13 +20,20 @@ struct Kind {
 };
 
 constexpr Kind kKinds[] = {
-    {MakeSale, 230, Days::kAll},           {MakePurchase, 180, Days::kAll},
-    {MakeCustomerPayment, 65, Days::kAll}, {MakeDeposit, 30, Days::kAll},
-    {MakeCheque, 95, Days::kAll},          {MakeTransfer, 65, Days::kAll},
-    {MakeBankCharge, 75, Days::kAll},      {MakePayroll, 60, Days::kPaydays},
-    {MakeCardStatement, 55, Days::kAll},   {MakeAccrual, 40, Days::kMonthEnds},
-    {MakeAmortization, 25, Days::kMonthEnds}, {MakePrepaidUse, 15, Days::kMonthEnds},
-    {MakeProvision, 15, Days::kMonthEnds}, {MakeLoanPayment, 10, Days::kAll},
+    {MakeSale, 230, Days::kAll},
+    {MakePurchase, 180, Days::kAll},
+    {MakeCustomerPayment, 65, Days::kAll},
+    {MakeDeposit, 30, Days::kAll},
+    {MakeCheque, 95, Days::kAll},
+    {MakeTransfer, 65, Days::kAll},
+    {MakeBankCharge, 75, Days::kAll},
+    {MakePayroll, 60, Days::kPaydays},
+    {MakeCardStatement, 55, Days::kAll},
+    {MakeAccrual, 40, Days::kMonthEnds},
+    {MakeAmortization, 25, Days::kMonthEnds},
+    {MakePrepaidUse, 15, Days::kMonthEnds},
+    {MakeProvision, 15, Days::kMonthEnds},
+    {MakeLoanPayment, 10, Days::kAll},
     {MakeSundryEntry, 40, Days::kAll},
 };
 constexpr std::size_t kKindCount = std::size(kKinds);
@@ -116,7 +123,8 @@ class Keeper {
     bool Remit(Date day) {
         RemitTaxes(books_, day);
         RemitPayroll(books_, day);
-        const int month = day.Civil().month;
+        const auto [year, month, ignored] = day.Civil();
+        if (year == 2024) PayEndingContract(books_, day);
         if (month == 2) PayIncomeTaxes(books_, day);
         if (month == 4) PayDividend(books_, day, std::exchange(dividend_, Currency()));
         return true;

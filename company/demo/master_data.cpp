@@ -1,36 +1,42 @@
 #include "company/demo/master_data.h"
 
 #include <string>
+#include <string_view>
 
 #include "company/demo/calendar.h"
 #include "company/demo/chart.h"
 #include "company/demo/names.h"
+#include "company/services/setting_names.h"
 
 namespace varnel::company::demo {
 namespace {
 
 struct NamedValue {
-    const char* name;
+    std::string_view name;
     const char* value;
 };
 
 // schema/README.md says what they mean.
 constexpr NamedValue kSettings[] = {
-    {"CompanyName", kCompanyName},
-    {"Language", "en-CA"},
-    {"HomeCurrencyId", "1"},
-    {"UseForeignCurrency", "True"},
-    {"UseProjects", "True"},
+    {setting::kCompanyName, kCompanyName},
+    {setting::kLanguage, "en-CA"},
+    {setting::kHomeCurrencyId, "1"},
+    {setting::kUseForeignCurrency, "True"},
+    {setting::kUseProjects, "True"},
     {"UseAccountNumbers", "True"},
     {"AccountNumberHint", "9999"},
-    {"ItemAdjustGL", "True"},
-    {"ItemAdjustStartDate", "2024-07-01"},
-    {"SessionDate", "2026-10-31"},
+    {setting::kItemAdjustGL, "True"},
+    {setting::kItemAdjustStartDate, "2024-07-01"},
+    {setting::kSessionDate, "2026-10-31"},
 };
 
 constexpr NamedValue kAccountParams[] = {
-    {"GLRtainEarn", "3100"},       {"GLCurntEarn", "3300"},        {"CustGLAR", "1060"},
-    {"SuppGLAP", "2010"},          {"UnrealizedGainLoss", "5930"}, {"RealizedGainLoss", "5920"},
+    {"GLRtainEarn", "3100"},
+    {"GLCurntEarn", "3300"},
+    {account_param::kReceivable, "1060"},
+    {account_param::kPayable, "2010"},
+    {account_param::kUnrealizedGainLoss, "5930"},
+    {"RealizedGainLoss", "5920"},
 };
 
 void WriteCurrencies(Database& database) {
@@ -58,8 +64,10 @@ void WriteChart(Database& database) {
     for (AccountIndex i = 0; i < kChartRows; ++i) {
         const ChartRow& row = kChart[i];
         insert.Run(AccountId(i), row.number, row.descr, int{row.type}, int{row.role}, row.inactive,
-                   row.bank ? 1 : 0, row.note, row.gifi, KeyOrNull(row.currency));
+                   row.bank ? 1 : 0, nullptr, row.gifi, KeyOrNull(row.currency));
     }
+    Statement set_note(database, "UPDATE GLAcct SET Note = ? WHERE GLAcctId = ?");
+    for (const AccountNote& note : kNotes) set_note.Run(note.note, note.account);
 }
 
 void WriteAccountTypes(Database& database) {

@@ -79,20 +79,32 @@ constexpr ServiceSupplier kServiceSuppliers[] = {
 };
 
 constexpr Product kProducts[] = {
-    {"Copper saucepan 18 cm", 14900, 1},   {"Cast-iron cocotte 5 L", 18950, 1},
-    {"Copper sauté pan 24 cm", 23900, 1},  {"Chef's knife 21 cm", 11450, 2},
-    {"Paring knife", 3975, 2},             {"Maple cutting board", 6895, 2},
-    {"Tart ring 20 cm", 1425, 3},          {"Madeleine mould", 2650, 3},
-    {"Proofing basket", 2995, 3},          {"Stoneware dinner plate", 2175, 4},
-    {"Soup bowl, celadon", 1850, 4},       {"Serving platter", 5490, 4},
-    {"Linen tablecloth 150 × 250", 12900, 5}, {"Cotton apron", 3850, 5},
-    {"Tea towels, set of four", 3125, 5},  {"Stand mixer", 42900, 6},
-    {"Espresso grinder", 27950, 6},        {"Hand blender", 9825, 6},
+    {"Copper saucepan 18 cm", 14900, 1},
+    {"Cast-iron cocotte 5 L", 18950, 1},
+    {"Copper sauté pan 24 cm", 23900, 1},
+    {"Chef's knife 21 cm", 11450, 2},
+    {"Paring knife", 3975, 2},
+    {"Maple cutting board", 6895, 2},
+    {"Tart ring 20 cm", 1425, 3},
+    {"Madeleine mould", 2650, 3},
+    {"Proofing basket", 2995, 3},
+    {"Stoneware dinner plate", 2175, 4},
+    {"Soup bowl, celadon", 1850, 4},
+    {"Serving platter", 5490, 4},
+    {"Linen tablecloth 150 × 250", 12900, 5},
+    {"Cotton apron", 3850, 5},
+    {"Tea towels, set of four", 3125, 5},
+    {"Stand mixer", 42900, 6},
+    {"Espresso grinder", 27950, 6},
+    {"Hand blender", 9825, 6},
 };
 
 constexpr CodeAndName kSegments[] = {
-    {"RET", "Boutique, rue des Érables"}, {"WHO", "Wholesale"},         {"WEB", "Online store"},
-    {"HOT", "Hotels & restaurants"},      {"EXP", "Export – United States and Europe"},
+    {"RET", "Boutique, rue des Érables"},
+    {"WHO", "Wholesale"},
+    {"WEB", "Online store"},
+    {"HOT", "Hotels & restaurants"},
+    {"EXP", "Export – United States and Europe"},
 };
 
 constexpr CodeAndName kProjects[] = {

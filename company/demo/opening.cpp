@@ -34,8 +34,8 @@ Currency Hundreds(Currency amount) {
 }
 
 void AddOpenInvoice(Books& books, const char* source, const OpenItem& item, int currency) {
-    const std::string number = (source == std::string_view("INV") ? "F" : "A") +
-                               std::to_string(90'000 + item.invoice);
+    const std::string number =
+        (source == std::string_view("INV") ? "F" : "A") + std::to_string(90'000 + item.invoice);
     books.Record(InvoiceRecord{item.invoice, number, source, item.name, currency, item.rate, 0});
     const auto slot = static_cast<std::size_t>(currency);
     (source == std::string_view("INV") ? books.receivables : books.payables)[slot].Add(item);
@@ -61,10 +61,12 @@ Currency AddOpenInvoices(Books& books, const char* source, const Parties& partie
     for (std::int64_t i = 0; i < count; ++i) {
         const std::size_t party = PickParty(books.random, parties, side.currency);
         AddOpenInvoice(books, source,
-                       {.invoice = books.NextInvoice(), .party = static_cast<int>(party),
+                       {.invoice = books.NextInvoice(),
+                        .party = static_cast<int>(party),
                         .name = parties[party].name,
                         .due = BooksBegin() + static_cast<int>(2 + i * 50 / count),
-                        .rate = rate, .open = each},
+                        .rate = rate,
+                        .open = each},
                        side.currency);
         total += each;
     }
@@ -83,10 +85,9 @@ void AddForeignOpenings(Books& books, Entry& entry) {
                          rate(currency));
     }
     for (const OpenSide side : kReceivable) {
-        entry.AddForeign(
-            ReceivableAccount(side.currency), side.currency,
-            AddOpenInvoices(books, "INV", Customers(), side, rate(side.currency)),
-            rate(side.currency));
+        entry.AddForeign(ReceivableAccount(side.currency), side.currency,
+                         AddOpenInvoices(books, "INV", Customers(), side, rate(side.currency)),
+                         rate(side.currency));
     }
     for (const OpenSide side : kPayable) {
         entry.AddForeign(PayableAccount(side.currency), side.currency,

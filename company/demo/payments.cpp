@@ -112,9 +112,13 @@ bool MakeCustomerPayment(Books& books, Date date) {
     const auto most = static_cast<std::size_t>(books.random.Between(1, 2));
     const auto taken = TakeReceivables(books, date, most, currency);
     if (taken.empty()) return false;
-    Payment payment{.entry = {.date = date, .source = "PMT"}, .type = 1, .direction = 1,
-                    .currency = currency, .rate = books.rates.ForDocument(currency, date),
-                    .control = ReceivableAccount(currency), .discount_account = "4210",
+    Payment payment{.entry = {.date = date, .source = "PMT"},
+                    .type = 1,
+                    .direction = 1,
+                    .currency = currency,
+                    .rate = books.rates.ForDocument(currency, date),
+                    .control = ReceivableAccount(currency),
+                    .discount_account = "4210",
                     .settled = {}};
     payment.entry.description = std::string("Payment received – ") + taken.front().name;
     if (books.random.Chance(750)) {
@@ -136,12 +140,16 @@ bool MakeDeposit(Books& books, Date date) {
     for (std::int64_t more = books.random.Between(1, 3); more > 0; --more) {
         for (const OpenItem& item : items.TakeDue(date, 1, kNoLimit)) taken.push_back(item);
     }
-    Payment payment{.entry = {.date = date, .source = "DEP"}, .type = 3, .direction = 1,
-                    .currency = currency, .rate = books.rates.ForDocument(currency, date),
-                    .control = ReceivableAccount(currency), .discount_account = "4210",
+    Payment payment{.entry = {.date = date, .source = "DEP"},
+                    .type = 3,
+                    .direction = 1,
+                    .currency = currency,
+                    .rate = books.rates.ForDocument(currency, date),
+                    .control = ReceivableAccount(currency),
+                    .discount_account = "4210",
                     .settled = {}};
-    payment.entry.description = "Deposit of " + std::to_string(taken.size()) +
-                                (taken.size() == 1 ? " cheque" : " cheques");
+    payment.entry.description =
+        "Deposit of " + std::to_string(taken.size()) + (taken.size() == 1 ? " cheque" : " cheques");
     payment.entry.reference = "D" + date.ToIso();
     for (const OpenItem& item : taken) payment.settled.push_back({item, item.open, Currency()});
     PostPayment(books, payment);
@@ -152,9 +160,13 @@ bool MakeCheque(Books& books, Date date) {
     int currency = kHome;
     const auto taken = TakePayables(books, date, currency);
     if (taken.empty()) return false;
-    Payment payment{.entry = {.date = date, .source = "CDI"}, .type = 2, .direction = -1,
-                    .currency = currency, .rate = books.rates.ForDocument(currency, date),
-                    .control = PayableAccount(currency), .discount_account = "5093",
+    Payment payment{.entry = {.date = date, .source = "CDI"},
+                    .type = 2,
+                    .direction = -1,
+                    .currency = currency,
+                    .rate = books.rates.ForDocument(currency, date),
+                    .control = PayableAccount(currency),
+                    .discount_account = "5093",
                     .settled = {}};
     payment.entry.description = std::string("Cheque – ") + taken.front().name;
     payment.entry.reference = std::to_string(4'000 + books.NextBankDocument());

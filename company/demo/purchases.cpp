@@ -29,24 +29,32 @@ void PostBill(Books& books, Bill& bill) {
     entry.lines.front().amount -= entry.Total();
     entry.source = "PUR";
     entry.key = books.NextInvoice();
-    const std::string number = std::to_string(books.random.Between(1'000, 99'999)) + "-" +
-                               std::to_string(entry.key);
+    const std::string number =
+        std::to_string(books.random.Between(1'000, 99'999)) + "-" + std::to_string(entry.key);
     entry.description = std::string("Supplier invoice – ") + bill.name;
     entry.reference = books.random.Chance(60) ? "" : number;
     books.Post(entry);
     books.Record(InvoiceRecord{entry.key, number, "PUR", bill.name, bill.currency, bill.rate,
                                entry.segment});
     books.payables[static_cast<std::size_t>(bill.currency)].Add(
-        {.invoice = entry.key, .party = bill.party, .name = bill.name, .segment = entry.segment,
-         .due = entry.date + bill.days_to_pay, .rate = bill.rate, .open = gross});
+        {.invoice = entry.key,
+         .party = bill.party,
+         .name = bill.name,
+         .segment = entry.segment,
+         .due = entry.date + bill.days_to_pay,
+         .rate = bill.rate,
+         .open = gross});
 }
 
 void BuyGoods(Books& books, Date date) {
     Random& random = books.random;
     const std::int64_t party = random.Between(0, std::ssize(Makers()) - 1);
     const Maker& maker = Makers()[static_cast<std::size_t>(party)];
-    Bill bill{.entry = {.date = date}, .party = static_cast<int>(party), .name = maker.name,
-              .currency = maker.currency, .days_to_pay = maker.days_to_pay,
+    Bill bill{.entry = {.date = date},
+              .party = static_cast<int>(party),
+              .name = maker.name,
+              .currency = maker.currency,
+              .days_to_pay = maker.days_to_pay,
               .rate = books.rates.ForDocument(maker.currency, date)};
     books.PickSegmentAndProject(bill.entry);
     const bool shipped = maker.currency != kHome && random.Chance(150) &&
@@ -74,8 +82,12 @@ void BuyService(Books& books, Date date) {
     Random& random = books.random;
     std::size_t place = 0;
     const ServiceSupplier& supplier = PickService(random, place);
-    Bill bill{.entry = {.date = date}, .party = kFirstServiceParty + static_cast<int>(place),
-              .name = supplier.name, .currency = kHome, .days_to_pay = 26, .rate = kPar};
+    Bill bill{.entry = {.date = date},
+              .party = kFirstServiceParty + static_cast<int>(place),
+              .name = supplier.name,
+              .currency = kHome,
+              .days_to_pay = 26,
+              .rate = kPar};
     books.PickSegmentAndProject(bill.entry);
     const Currency net = Cents(random.About(supplier.usual_amount * 100, 40));
     const Currency second = random.Chance(150) ? Share(net, 30, 100) : Currency();

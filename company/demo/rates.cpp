@@ -41,8 +41,7 @@ Date RateTable::End() { return Date::FromYearMonthDay(2026, 12, 31); }
 
 Rate RateTable::On(int currency, Date date) const {
     if (currency == kHome) return kPar;
-    return rates_[static_cast<std::size_t>(currency)]
-        .at(static_cast<std::size_t>(date - Begin()));
+    return rates_[static_cast<std::size_t>(currency)].at(static_cast<std::size_t>(date - Begin()));
 }
 
 Rate RateTable::ForDocument(int currency, Date date) const {

@@ -19,7 +19,8 @@ AccountIndex LineAccount(const char* first, int line) {
 // Quantities follow from what a line of the product is usually sold for; the dollar and euro lists
 // are lower because the home price is.
 SoldLine Sell(Random& random, const Product& product, int currency) {
-    constexpr std::int64_t kUsualCents[] = {0, 336'000, 280'000, 210'000, 308'000, 190'000, 395'000};
+    constexpr std::int64_t kUsualCents[] = {0,       336'000, 280'000, 210'000,
+                                            308'000, 190'000, 395'000};
     constexpr std::int64_t kListPercent[] = {0, 100, 74, 68};
     const std::int64_t price = product.price_cents * kListPercent[currency] / 100;
     const std::int64_t usual = random.About(kUsualCents[product.line], 75);
@@ -76,8 +77,7 @@ void AddSaleLines(Entry& entry, Random& random, const Customer& customer, Rate r
 void AddCosts(Entry& entry, Random& random, Rate rate, const std::vector<SoldLine>& sold) {
     Currency total;
     for (const SoldLine& line : sold) {
-        const Currency cost =
-            Share(Multiply(line.amount, rate, 2), random.Between(545, 600), 1000);
+        const Currency cost = Share(Multiply(line.amount, rate, 2), random.Between(545, 600), 1000);
         entry.Add(LineAccount("50", line.line), cost);
         total += cost;
     }
@@ -113,8 +113,12 @@ bool MakeSale(Books& books, Date date) {
     books.Record(InvoiceRecord{entry.key, number, "INV", customer.name, customer.currency, rate,
                                entry.segment});
     books.receivables[static_cast<std::size_t>(customer.currency)].Add(
-        {.invoice = entry.key, .party = static_cast<int>(party), .name = customer.name,
-         .segment = entry.segment, .due = date + customer.days_to_pay, .rate = rate,
+        {.invoice = entry.key,
+         .party = static_cast<int>(party),
+         .name = customer.name,
+         .segment = entry.segment,
+         .due = date + customer.days_to_pay,
+         .rate = rate,
          .open = gross});
     return true;
 }

@@ -8,7 +8,8 @@ namespace {
 
 // Pays what the accounts hold. An account with a balance of zero gets no line.
 template <std::size_t N>
-bool PayBalances(Books& books, Date date, const char* description, const char* const (&accounts)[N]) {
+bool PayBalances(Books& books, Date date, const char* description,
+                 const char* const (&accounts)[N]) {
     Entry entry{.date = date};
     entry.description = description;
     for (const char* account : accounts) {
@@ -41,7 +42,8 @@ bool PayIncomeTaxes(Books& books, Date date) {
 
 bool ProvideForIncomeTaxes(Books& books, Date date) {
     constexpr int kTaxPercent = 16;
-    const Currency amount = Share(std::max(books.ProfitBeforeTaxes(), Currency()), kTaxPercent, 100);
+    const Currency amount =
+        Share(std::max(books.ProfitBeforeTaxes(), Currency()), kTaxPercent, 100);
     if (amount.IsZero()) return false;
     Entry entry{.date = MonthEnd(date)};
     entry.description = "Provision for income taxes";
@@ -51,7 +53,9 @@ bool ProvideForIncomeTaxes(Books& books, Date date) {
     return true;
 }
 
-bool PayDividend(Books& books, Date date, Currency amount) {
+bool PayDividend(Books& books, Date date, Currency wanted) {
+    const Currency spare = books.Balance("1020") - books.Scaled(Dollars(26'000));
+    const Currency amount = std::min(wanted, spare);
     if (amount <= Currency()) return false;
     Entry entry{.date = date};
     entry.description = "Dividend to shareholders";

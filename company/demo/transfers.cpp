@@ -12,6 +12,11 @@ Currency Amount(Books& books, std::int64_t dollars) {
     return std::min(usual, std::max(books.Scaled(Dollars(dollars * 2)), Dollars(200)));
 }
 
+// A level that grows with the company but keeps enough in a small one to pay its largest invoice.
+Currency Level(const Books& books, std::int64_t dollars, std::int64_t least) {
+    return std::max(books.Scaled(Dollars(dollars)), Dollars(least));
+}
+
 bool PostTransfer(Books& books, Entry& entry, const char* description) {
     entry.source = "BKT";
     entry.key = books.NextBankDocument();
@@ -55,8 +60,8 @@ bool CoverShortage(Books& books, Date date) {
 bool LevelForeignAccount(Books& books, Date date) {
     for (const int currency : {kUsd, kEur}) {
         const Currency balance = books.OwnBalance(BankAccount(currency));
-        if (balance < books.Scaled(Dollars(7'000))) return Convert(books, date, currency, 1);
-        if (balance > books.Scaled(Dollars(24'000))) return Convert(books, date, currency, -1);
+        if (balance < Level(books, 10'500, 10'500)) return Convert(books, date, currency, 1);
+        if (balance > Level(books, 27'000, 27'000)) return Convert(books, date, currency, -1);
     }
     return false;
 }
@@ -64,11 +69,11 @@ bool LevelForeignAccount(Books& books, Date date) {
 bool UseSurplus(Books& books, Date date) {
     const Currency bank = books.Balance("1020");
     const Currency owed = -books.Balance("2310");
-    if (owed > Currency() && bank > books.Scaled(Dollars(60'000))) {
+    if (owed > Currency() && bank > Level(books, 60'000, 30'000)) {
         return Move(books, date, "1020", "2310", std::min(owed, Amount(books, 9'000)),
                     "Repayment of line of credit");
     }
-    if (bank > books.Scaled(Dollars(95'000))) {
+    if (bank > Level(books, 95'000, 45'000)) {
         return Move(books, date, "1020", "1045", Amount(books, 9'000), "Transfer to savings");
     }
     return false;
@@ -94,11 +99,11 @@ bool MoveSmallChange(Books& books, Date date) {
 }  // namespace
 
 bool IsShortOfCash(const Books& books) {
-    return books.Balance("1020") < books.Scaled(Dollars(26'000));
+    return books.Balance("1020") < Level(books, 26'000, 13'000);
 }
 
 bool MakeTransfer(Books& books, Date date) {
-    if (books.Balance("1020") < books.Scaled(Dollars(36'000))) return CoverShortage(books, date);
+    if (books.Balance("1020") < Level(books, 36'000, 19'000)) return CoverShortage(books, date);
     return LevelForeignAccount(books, date) || UseSurplus(books, date) || PayCard(books, date) ||
            MoveSmallChange(books, date);
 }
