@@ -1,0 +1,79 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "company/database_company.h"
+#include "company/filter/filter_tool.h"
+#include "company/formats/locale_formats.h"
+#include "company/texts/messages.h"
+#include "company/texts/texts.h"
+#include "host/application.h"
+
+namespace varnel::company {
+
+struct HostOptions {
+    /// Locale of texts and formats, for example "fr-CA". Empty takes the company's setting Language,
+    /// else "en-CA".
+    std::string language;
+    DateStyle date_style = DateStyle::kIso;
+    /// When not given: the company's setting SessionDate, else today.
+    std::optional<Date> session_date;
+    /// What reports are told about the database: 1 for SQLite when not given.
+    std::optional<int> database_type;
+    /// Takes the text of each message box; null drops it, the box is counted all the same.
+    HostMessages::Sink message_sink;
+    /// Called once for each text number that has no text; null stays silent.
+    Texts::MissingText missing_text;
+    /// Shows the reports' dialogs; null is a service that leaves every choice as it stands and
+    /// clicks OK.
+    std::shared_ptr<DialogService> dialogs;
+};
+
+/// The reference host: an application that works in one company over its database.
+class CompanyHost final : public Application, public Context {
+  public:
+    CompanyHost(std::unique_ptr<CompanyDatabase> database, const HostOptions& options);
+
+    std::string GetText(std::int16_t number) override { return texts_.Get(number); }
+    varnel::Date SessionDate() override { return session_date_; }
+    Context& CurrentContext() override { return *this; }
+    Formats& GetFormats() override { return formats_; }
+    HostMessages& Messages() override { return messages_; }
+    DialogService& Dialogs() override { return *dialogs_; }
+
+    Company& CurrentCompany() override { return company_; }
+    CompanyDatabase& Database() override { return *database_; }
+
+    varnel::company::Language Language() const { return language_; }
+    /// A filter tool for one report. It may be kept, but not used, after the host is gone.
+    std::shared_ptr<CompanyFilterTool> NewFilterTool();
+
+  private:
+    std::unique_ptr<CompanyDatabase> database_;
+    Settings settings_;
+    std::string locale_;
+    varnel::company::Language language_;
+    Texts texts_;
+    LocaleFormats formats_;
+    HostMessages messages_;
+    Date session_date_;
+    std::shared_ptr<DialogService> dialogs_;
+    DatabaseCompany company_;
+};
+
+/// Opens the company database in the SQLite file at `path`. Raises an `Error` naming the file when
+/// it cannot be read or lacks a table or a column.
+///
+/// The host is not made the running one: a program that wants `RunningHost()` calls
+/// `SetRunningHost(host)`, and keeps the host alive.
+std::shared_ptr<CompanyHost> OpenCompany(const std::string& path, const HostOptions& options = {});
+
+/// The same over any database; `name` stands for it in messages. `options.database_type` makes no
+/// difference: the database knows.
+std::shared_ptr<CompanyHost> OpenCompany(std::unique_ptr<CompanyDatabase> database,
+                                         const std::string& name, const HostOptions& options = {});
+
+}  // namespace varnel::company
