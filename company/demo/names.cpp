@@ -123,8 +123,7 @@ constexpr const char* kRemarkTexts[] = {
     "Réparti entre la boutique et le site selon les ventes du mois.",
     "Correction of an entry that was coded to the wrong account.",
     "Amount estimated; the final invoice had not arrived when the period was closed.",
-    "Discussed with the auditors, who asked for the long form of this explanation so that the "
-    "reader of the journal understands why two segments share one cost.",
+    "Discussed with the auditors; two segments share this cost, and the long explanation is filed.",
 };
 
 }  // namespace

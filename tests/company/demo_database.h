@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 #include <unistd.h>
 
 #include <cstdint>
@@ -13,6 +12,8 @@
 #include <string>
 
 #include "company/demo/demo_company.h"
+
+struct sqlite3;
 
 namespace varnel::company {
 
@@ -47,30 +48,13 @@ inline std::string ReadAll(const std::filesystem::path& file) {
 /// A demo company to ask single integers of, with plain SQL.
 class DemoDatabase {
   public:
-    explicit DemoDatabase(std::int64_t lines, std::uint64_t seed = 1) {
-        const auto file = folder_ / "demo.db";
-        CreateDemoCompany(file,
-                          {.lines = lines, .seed = seed, .overwrite = false, .progress = nullptr});
-        sqlite3* handle = nullptr;
-        sqlite3_open_v2(file.c_str(), &handle, SQLITE_OPEN_READONLY, nullptr);
-        handle_.reset(handle);
-    }
+    explicit DemoDatabase(std::int64_t lines, std::uint64_t seed = 1);
 
-    std::int64_t Ask(const std::string& sql) const {
-        sqlite3_stmt* statement = nullptr;
-        EXPECT_EQ(sqlite3_prepare_v2(handle_.get(), sql.c_str(), -1, &statement, nullptr),
-                  SQLITE_OK)
-            << sqlite3_errmsg(handle_.get()) << "\n"
-            << sql;
-        EXPECT_EQ(sqlite3_step(statement), SQLITE_ROW) << sql;
-        const std::int64_t value = sqlite3_column_int64(statement, 0);
-        sqlite3_finalize(statement);
-        return value;
-    }
+    std::int64_t Ask(const std::string& sql) const;
 
   private:
     struct Close {
-        void operator()(sqlite3* handle) const { sqlite3_close(handle); }
+        void operator()(sqlite3* handle) const;
     };
     TemporaryFolder folder_;
     std::unique_ptr<sqlite3, Close> handle_;
