@@ -15,8 +15,8 @@
 namespace varnel::company {
 
 struct HostOptions {
-    /// Locale of texts and formats, for example "fr-CA". Empty takes the company's setting Language,
-    /// else "en-CA".
+    /// Locale of texts and formats, for example "fr-CA". Empty takes the company's setting
+    /// Language, else "en-CA".
     std::string language;
     DateStyle date_style = DateStyle::kIso;
     /// When not given: the company's setting SessionDate, else today.

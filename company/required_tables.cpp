@@ -63,8 +63,8 @@ void RequireColumns(const Columns& columns, const RequiredTable& table,
         const auto end = left.find(' ');
         const auto column = left.substr(0, end);
         if (!columns.Find(column).Valid())
-            RaiseNotACompany(database_name, "table " + std::string(table.name) +
-                                                " has no column " + std::string(column));
+            RaiseNotACompany(database_name, "table " + std::string(table.name) + " has no column " +
+                                                std::string(column));
         left.remove_prefix(end == std::string_view::npos ? left.size() : end + 1);
     }
 }

@@ -48,7 +48,8 @@ Button& OkButton(Form& form) {
 }  // namespace
 
 void ScriptedDialogs::Answer(Form& form) {
-    for (const auto& [name, value] : answers_) FindBox(form, name).checked = Variant(value).ToBool();
+    for (const auto& [name, value] : answers_)
+        FindBox(form, name).checked = Variant(value).ToBool();
 }
 
 void ScriptedDialogs::Record(Form& form) {

@@ -25,8 +25,9 @@ class ScriptedDialogs final : public DialogService {
 
     explicit ScriptedDialogs(Answers answers = {}) : answers_(std::move(answers)) {}
 
-    /// Clicks the button "cmdOk", or the first one. Raises error 5 naming dialog and check boxes for
-    /// an answer that belongs to none of them, and when the dialog has no button or does not close.
+    /// Clicks the button "cmdOk", or the first one. Raises error 5 naming dialog and check boxes
+    /// for an answer that belongs to none of them, and when the dialog has no button or does not
+    /// close.
     void ShowModal(Form& form) override;
     const std::vector<ShownDialog>& Shown() const { return shown_; }
 

@@ -22,8 +22,9 @@ class CompanyFilterTool final : public FilterTool {
     std::vector<std::string> SelectedDocuments() override { return documents_; }
     std::string Describe(std::string_view criteria) override;
     std::string DescribeOrdering(std::string_view ordering) override;
-    /// Criteria may name columns of GLAcct, and qualified ones of GLDet, WorldCurrency, ProjInfo and
-    /// Segment: an account matches when one of its lines does. Empty criteria match every account.
+    /// Criteria may name columns of GLAcct, and qualified ones of GLDet, WorldCurrency, ProjInfo
+    /// and Segment: an account matches when one of its lines does. Empty criteria match every
+    /// account.
     std::string ResolveAccounts(std::string_view criteria) override;
 
   private:

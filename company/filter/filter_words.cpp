@@ -79,8 +79,7 @@ std::string DescribeOrder(std::string_view ordering, Language language) {
         const bool end = tokens[i].kind == SqlTokenKind::kEndOfText;
         if (!end && (depth > 0 || tokens[i].text != ",")) continue;
         if (i > from)
-            description +=
-                (description.empty() ? "" : ", ") + OrderItem(tokens, from, i, language);
+            description += (description.empty() ? "" : ", ") + OrderItem(tokens, from, i, language);
         from = i + 1;
     }
     return description;

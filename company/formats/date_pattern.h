@@ -13,8 +13,8 @@ class DatePattern {
   public:
     /// The ISO form, "2025-03-31".
     DatePattern() = default;
-    /// Letters y, M and d as locale data uses them; text in apostrophes stands for itself. A pattern
-    /// with other letters (names of months, eras) gives the ISO form.
+    /// Letters y, M and d as locale data uses them; text in apostrophes stands for itself. A
+    /// pattern with other letters (names of months, eras) gives the ISO form.
     explicit DatePattern(std::string_view pattern);
 
     void Append(Date date, std::string& out) const;

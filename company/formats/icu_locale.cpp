@@ -25,8 +25,8 @@ std::string ToUtf8(std::u16string_view text) {
     char buffer[256];
     std::int32_t length = 0;
     UErrorCode status = U_ZERO_ERROR;
-    u_strToUTF8(buffer, sizeof buffer, &length, text.data(),
-                static_cast<std::int32_t>(text.size()), &status);
+    u_strToUTF8(buffer, sizeof buffer, &length, text.data(), static_cast<std::int32_t>(text.size()),
+                &status);
     if (U_FAILURE(status)) return {};
     return {buffer, static_cast<std::size_t>(length)};
 }

@@ -13,7 +13,8 @@ const std::unordered_map<std::int32_t, CompanyAccounts::Account>& CompanyAccount
     const auto rows = Query(database_, "SELECT InGLAcctId, AcctType, ExCurrencyId FROM GLAcct");
     for (; !rows->AtEnd(); rows->MoveNext()) {
         const Row& row = rows->Current();
-        const bool income = types_.Class(row.Integer(Column{1})) == AccountTypes::kIncomeStatementClass;
+        const bool income =
+            types_.Class(row.Integer(Column{1})) == AccountTypes::kIncomeStatementClass;
         accounts[row.Integer(Column{0})] = {row.Integer(Column{2}), income};
     }
     return accounts_.emplace(std::move(accounts));

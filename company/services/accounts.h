@@ -18,7 +18,8 @@ class CompanyAccounts final : public ChartOfAccounts {
 
     std::int32_t CurrencyOf(std::int32_t account_id) override;
     std::string OtherRevaluedAccountIds() override;
-    /// Whether an account's results go to the income statement; false for an id that no account has.
+    /// Whether an account's results go to the income statement; false for an id that no account
+    /// has.
     bool IsIncomeStatement(std::int32_t account_id);
 
   private:

@@ -19,8 +19,8 @@ const CompanyBudgets::Periods& CompanyBudgets::All() {
         const Period period{row.Day(Column{1}), row.Day(Column{2}), row.Amount(Column{3})};
         if (period.to < period.from)
             Raise(error_number::kInvalidArgument, "Budgets",
-                  "The budget of the account with the id " + std::to_string(account_id) +
-                      " from " + period.from.ToIso() + " ends before it begins");
+                  "The budget of the account with the id " + std::to_string(account_id) + " from " +
+                      period.from.ToIso() + " ends before it begins");
         periods[account_id].push_back(period);
     }
     return periods_.emplace(std::move(periods));

@@ -15,8 +15,7 @@ std::vector<DatedRate> RatesAt(CompanyDatabase& database, Date date) {
                             {date});
     for (; !rows->AtEnd(); rows->MoveNext()) {
         const Row& row = rows->Current();
-        rates.push_back(
-            {row.Integer(Column{0}), row.Day(Column{1}), row.ExchangeRate(Column{2})});
+        rates.push_back({row.Integer(Column{0}), row.Day(Column{1}), row.ExchangeRate(Column{2})});
     }
     return rates;
 }

@@ -3,7 +3,8 @@
 #include <string_view>
 
 /// Names in the tables CompanySetting and GLAccountParam that this host reads itself. Truth values
-/// are "True" and "False" (1, 0 and -1 are read too), dates are ISO, ids decimal. Names ignore case.
+/// are "True" and "False" (1, 0 and -1 are read too), dates are ISO, ids decimal. Names ignore
+/// case.
 namespace varnel::company {
 
 namespace setting {

@@ -22,8 +22,8 @@ class Texts {
 
     /// `missing` may be empty; it is called once for each number that is asked for and not there.
     Texts(Language language, MissingText missing);
-    /// Reads texts from a file like texts.tsv instead of the embedded one. Raises error 5 naming the
-    /// line that is not well formed.
+    /// Reads texts from a file like texts.tsv instead of the embedded one. Raises error 5 naming
+    /// the line that is not well formed.
     Texts(Language language, MissingText missing, std::string_view file);
 
     /// The text, or the number in decimal when there is none.
