@@ -77,6 +77,11 @@ std::size_t CellPrefix(std::string_view utf8, int columns) {
     return static_cast<std::size_t>(fitting - utf8.data());
 }
 
+std::string_view WithoutTrailingBlanks(std::string_view text) {
+    while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
+    return text;
+}
+
 void AppendCells(std::string& out, std::string_view utf8) {
     if (IsPrintableAscii(utf8)) {
         out += utf8;

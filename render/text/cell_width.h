@@ -13,6 +13,9 @@ int CellWidth(std::string_view utf8);
 /// character before them.
 std::size_t CellPrefix(std::string_view utf8, int columns);
 
+/// The text up to its last character that shows: AppendCells makes blanks of what is left out.
+std::string_view WithoutTrailingBlanks(std::string_view utf8);
+
 /// Appends the text as CellWidth counts it: control characters become spaces, so that no text can
 /// steer a terminal, and bytes that are not UTF-8 become U+FFFD.
 void AppendCells(std::string& out, std::string_view utf8);

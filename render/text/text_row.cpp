@@ -17,11 +17,6 @@ int NaturalStart(const TextCell& cell, int width) {
     return cell.left;
 }
 
-std::string_view WithoutTrailingBlanks(std::string_view text) {
-    while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
-    return text;
-}
-
 void AppendBlanks(std::string& out, int count) {
     if (count > 0) out.append(static_cast<std::size_t>(count), ' ');
 }

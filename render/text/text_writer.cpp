@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "render/text/cell_width.h"
 #include "render/text/text_measurer.h"
 
 namespace varnel::render {
@@ -17,13 +18,9 @@ constexpr Twips kHeavyRule = 30;
 
 bool IsRule(const engine::Item& item) { return item.kind == engine::ItemKind::kRule; }
 
-bool IsBlank(std::string_view text) {
-    return text.find_first_not_of(' ') == std::string_view::npos;
-}
-
 bool IsShown(const engine::Item& item, std::string_view text) {
     if (IsRule(item)) return item.box.width > item.box.height;
-    return item.kind == engine::ItemKind::kText && !IsBlank(text);
+    return item.kind == engine::ItemKind::kText && !WithoutTrailingBlanks(text).empty();
 }
 
 Twips Bottom(const engine::Item& item) {

@@ -156,7 +156,7 @@ TEST(Text, LeavesOutPageNumbersVerticalRulesAndBlankTexts) {
     page_number.kind = engine::ItemKind::kPageNumber;
     EXPECT_EQ(Write({{page_number, "Page {0} of {1}"},
                      {RuleItem({0, 0, 10, 240}), ""},
-                     {Left(0, 5), "   "}}),
+                     {Left(0, 5), " \t "}}),
               "");
 }
 
