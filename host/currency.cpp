@@ -17,9 +17,13 @@ Currency Currency::FromWhole(std::int64_t units) {
 }
 
 Currency Currency::FromDouble(double value) {
-    const double scaled = std::round(value * static_cast<double>(kScale));
-    if (!(std::abs(scaled) < 9.2e18)) Overflow();
-    return Currency(static_cast<std::int64_t>(scaled));
+    // The decimals alone are scaled: the product of the whole would have to be rounded to a binary
+    // number first, and is off by one above 2.7e11.
+    const double whole = std::trunc(value);
+    if (!(std::abs(whole) < 922'337'203'685'477.5)) Overflow();
+    const double decimals = std::round((value - whole) * static_cast<double>(kScale));
+    return FromWhole(static_cast<std::int64_t>(whole)) +
+           FromScaled(static_cast<std::int64_t>(decimals));
 }
 
 Currency Currency::Parse(std::string_view text) {

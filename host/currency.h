@@ -10,9 +10,10 @@ namespace varnel {
 /// An amount of money: a 64-bit integer scaled by 10,000, so four exact decimals. Debit positive,
 /// credit negative.
 ///
-/// Every operation is checked: a result that does not fit raises error 6 (overflow), it never
-/// wraps. Nothing rounds except where a function's name says so; rounding is half away from zero.
-/// The currency itself is not part of the value: it travels as an id beside it.
+/// Every operation is checked: a result that does not fit raises error 6 (overflow) and
+/// leaves the amount as it was, it never wraps. Nothing rounds except where a function's name says
+/// so; rounding is half away from zero. The currency itself is not part of the value: it travels as
+/// an id beside it.
 class Currency {
   public:
     static constexpr int kDecimals = 4;
@@ -40,11 +41,15 @@ class Currency {
     void AppendText(std::string& out, int least_decimals = kDecimals) const;
 
     Currency& operator+=(Currency other) {
-        if (__builtin_add_overflow(scaled_, other.scaled_, &scaled_)) Overflow();
+        std::int64_t sum = 0;
+        if (__builtin_add_overflow(scaled_, other.scaled_, &sum)) Overflow();
+        scaled_ = sum;
         return *this;
     }
     Currency& operator-=(Currency other) {
-        if (__builtin_sub_overflow(scaled_, other.scaled_, &scaled_)) Overflow();
+        std::int64_t difference = 0;
+        if (__builtin_sub_overflow(scaled_, other.scaled_, &difference)) Overflow();
+        scaled_ = difference;
         return *this;
     }
     friend Currency operator+(Currency a, Currency b) { return a += b; }

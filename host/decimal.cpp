@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <iterator>
 #include <limits>
 
 #include "host/error.h"
@@ -83,10 +84,18 @@ void Append(std::int64_t scaled, int decimals, int least, std::string& out) {
     out.append(buffer, static_cast<std::size_t>(digits));
 }
 
+void AppendDouble(double value, std::string& out) {
+    char buffer[30];
+    auto written = std::to_chars(buffer, std::end(buffer), value, std::chars_format::fixed);
+    if (written.ec != std::errc{})
+        written = std::to_chars(buffer, std::end(buffer), value, std::chars_format::scientific);
+    out.append(buffer, written.ptr);
+}
+
 std::int64_t Narrow(Int128 value, const char* what) {
     if (value > std::numeric_limits<std::int64_t>::max() ||
         value < std::numeric_limits<std::int64_t>::min())
-        Raise(error_number::kOverflow, "Varnel", std::string(what) + " is too large for an amount");
+        Raise(error_number::kOverflow, "Varnel", std::string(what) + " is too large");
     return static_cast<std::int64_t>(value);
 }
 

@@ -30,6 +30,10 @@ bool Parse(std::string_view text, int decimals, std::int64_t& scaled);
 /// zeros beyond them.
 void Append(std::int64_t scaled, int decimals, int least, std::string& out);
 
+/// Appends the shortest decimal text that reads back as `value`: "100000", "0.1", never "1e+05"
+/// unless it would take more than 30 characters.
+void AppendDouble(double value, std::string& out);
+
 /// The 64-bit value, or error 6 (overflow) naming `what`.
 std::int64_t Narrow(Int128 value, const char* what);
 
