@@ -53,8 +53,19 @@ void Row::Add(const Variant& value) {
 
 void Row::Set(Column column, const Variant& value) {
     Add(value);
+    RemoveText(cells_[column.index]);
     cells_[column.index] = cells_.back();
     cells_.pop_back();
+}
+
+// A field is set once a row: its former texts must not pile up.
+void Row::RemoveText(const Cell& cell) {
+    if (cell.kind != Kind::kText) return;
+    const Cell removed = cell;
+    texts_.erase(static_cast<std::size_t>(removed.integer), removed.length);
+    for (Cell& other : cells_)
+        if (other.kind == Kind::kText && other.integer > removed.integer)
+            other.integer -= removed.length;
 }
 
 void Row::Mismatch(Column column, const char* wanted) const {
@@ -84,7 +95,8 @@ std::int64_t Row::Integer64(Column column) const {
             std::int64_t value = 0;
             const auto text = TextOf(cell);
             const auto* end = text.data() + text.size();
-            if (std::from_chars(text.data(), end, value).ptr == end && !text.empty()) return value;
+            const auto read = std::from_chars(text.data(), end, value);
+            if (read.ec == std::errc{} && read.ptr == end) return value;
             break;
         }
     }
@@ -169,7 +181,7 @@ void Row::AppendText(Column column, std::string& out) const {
             out.append(buffer, std::to_chars(buffer, buffer + sizeof buffer, cell.integer).ptr);
             return;
         case Kind::kReal:
-            out.append(buffer, std::to_chars(buffer, buffer + sizeof buffer, cell.real).ptr);
+            decimal::AppendDouble(cell.real, out);
             return;
         case Kind::kAmount:
             Currency::FromScaled(cell.integer).AppendText(out, 0);

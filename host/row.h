@@ -104,6 +104,7 @@ class Row {
     std::string_view TextOf(const Cell& cell) const {
         return std::string_view(texts_).substr(static_cast<std::size_t>(cell.integer), cell.length);
     }
+    void RemoveText(const Cell& cell);
     [[noreturn]] void Mismatch(Column column, const char* wanted) const;
 
     std::vector<Cell> cells_;

@@ -103,8 +103,9 @@ std::string Variant::ToText() const {
     if (const auto* date = std::get_if<Date>(&value_)) return date->ToIso();
     if (const auto* amount = std::get_if<Currency>(&value_)) return amount->ToText(0);
     if (const auto* number = std::get_if<double>(&value_)) {
-        char buffer[64];
-        return {buffer, std::to_chars(buffer, buffer + sizeof buffer, *number).ptr};
+        std::string text;
+        decimal::AppendDouble(*number, text);
+        return text;
     }
     return std::to_string(ToInteger("text"));
 }
