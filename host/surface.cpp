@@ -45,20 +45,44 @@ constexpr Member<Control> kControlMembers[] = {
           "The layout " + std::string(layout.name) + " is not well formed: " + what);
 }
 
-void CheckLayout(const Layout& layout) {
-    int depth = 0;
-    int details = 0;
+bool IsGroup(SectionKind kind) {
+    return kind == SectionKind::kGroupHeader || kind == SectionKind::kGroupFooter;
+}
+
+void CheckOrder(const Layout& layout) {
     auto last = SectionKind::kReportHeader;
+    bool first = true;
     for (const auto& section : layout.sections) {
-        if (section.kind < last && !(last == SectionKind::kReportFooter))
+        const bool after_report_footer =
+            last == SectionKind::kReportFooter && section.kind == SectionKind::kPageFooter;
+        if (section.kind < last && !after_report_footer)
             RaiseMalformed(layout, "section " + std::string(section.name) + " is out of order");
+        if (section.kind == last && !first && !IsGroup(last))
+            RaiseMalformed(layout, "section " + std::string(section.name) + " is there twice");
         last = section.kind;
-        if (section.kind == SectionKind::kGroupHeader) ++depth;
-        if (section.kind == SectionKind::kGroupFooter) --depth;
-        if (section.kind == SectionKind::kDetail) ++details;
+        first = false;
     }
-    if (depth != 0) RaiseMalformed(layout, "group headers and footers do not pair");
-    if (details != 1) RaiseMalformed(layout, "it needs one detail section");
+}
+
+void CheckPairs(const Layout& layout) {
+    const auto count = [&](SectionKind kind) {
+        return std::ranges::count(layout.sections, kind, &SectionLayout::kind);
+    };
+    if (count(SectionKind::kGroupHeader) != count(SectionKind::kGroupFooter))
+        RaiseMalformed(layout, "group headers and footers do not pair");
+    if (count(SectionKind::kDetail) != 1) RaiseMalformed(layout, "it needs one detail section");
+}
+
+// Only the first of two would ever be found.
+void CheckNames(const Layout& layout) {
+    std::vector<std::string_view> names;
+    for (const auto& section : layout.sections)
+        for (const auto& control : section.controls) {
+            const auto same = [&](std::string_view name) { return SameName(name, control.name); };
+            if (!control.name.empty() && std::ranges::any_of(names, same))
+                RaiseMalformed(layout, "control " + std::string(control.name) + " is there twice");
+            names.push_back(control.name);
+        }
 }
 
 }  // namespace
@@ -90,7 +114,9 @@ bool Section::Format() {
 }
 
 Surface::Surface(const Layout& layout) : layout_(&layout), width_(layout.width) {
-    CheckLayout(layout);
+    CheckOrder(layout);
+    CheckPairs(layout);
+    CheckNames(layout);
     sections_.reserve(layout.sections.size());
     for (const auto& section : layout.sections) sections_.emplace_back(section);
     Save();
