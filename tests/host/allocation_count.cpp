@@ -1,0 +1,22 @@
+#include "tests/host/allocation_count.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::atomic<long> count = 0;
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+    ++count;
+    if (void* memory = std::malloc(size)) return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+long varnel::test::AllocationCount() { return count; }

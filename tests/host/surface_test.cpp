@@ -1,0 +1,103 @@
+#include "host/surface.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/host/error_matchers.h"
+
+namespace varnel {
+namespace {
+
+const Layout kLayout{
+    .name = "dsrTried",
+    .width = 1'000,
+    .sections = {
+        {.name = "PageHeader",
+         .kind = SectionKind::kPageHeader,
+         .height = 300,
+         .controls = {{.name = "lblLeft", .box = {0, 0, 100, 20}, .text = "left"},
+                      {.name = "lblWide", .box = {100, 0, 500, 20}, .stretch = Stretch::kWiden},
+                      {.name = "lblRight",
+                       .box = {900, 0, 100, 20},
+                       .visible = false,
+                       .stretch = Stretch::kShift}}},
+        {.name = "Detail", .height = 200, .controls = {{.name = "txtDebit", .box = {}}}}}};
+
+TEST(SurfaceTest, StartsAsDesigned) {
+    Surface surface(kLayout);
+    EXPECT_EQ(surface.Width(), 1'000);
+    EXPECT_EQ(surface.SectionAt("pageheader").Height(), 300);
+    EXPECT_EQ(surface.At("LBLLEFT").Text(), "left");
+    EXPECT_EQ(surface.At("lblWide").Place(), (Box{100, 0, 500, 20}));
+    EXPECT_FALSE(surface.At("lblRight").Visible());
+    EXPECT_EQ(surface.Find("lblNone"), nullptr);
+}
+
+/// A report class whose constructor binds a control that its layout does not have.
+struct Misspelt {
+    Surface surface{kLayout};
+    Control& txtDebit = surface.At("txtDebit");
+    Control& txtCredit = surface.At("txtCredit");
+};
+
+TEST(SurfaceTest, AnUnknownControlOrSectionStopsTheReportNamingLayoutAndControl) {
+    EXPECT_EQ(test::DescriptionOf([] { const Misspelt report; }),
+              "dsrTried has no member \"txtCredit\"");
+    Surface surface(kLayout);
+    EXPECT_EQ(test::ErrorOf([&] { surface.At("txtCredit"); }), error_number::kUnknownMember);
+    EXPECT_EQ(test::DescriptionOf([&] { surface.SectionAt("PageFooter"); }),
+              "dsrTried has no member \"PageFooter\"");
+}
+
+TEST(SurfaceTest, WideningSpreadsAndShiftsAsEachControlSays) {
+    Surface surface(kLayout);
+    surface.Widen(1'200);
+    EXPECT_EQ(surface.Width(), 1'200);
+    EXPECT_EQ(surface.At("lblLeft").Place(), (Box{0, 0, 100, 20}));
+    EXPECT_EQ(surface.At("lblWide").Place(), (Box{100, 0, 700, 20}));
+    EXPECT_EQ(surface.At("lblRight").Place(), (Box{1'100, 0, 100, 20}));
+    surface.Widen(1'100);
+    EXPECT_EQ(surface.Width(), 1'200);
+    EXPECT_EQ(surface.At("lblRight").Place().left, 1'100);
+}
+
+TEST(SurfaceTest, RestoreGoesBackToWhatWasSavedInEveryRespect) {
+    Surface surface(kLayout);
+    surface.At("lblLeft").SetText("set by the host");
+    surface.Save();
+
+    surface.Widen(2'000);
+    surface.At("lblLeft").SetValue(3, "3");
+    surface.At("lblLeft").SetTag("key");
+    surface.At("lblRight").SetVisible(true);
+    surface.SectionAt("Detail").SetVisible(false);
+    surface.SectionAt("Detail").SetHeight(0);
+    surface.Restore();
+
+    EXPECT_EQ(surface.Width(), 1'000);
+    EXPECT_EQ(surface.At("lblLeft").Text(), "set by the host");
+    EXPECT_EQ(surface.At("lblLeft").Value(), ControlValue());
+    EXPECT_EQ(surface.At("lblLeft").Tag(), "");
+    EXPECT_FALSE(surface.At("lblRight").Visible());
+    EXPECT_EQ(surface.At("lblRight").Place().left, 900);
+    EXPECT_TRUE(surface.SectionAt("Detail").Visible());
+    EXPECT_EQ(surface.SectionAt("Detail").Height(), 200);
+}
+
+TEST(SurfaceTest, SkippingLeavesOutOneInstanceHidingAllThatFollow) {
+    Surface surface(kLayout);
+    Section& detail = surface.SectionAt("Detail");
+    int instance = 0;
+    detail.OnFormat([&] {
+        ++instance;
+        if (instance == 1) detail.Skip();
+        if (instance == 3) detail.SetVisible(false);
+    });
+    EXPECT_FALSE(detail.Format());
+    EXPECT_TRUE(detail.Format());
+    EXPECT_FALSE(detail.Format());
+    EXPECT_FALSE(detail.Format());
+    EXPECT_EQ(instance, 4);
+}
+
+}  // namespace
+}  // namespace varnel

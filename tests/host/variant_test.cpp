@@ -1,0 +1,124 @@
+#include "host/variant.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+
+#include "tests/host/error_matchers.h"
+
+namespace varnel {
+namespace {
+
+using test::DescriptionOf;
+using test::ErrorOf;
+
+const Date kDay = Date::ParseIso("2025-03-31");
+const Currency kAmount = Currency::Parse("1234.50");
+
+struct ConversionCase {
+    const char* name;
+    Variant value;
+    // What each accessor gives, as text; "-" is error 13 and "6" error 6.
+    const char* truth;
+    const char* integer;
+    const char* amount;
+    const char* date;
+    const char* text;
+};
+
+void PrintTo(const ConversionCase& conversion, std::ostream* out) { *out << conversion.name; }
+
+template <class Read>
+std::string Outcome(Read&& read) {
+    std::string outcome;
+    switch (ErrorOf([&] { outcome = read(); })) {
+        case 0:
+            return outcome;
+        case error_number::kTypeMismatch:
+            return "-";
+        case error_number::kOverflow:
+            return "6";
+        default:
+            return "another error";
+    }
+}
+
+class VariantConversionTest : public testing::TestWithParam<ConversionCase> {};
+
+TEST_P(VariantConversionTest, GivesTheValueOrAnErrorNeverAGuess) {
+    const auto& [name, value, truth, integer, amount, date, text] = GetParam();
+    EXPECT_EQ(Outcome([&] { return std::string(value.ToBool() ? "True" : "False"); }), truth);
+    EXPECT_EQ(Outcome([&] { return std::to_string(value.ToInteger32()); }), integer);
+    EXPECT_EQ(Outcome([&] { return value.ToCurrency().ToText(0); }), amount);
+    EXPECT_EQ(Outcome([&] { return value.ToDate().ToIso(); }), date);
+    EXPECT_EQ(Outcome([&] { return value.ToText(); }), text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, VariantConversionTest,
+    testing::Values(
+        ConversionCase{"empty", Variant(), "False", "0", "0", "1899-12-30", ""},
+        ConversionCase{"null", Variant::Null{}, "-", "-", "-", "-", "-"},
+        ConversionCase{"true", true, "True", "-1", "-1", "1899-12-29", "True"},
+        ConversionCase{"false", false, "False", "0", "0", "1899-12-30", "False"},
+        ConversionCase{"int16", std::int16_t{1}, "True", "1", "1", "1899-12-31", "1"},
+        ConversionCase{"int32", 2'958'465, "True", "2958465", "2958465", "9999-12-31", "2958465"},
+        ConversionCase{"whole double", 42.0, "True", "42", "42", "1900-02-10", "42"},
+        ConversionCase{"fraction", 0.5, "True", "-", "0.5", "-", "0.5"},
+        ConversionCase{"large double", 3e9, "True", "6", "3000000000", "6", "3000000000"},
+        ConversionCase{"huge double", 1e300, "True", "-", "6", "-", "1e+300"},
+        ConversionCase{"amount", kAmount, "True", "-", "1234.5", "-", "1234.5"},
+        ConversionCase{"whole amount", Currency::Parse("12.00"), "True", "12", "12", "1900-01-11",
+                       "12"},
+        ConversionCase{"date", kDay, "-", "-", "-", "2025-03-31", "2025-03-31"},
+        ConversionCase{"digits", "1234", "True", "1234", "1234", "-", "1234"},
+        ConversionCase{"decimals", "12.5", "-", "-", "12.5", "-", "12.5"},
+        ConversionCase{"minus one", "-1", "True", "-1", "-1", "-", "-1"},
+        ConversionCase{"zero", "0", "False", "0", "0", "-", "0"},
+        ConversionCase{"TRUE", "TRUE", "True", "-", "-", "-", "TRUE"},
+        ConversionCase{"False", "False", "False", "-", "-", "-", "False"},
+        ConversionCase{"no text", "", "False", "-", "-", "-", ""},
+        ConversionCase{"iso", "2025-03-31", "-", "-", "-", "2025-03-31", "2025-03-31"},
+        ConversionCase{"word", "maybe", "-", "-", "-", "-", "maybe"},
+        ConversionCase{"object", ObjectRef(), "-", "-", "-", "-", "-"}));
+
+TEST(VariantTest, SixteenBitsAreTheirOwnLimit) {
+    EXPECT_EQ(Variant(32'767).ToInteger16(), 32'767);
+    EXPECT_EQ(Variant("-32768").ToInteger16(), -32'768);
+    EXPECT_EQ(DescriptionOf([] { (void)Variant(32'768).ToInteger16(); }),
+              "32768 does not fit in a 16-bit integer");
+    EXPECT_EQ(ErrorOf([] { (void)Variant("2147483648").ToInteger32(); }), error_number::kOverflow);
+}
+
+TEST(VariantTest, NumbersReadAsBinaryOnlyWhenAskedFor) {
+    EXPECT_DOUBLE_EQ(Variant(kAmount).ToDouble(), 1234.5);
+    EXPECT_DOUBLE_EQ(Variant("2.5e3").ToDouble(), 2500);
+    EXPECT_DOUBLE_EQ(Variant(std::int16_t{-7}).ToDouble(), -7);
+    EXPECT_EQ(ErrorOf([] { (void)Variant("2.5 ").ToDouble(); }), error_number::kTypeMismatch);
+    EXPECT_EQ(ErrorOf([] { (void)Variant(kDay).ToDouble(); }), error_number::kTypeMismatch);
+}
+
+TEST(VariantTest, MismatchMessagesSayWhatIsNeededAndWhatIsHeld) {
+    EXPECT_EQ(DescriptionOf([] { (void)Variant("maybe").ToBool(); }),
+              "A value is needed that reads as True or False, not this text \"maybe\"");
+    EXPECT_EQ(DescriptionOf([] { (void)Variant(Variant::Null{}).ToInteger32(); }),
+              "A value is needed that reads as a 32-bit integer, not this null");
+    EXPECT_EQ(DescriptionOf([] { (void)Variant(0.5).ToInteger16(); }),
+              "A value is needed that reads as a 16-bit integer, not this double");
+    EXPECT_EQ(DescriptionOf([] { (void)Variant(kDay).ToCurrency(); }),
+              "A value is needed that reads as an amount, not this date");
+    EXPECT_EQ(DescriptionOf([] { (void)Variant(kAmount).ToDate(); }),
+              "A value is needed that reads as a date, not this amount");
+    EXPECT_EQ(DescriptionOf([] { (void)Variant(true).ToObject(); }),
+              "A value is needed that reads as an object reference, not this Boolean");
+}
+
+TEST(VariantTest, AReferenceMayBeEmpty) {
+    EXPECT_EQ(Variant(ObjectRef()).ToObject(), nullptr);
+    EXPECT_EQ(Variant().ToObject(), nullptr);
+    EXPECT_EQ(ErrorOf([] { (void)Variant("text").ToObject(); }), error_number::kTypeMismatch);
+}
+
+}  // namespace
+}  // namespace varnel
