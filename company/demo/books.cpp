@@ -33,7 +33,7 @@ Currency Books::ProfitBeforeTaxes() const {
 }
 
 void Books::PickSegmentAndProject(Entry& entry) {
-    if (!random.Chance(110)) {
+    if (!random.Chance(40)) {
         entry.segment = static_cast<int>(random.Between(1, std::ssize(Segments())));
     }
     if (random.Chance(120)) {

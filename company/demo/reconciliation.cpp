@@ -12,7 +12,7 @@ Date ClearingDate(std::string_view source, Date date, Currency amount, Random& r
     if (source == "BRC") return date;
     if (source == "CDI") {
         const bool forgotten = random.Chance(25);
-        return date + static_cast<int>(forgotten ? random.Between(35, 120) : random.Between(2, 24));
+        return date + static_cast<int>(forgotten ? random.Between(35, 120) : random.Between(2, 17));
     }
     if (amount < Currency()) return date + static_cast<int>(random.Between(0, 3));
     return date + static_cast<int>(random.Between(0, 4));

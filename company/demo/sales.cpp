@@ -85,7 +85,7 @@ void AddCosts(Entry& entry, Random& random, Rate rate, const std::vector<SoldLin
 }
 
 void PickCustomerSegment(Entry& entry, Random& random, const Customer& customer) {
-    if (random.Chance(80)) {
+    if (random.Chance(50)) {
         entry.segment = 0;
     } else if (random.Chance(850)) {
         entry.segment = customer.segment;
