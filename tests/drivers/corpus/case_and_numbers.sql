@@ -1,0 +1,1 @@
+SELECT CASE WHEN a & b THEN 'x' ELSE y END & z + 1e+5 - 0x1e+5

@@ -1,0 +1,1 @@
+SELECT (c.Code & ' - ' & c.Descr) AS Full FROM c WHERE c.Id = ?

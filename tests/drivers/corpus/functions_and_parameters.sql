@@ -1,0 +1,1 @@
+IIF(a * 2 + 'x' || b & c COLLATE NOCASE, ?1 & :n, x'00ff' + '')

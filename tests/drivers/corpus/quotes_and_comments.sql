@@ -1,0 +1,2 @@
+SELECT 'it''s & +' + "a & b" + [c & d] + `e` -- & +
+ /* & + */ FROM t

@@ -1,0 +1,1 @@
+SELECT c.Code + ' - ' + c.Descr AS Full FROM c ORDER BY c.Code

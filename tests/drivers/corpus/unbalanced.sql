@@ -1,0 +1,1 @@
+((((((a & b) + 'x') & f(x, y & z)) FILTER (WHERE a & b)
