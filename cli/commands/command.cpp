@@ -1,0 +1,22 @@
+#include "cli/commands/command.h"
+
+namespace varnel::cli {
+
+namespace {
+
+constexpr Command kCommands[] = {
+    {"demo", "Make the database of a demo company", DescribeDemo},
+    {"reports", "List the reports, with the options each takes", DescribeReports},
+    {"run", "Run a report", DescribeRun},
+    {"completion", "Print a script that completes commands and options", DescribeCompletion},
+};
+
+}  // namespace
+
+std::span<const Command> Commands() { return kCommands; }
+
+std::string RefuseEmpty(const std::string& value) {
+    return value.empty() ? "the value is empty" : std::string();
+}
+
+}  // namespace varnel::cli

@@ -1,0 +1,118 @@
+#include "cli/report_run.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+
+#include "cli/configure_report.h"
+#include "cli/errors.h"
+#include "cli/formats.h"
+#include "cli/message_log.h"
+#include "cli/nearest_name.h"
+#include "cli/output_file.h"
+#include "cli/report_table.h"
+#include "cli/run_monitor.h"
+#include "cli/run_options.h"
+#include "company/company_host.h"
+
+namespace varnel::cli {
+
+namespace {
+
+constexpr const char* kCreator = "varnel " VARNEL_VERSION;
+
+void RefuseOtherOptions(const ReportEntry& entry, const RunRequest& request) {
+    const auto report = SampleReport(entry);
+    for (const auto& option : RunOptions()) {
+        if (option.taken_by == nullptr || !option.IsGiven(request)) continue;
+        if (!option.taken_by(*report))
+            throw UsageError(std::string(entry.name) + " takes no " +
+                             std::string(option.LongName()) +
+                             "\n\"varnel reports\" lists the options that each report takes");
+    }
+}
+
+void CheckFiles(const RunRequest& request, const OutputFormat& format) {
+    if (request.company.empty())
+        throw UsageError("say which company: --company FILE (\"varnel demo FILE\" makes one)");
+    const bool to_stdout = request.output.empty() || request.output == "-";
+    if (to_stdout && !format.is_text && IsTerminal(STDOUT_FILENO))
+        throw UsageError("a terminal cannot show " + std::string(format.name) + ": add -o FILE." +
+                         std::string(format.name));
+    std::error_code ignored;
+    if (std::filesystem::equivalent(request.output, request.company, ignored))
+        throw UsageError("-o: " + request.output + " is the company itself; choose another file");
+}
+
+std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
+                                               const RunSettings& settings, MessageLog& log) {
+    company::HostOptions options;
+    options.language = request.language;
+    options.session_date = settings.session_date;
+    options.message_sink = [&log](const std::string& text) { log.Add(text); };
+    options.missing_text = [&log](std::int16_t number) { log.AddMissingText(number); };
+    auto host = company::OpenCompany(request.company, options);
+    SetRunningHost(host);
+    return host;
+}
+
+engine::DocumentInfo InfoOf(IReport& report, company::CompanyHost& host,
+                            const std::string& language) {
+    const bool french = host.Language() == company::Language::kFrench;
+    return {.title = report.IReport_ReportTitle(),
+            .company = host.CurrentCompany().Name(),
+            .language = !language.empty() ? language
+                        : french          ? "fr-CA"
+                                          : "en-CA",
+            .creator = kCreator,
+            .date = host.SessionDate().ToIso()};
+}
+
+OutputLayout LayoutOf(const RunRequest& request, const RunSettings& settings) {
+    OutputLayout layout{.page = settings.page};
+    const bool to_stdout = request.output.empty() || request.output == "-";
+    if (!to_stdout || !IsTerminal(STDOUT_FILENO)) return layout;
+    layout.columns = TerminalColumns();
+    layout.bold = UsesTerminalStyles();
+    return layout;
+}
+
+/// Tells of the messages that were shown, last of all.
+int Conclude(const MessageLog& log, bool written, Console& console) {
+    if (log.Count() == 0) return kDone;
+    std::string text = "the report showed " + GroupedCount(log.Count()) +
+                       (log.Count() == 1 ? " message" : " messages");
+    if (!written) text += " and read no row; nothing was written";
+    console.Say(text);
+    return kMessagesShown;
+}
+
+}  // namespace
+
+int RunReport(const RunRequest& request, Console& console) {
+    const ReportEntry& entry = FindReport(request.report);
+    const RunSettings settings = ReadSettings(request);
+    const OutputFormat& format = ChooseFormat(request);
+    RefuseOtherOptions(entry, request);
+    CheckFiles(request, format);
+
+    MessageLog log(console);
+    const auto host = OpenHost(request, settings, log);
+    const auto report = MakeReport(entry, entry.arguments(settings, *host));
+    if (report == nullptr) return Conclude(log, false, console);
+    ConfigureReport(*report, host, request, settings);
+
+    OutputFile output(request.output.empty() ? "-" : request.output);
+    RunMonitor monitor(console, host->Messages());
+    const auto info = InfoOf(*report, *host, request.language);
+    const auto result = format.write(*report->IReport_ReportDesigner(), info,
+                                     LayoutOf(request, settings), output, monitor);
+    if (result.cancelled) throw Interrupted();
+    const bool written = !monitor.StartFailed(result);
+    if (written) output.Commit();
+    return Conclude(log, written, console);
+}
+
+}  // namespace varnel::cli

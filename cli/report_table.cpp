@@ -1,0 +1,98 @@
+#include "cli/report_table.h"
+
+#include <algorithm>
+#include <string>
+
+#include "cli/errors.h"
+#include "cli/nearest_name.h"
+#include "framework/catalogue.h"
+#include "framework/create_object.h"
+
+namespace varnel::cli {
+
+namespace {
+
+using Arguments = std::vector<Variant>;
+
+Arguments None(const RunSettings&, Application&) { return {}; }
+Arguments ActiveAndInactive(const RunSettings&, Application&) { return {Variant(false)}; }
+Arguments LedgerOfAll(const RunSettings&, Application&) { return {Variant(std::int16_t{0})}; }
+
+/// Projects, and the cumulative period: its last day first.
+Arguments FiscalYearToDate(const RunSettings& settings, Application& application) {
+    auto& company = application.CurrentContext().CurrentCompany();
+    return {Variant(""), settings.to, company.FiscalYearStart(settings.to)};
+}
+
+constexpr ReportEntry kReports[] = {
+    {"general-journal", "GeneralJournal", "dsrGeneralJournal", None},
+    {"general-ledger", "GeneralLedger", "dsrGeneralLedger", LedgerOfAll},
+    {"general-ledger-by-account", "GeneralLedgerByAccount", "dsrGeneralLedgerByAccount", None},
+    {"trial-balance-summary", "TrialBalanceSummary", "dsrTrialBalanceSummary", None},
+    {"trial-balance-detail", "TrialBalanceDetail", "dsrTrialBalanceDetail", ActiveAndInactive},
+    {"income-statement", "IncomeStatement", "dsrIncomeStatement", None},
+    {"income-statement-proj", "IncomeStatementProj", "dsrIncomeStatement", FiscalYearToDate},
+    {"balance-sheet", "BalanceSheet", "dsrBalanceSheet", None},
+    {"comparative-income-statement", "ComparativeIncomeStatement", "dsrComparativeIncomeStatement",
+     None},
+    {"comparative-income-statement-budget", "ComparativeIncomeStatementBudget",
+     "dsrComparativeIncomeStatement", None},
+    {"comparative-balance-sheet", "ComparativeBalanceSheet", "dsrComparativeBalanceSheet", None},
+    {"gifi", "GIFIReport", "dsrGIFIReport", None},
+    {"bank-reconciliation", "BankReconciliation", "dsrBankReconciliation", None},
+    {"current-bank-reconciliation", "CurrentBankReconciliation", "dsrCurrentBankReconciliation",
+     None},
+    {"unrealized-exchange", "UnRealExchProfitLoss", "dsrUnRealExchProfitloss", None},
+    {"unrealized-exchange-detail", "UnRealExchProfitLossDetail", "dsrUnRealExchProfitlossDetail",
+     None},
+    {"realized-exchange", "RealizedExchProfitLoss", "dsrRealizedExchProfitloss", None},
+};
+
+const framework::CatalogueEntry* InCatalogue(const ReportEntry& entry) {
+    for (const auto& report : framework::Catalogue())
+        if (report.class_name == entry.class_name) return &report;
+    return nullptr;
+}
+
+constexpr const char* kSeeReports = "\"varnel reports\" lists the reports";
+
+[[noreturn]] void RefuseUnknown(std::string_view name) {
+    std::vector<std::string_view> names;
+    for (const auto& entry : kReports) names.push_back(entry.name);
+    throw UsageError("there is no report " + std::string(name) + DidYouMean(name, names) + "\n" +
+                     kSeeReports);
+}
+
+}  // namespace
+
+std::span<const ReportEntry> Reports() { return kReports; }
+
+const ReportEntry& FindReport(std::string_view name) {
+    const auto* entry = std::ranges::find(kReports, name, &ReportEntry::name);
+    if (entry == std::end(kReports)) RefuseUnknown(name);
+    if (!IsBuilt(*entry))
+        throw UsageError("this version does not have the report " + std::string(name) + "\n" +
+                         kSeeReports + " that it has");
+    return *entry;
+}
+
+bool IsBuilt(const ReportEntry& entry) {
+    const auto* report = InCatalogue(entry);
+    return report != nullptr && report->make != nullptr;
+}
+
+std::shared_ptr<IReport> SampleReport(const ReportEntry& entry) {
+    return InCatalogue(entry)->make();
+}
+
+std::int16_t TitleText(const ReportEntry& entry) {
+    const auto* report = InCatalogue(entry);
+    return report == nullptr ? std::int16_t{0} : report->title_text;
+}
+
+std::shared_ptr<IReport> MakeReport(const ReportEntry& entry, std::span<const Variant> arguments) {
+    const auto made = CreateObject("Varnel.clsReport")->Call(entry.method, arguments);
+    return std::dynamic_pointer_cast<IReport>(made.ToObject());
+}
+
+}  // namespace varnel::cli

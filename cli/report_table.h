@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "cli/run_settings.h"
+#include "host/application.h"
+#include "host/report.h"
+
+namespace varnel::cli {
+
+/// A report as the command line knows it.
+struct ReportEntry {
+    std::string_view name;
+    std::string_view method;  // Of the factory, Varnel.clsReport.
+    std::string_view class_name;
+    /// What the factory method takes.
+    std::vector<Variant> (*arguments)(const RunSettings& settings, Application& application);
+};
+
+/// Every report, those that this version does not have included.
+std::span<const ReportEntry> Reports();
+
+/// Raises a UsageError for a name that is unknown or not in this version.
+const ReportEntry& FindReport(std::string_view name);
+
+bool IsBuilt(const ReportEntry& entry);
+/// One of its kind, without a company, to ask what it takes. Only for a built one.
+std::shared_ptr<IReport> SampleReport(const ReportEntry& entry);
+/// The number of its title.
+std::int16_t TitleText(const ReportEntry& entry);
+
+/// A new report from the factory; null when the factory showed a message instead.
+std::shared_ptr<IReport> MakeReport(const ReportEntry& entry, std::span<const Variant> arguments);
+
+}  // namespace varnel::cli

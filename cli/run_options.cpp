@@ -1,0 +1,68 @@
+#include "cli/run_options.h"
+
+namespace varnel::cli {
+
+namespace {
+
+bool Always(IReport&) { return true; }
+
+bool HasFirstDay(IReport& report) {
+    return report.IReport_DateDisplayOptions() == DateDisplay::kFromTo;
+}
+
+bool HasLastDay(IReport& report) {
+    return report.IReport_DateDisplayOptions() != DateDisplay::kNone;
+}
+
+template <class Companion>
+bool Has(IReport& report) {
+    return dynamic_cast<Companion*>(&report) != nullptr;
+}
+
+constexpr RunOption kOptions[] = {
+    {"--company", "FILE", &RunRequest::company, "The company database"},
+    {"--from", "DATE", &RunRequest::from, "First day, as 2025-03-31; left out: no limit",
+     HasFirstDay},
+    {"--to", "DATE", &RunRequest::to, "Last day, or the closing date; left out: no limit",
+     HasLastDay},
+    {"--segments", "IDS", &RunRequest::segments, "Only these segments, by id: 3,7",
+     Has<ISegmentFilter>},
+    {"--no-segment", "", &RunRequest::no_segment,
+     "Lines without a segment: these too, or only these", Has<ISegmentFilter>},
+    {"--filter", "TEXT", &RunRequest::filter,
+     "Criteria and ordering in SQL: 'GLDet.DetAmnt > 500|GLDet.DetDate'", Has<IFilterableReport>},
+    {"--foreign", "", &RunRequest::foreign, "Show amounts in foreign currency too", Always},
+    {"--property", "NAME=VALUE", &RunRequest::properties,
+     "Set a property of the report; can be given more than once", Always},
+    {"--session-date", "DATE", &RunRequest::session_date,
+     "The date the company is worked at; left out: the company's, else today"},
+    {"--lang", "en-CA|fr-CA", &RunRequest::language, "Language; left out: the company's"},
+    {"--paper", "letter|a4", &RunRequest::paper, "Paper of a PDF; left out: letter"},
+    {"--landscape", "", &RunRequest::landscape, "Turn the paper of a PDF"},
+    {"-O,--format", "pdf|txt|csv|jsonl", &RunRequest::format,
+     "Format; left out: that of the file's name, else txt"},
+    {"-o,--output", "FILE", &RunRequest::output,
+     "The file to write, - for standard output; left out: standard output"},
+};
+
+}  // namespace
+
+std::string_view RunOption::LongName() const { return names.substr(names.find("--")); }
+
+bool RunOption::IsGiven(const RunRequest& request) const {
+    if (const auto* flag = std::get_if<bool RunRequest::*>(&target)) return request.**flag;
+    if (const auto* text = std::get_if<std::string RunRequest::*>(&target))
+        return !(request.**text).empty();
+    return !(request.*std::get<std::vector<std::string> RunRequest::*>(target)).empty();
+}
+
+std::span<const RunOption> RunOptions() { return kOptions; }
+
+std::vector<const RunOption*> OptionsOf(IReport& report) {
+    std::vector<const RunOption*> options;
+    for (const auto& option : kOptions)
+        if (option.taken_by != nullptr && option.taken_by(report)) options.push_back(&option);
+    return options;
+}
+
+}  // namespace varnel::cli

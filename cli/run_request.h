@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace varnel::cli {
+
+/// What the command line of `varnel run` says, word for word; empty where it says nothing.
+struct RunRequest {
+    std::string report;
+    std::string company;
+    std::string from;
+    std::string to;
+    std::string segments;
+    bool no_segment = false;
+    std::string filter;
+    bool foreign = false;
+    std::vector<std::string> properties;  // "Name=value"
+    std::string session_date;
+    std::string language;
+    std::string paper;
+    bool landscape = false;
+    std::string format;
+    std::string output;
+};
+
+}  // namespace varnel::cli

@@ -1,0 +1,94 @@
+#include "cli/run_settings.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "cli/errors.h"
+#include "cli/nearest_name.h"
+
+namespace varnel::cli {
+
+namespace {
+
+Date ReadDate(std::string_view option, const std::string& text, Date when_empty) {
+    if (text.empty()) return when_empty;
+    Date date;
+    if (!Date::TryParseIso(text, date))
+        throw UsageError(std::string(option) + ": " + text +
+                         " is no date; write one that exists as 2025-03-31");
+    return date;
+}
+
+std::int32_t ReadId(std::string_view option, std::string_view text) {
+    while (text.starts_with(' ')) text.remove_prefix(1);
+    while (text.ends_with(' ')) text.remove_suffix(1);
+    std::int32_t id = 0;
+    const auto* end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, id);
+    if (text.empty() || read.ec != std::errc{} || read.ptr != end)
+        throw UsageError(std::string(option) + ": \"" + std::string(text) +
+                         "\" is no id; write ids with commas between them, as 3,7");
+    return id;
+}
+
+std::vector<std::int32_t> ReadIds(std::string_view option, std::string_view list) {
+    std::vector<std::int32_t> ids;
+    while (!list.empty()) {
+        const auto comma = list.find(',');
+        ids.push_back(ReadId(option, list.substr(0, comma)));
+        if (comma == std::string_view::npos) break;
+        list.remove_prefix(comma + 1);
+        if (list.empty()) ReadId(option, list);
+    }
+    return ids;
+}
+
+RunSettings::Property ReadProperty(const std::string& text) {
+    const auto equals = text.find('=');
+    if (equals == 0 || equals == std::string::npos)
+        throw UsageError("--property: \"" + text + "\" is no property; write Name=value");
+    return {text.substr(0, equals), text.substr(equals + 1)};
+}
+
+/// Refuses a value that is none of the names.
+void RequireChoice(std::string_view thing, std::string_view value,
+                   std::span<const std::string_view> names) {
+    if (std::ranges::find(names, value) != names.end()) return;
+    std::string list;
+    for (const auto name : names) list += (list.empty() ? "" : " or ") + std::string(name);
+    throw UsageError("there is no " + std::string(thing) + " " + std::string(value) + ": use " +
+                     list);
+}
+
+engine::PageSetup ReadPage(const std::string& paper, bool landscape) {
+    static constexpr std::string_view kPapers[] = {"letter", "a4"};
+    if (!paper.empty()) RequireChoice("paper", paper, kPapers);
+    const auto page = paper == "a4" ? engine::PageSetup::A4() : engine::PageSetup::Letter();
+    return landscape ? page.Landscape() : page;
+}
+
+}  // namespace
+
+void CheckLanguage(std::string_view language) {
+    static constexpr std::string_view kLanguages[] = {"en-CA", "fr-CA"};
+    if (!language.empty()) RequireChoice("language", language, kLanguages);
+}
+
+RunSettings ReadSettings(const RunRequest& request) {
+    RunSettings settings;
+    settings.from = ReadDate("--from", request.from, kOpenStart);
+    settings.to = ReadDate("--to", request.to, kOpenEnd);
+    if (settings.to < settings.from)
+        throw UsageError("the period ends before it starts: --from " + settings.from.ToIso() +
+                         " is after --to " + settings.to.ToIso());
+    settings.segments = ReadIds("--segments", request.segments);
+    if (!request.session_date.empty())
+        settings.session_date = ReadDate("--session-date", request.session_date, Date());
+    for (const auto& property : request.properties)
+        settings.properties.push_back(ReadProperty(property));
+    CheckLanguage(request.language);
+    settings.page = ReadPage(request.paper, request.landscape);
+    return settings;
+}
+
+}  // namespace varnel::cli

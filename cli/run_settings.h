@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/run_request.h"
+#include "engine/document.h"
+#include "host/date.h"
+
+namespace varnel::cli {
+
+/// A request whose values were read and checked.
+struct RunSettings {
+    struct Property {
+        std::string name;
+        std::string value;
+    };
+
+    Date from = kOpenStart;
+    Date to = kOpenEnd;
+    std::vector<std::int32_t> segments;
+    std::optional<Date> session_date;
+    std::vector<Property> properties;
+    engine::PageSetup page;
+};
+
+/// A UsageError that names the option for each value that is not well formed.
+RunSettings ReadSettings(const RunRequest& request);
+
+/// The languages that --lang takes. A UsageError for another one; empty is the company's.
+void CheckLanguage(std::string_view language);
+
+}  // namespace varnel::cli
