@@ -17,19 +17,19 @@ namespace varnel::company {
 struct HostOptions {
     /// Locale of texts and formats, for example "fr-CA". Empty takes the company's setting
     /// Language, else "en-CA".
-    std::string language;
+    std::string language{};
     DateStyle date_style = DateStyle::kIso;
     /// When not given: the company's setting SessionDate, else today.
-    std::optional<Date> session_date;
+    std::optional<Date> session_date{};
     /// What reports are told about the database: 1 for SQLite when not given.
-    std::optional<int> database_type;
+    std::optional<int> database_type{};
     /// Takes the text of each message box; null drops it, the box is counted all the same.
-    HostMessages::Sink message_sink;
+    HostMessages::Sink message_sink{};
     /// Called once for each text number that has no text; null stays silent.
-    Texts::MissingText missing_text;
+    Texts::MissingText missing_text{};
     /// Shows the reports' dialogs; null is a service that leaves every choice as it stands and
     /// clicks OK.
-    std::shared_ptr<DialogService> dialogs;
+    std::shared_ptr<DialogService> dialogs{};
 };
 
 /// The reference host: an application that works in one company over its database.

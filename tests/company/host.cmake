@@ -1,0 +1,12 @@
+varnel_test(NAME company_host_test
+    SOURCES
+        host_balances_test.cpp
+        host_company_test.cpp
+        host_conformance_test.cpp
+        host_dialogs_test.cpp
+        host_filter_test.cpp
+        host_formats_test.cpp
+        host_memory_test.cpp
+        host_small_company.cpp host_small_company.h
+        host_texts_test.cpp
+    LIBRARIES varnel_test_support Varnel::company PkgConfig::SQLITE)

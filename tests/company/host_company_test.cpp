@@ -1,0 +1,162 @@
+// What the host over a database does beyond what every host does.
+
+#include "tests/company/host_small_company.h"
+
+namespace varnel::company {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+
+std::string OpeningError(const std::string& script) {
+    const CompanyFile file(kSmallCompany + script);
+    return ErrorOf([&] { OpenCompany(file.Path()); });
+}
+
+TEST(OpenCompany, NamesTheTableAndTheFile) {
+    const CompanyFile file("DROP TABLE AcctBudget;");
+    EXPECT_THAT(ErrorOf([&] { OpenCompany(file.Path()); }),
+                AllOf(HasSubstr("AcctBudget"), HasSubstr(file.Path())));
+}
+
+TEST(OpenCompany, NamesTheColumnAndTheFile) {
+    const CompanyFile file("ALTER TABLE GLAcct RENAME COLUMN GIFIAcctId TO Gifi;");
+    EXPECT_THAT(ErrorOf([&] { OpenCompany(file.Path()); }),
+                AllOf(HasSubstr("GLAcct"), HasSubstr("GIFIAcctId"), HasSubstr(file.Path())));
+}
+
+TEST(OpenCompany, SaysThatThereIsNoFile) {
+    EXPECT_THAT(ErrorOf([] { OpenCompany("/nowhere/shop.db"); }), HasSubstr("/nowhere/shop.db"));
+}
+
+TEST(OpenCompany, NamesASettingThatCannotBeRead) {
+    EXPECT_THAT(OpeningError("UPDATE CompanySetting SET SettingValue = '30/04/2025' "
+                             "WHERE SettingName = 'SessionDate';"),
+                AllOf(HasSubstr("SessionDate"), HasSubstr("30/04/2025")));
+    EXPECT_THAT(OpeningError("INSERT INTO CompanySetting VALUES ('Language', 'xx');"),
+                HasSubstr("\"xx\""));
+}
+
+TEST(OpenCompany, TakesOptionsBeforeSettings) {
+    const CompanyFile file(std::string(kSmallCompany) +
+                           "INSERT INTO CompanySetting VALUES ('Language', 'fr-CA');");
+    EXPECT_EQ(OpenCompany(file.Path())->GetText(2656), "Débit");
+    const auto host = OpenCompany(
+        file.Path(), {.language = "en-CA", .session_date = Day("2024-01-31"), .database_type = 0});
+    EXPECT_EQ(host->GetText(2656), "Debit");
+    EXPECT_EQ(host->SessionDate(), Day("2024-01-31"));
+    EXPECT_EQ(host->Database().DatabaseType(), 0);
+}
+
+class SmallCompany : public testing::Test {
+  protected:
+    static std::shared_ptr<CompanyHost> Open(const std::string& script,
+                                             const std::string& language = "en-CA") {
+        const CompanyFile file(kSmallCompany + script);
+        return OpenCompany(file.Path(), {.language = language});  // The open file stays readable.
+    }
+};
+
+TEST_F(SmallCompany, IsOfOneCurrencyWhenItSaysSo) {
+    const auto host = Open("INSERT INTO CompanySetting VALUES ('UseForeignCurrency', 'False');");
+    auto& info = host->CurrentCompany().GetCurrencyInfo();
+    Rates rates;
+    info.ConfigureExchangeRates(rates, Day("1990-01-01"), true, {});
+    EXPECT_FALSE(rates.reevaluate);
+    EXPECT_EQ(info.EvaluateValueWithExchangeRate(Rate::Parse("2"), 2, Amount("5"), rates),
+              Amount("5"));
+}
+
+TEST_F(SmallCompany, KeepsGivenRatesWhenItsTableIsNotWanted) {
+    const auto host = Open("");
+    auto& info = host->CurrentCompany().GetCurrencyInfo();
+    Rates rates;
+    rates.rates = std::make_shared<RateCollection>();
+    rates.rates->Set("2", Rate::Parse("1.5"));
+    info.ConfigureExchangeRates(rates, Day("2025-03-31"), false, {});
+    EXPECT_EQ(rates.rates->Item("2"), Rate::Parse("1.5"));
+    EXPECT_EQ(rates.rates->Item("4"), Rate::Parse("0.0095"));
+}
+
+TEST_F(SmallCompany, DatesTheRatesOfAnOpenEndByTheNewest) {
+    Rates rates;
+    Open("")->CurrentCompany().GetCurrencyInfo().ConfigureExchangeRates(rates, kOpenEnd, true, {});
+    EXPECT_EQ(rates.date, "2025-01-31");
+}
+
+TEST_F(SmallCompany, WritesTheRatesOfTheLegendInItsLanguage) {
+    const auto host = Open("", "fr-CA");
+    auto& info = host->CurrentCompany().GetCurrencyInfo();
+    Rates rates;
+    info.ConfigureExchangeRates(rates, Day("2025-01-15"), true, {});
+    EXPECT_EQ(info.GetCurrencies().GetCurrenciesLegend(rates), "JPY 0,0095; USD 1,4000");
+}
+
+TEST_F(SmallCompany, NeedsAHomeCurrency) {
+    const auto host = Open("DELETE FROM CompanySetting WHERE SettingName = 'HomeCurrencyId';");
+    EXPECT_THAT(ErrorOf([&] { host->CurrentCompany().GetCurrencyInfo().CieHomeCurrencyId(); }),
+                HasSubstr("HomeCurrencyId"));
+}
+
+TEST_F(SmallCompany, HasNoControlAccountsWhenNothingHasThatRole) {
+    const auto host = Open(
+        "DELETE FROM GLAccountParam; UPDATE WorldCurrency SET "
+        "ARGLAccountId = NULL, APGLAccountId = 0;");
+    auto& company = host->CurrentCompany();
+    EXPECT_EQ(company.GetCurrencyInfo().GetCurrencies().GetAllARAPGLAccountUsed(), "-1");
+    EXPECT_EQ(company.GetCurrencyInfo().UnrealizedGainLossAcctId(), 0);
+}
+
+TEST_F(SmallCompany, RevaluesTheAccountsOfASection) {
+    const auto host = Open(
+        "INSERT INTO GLAccountParam VALUES ('Revalued', 'Loan', 21), "
+        "('Revalued', 'Deposit', 12);");
+    EXPECT_EQ(host->CurrentCompany().Accounts().OtherRevaluedAccountIds(), "12,21");
+}
+
+TEST_F(SmallCompany, PostsNoInventoryAdjustmentsWhenTheyAreOff) {
+    const auto host = Open(
+        "UPDATE CompanySetting SET SettingValue = '0' "
+        "WHERE SettingName = 'ItemAdjustGL';");
+    EXPECT_EQ(host->CurrentCompany().ItemAdjustmentStart(), std::nullopt);
+}
+
+TEST_F(SmallCompany, CaptionsTheSectionsOfStatements) {
+    const auto host = Open("", "fr-CA");
+    auto& types = host->CurrentCompany().GetAccountTypes();
+    EXPECT_EQ(types.Caption(1, 0), "Actif");
+    EXPECT_EQ(types.Caption(4, 0), "Produits");
+    EXPECT_EQ(types.Caption(9, 0), "Autres éléments") << "no type of its own";
+    EXPECT_EQ(types.Caption(6, 0), "Sundry") << "in the company's own words";
+    EXPECT_THAT(ErrorOf([&] { types.Caption(77, 0); }), HasSubstr("77"));
+    EXPECT_EQ(types.AdditionalIncomeTypes(), "6");
+}
+
+TEST_F(SmallCompany, HasNoAdditionalIncomeTypesWhenNoneIsMarked) {
+    const auto host = Open("UPDATE AcctTypeInfo SET AdditionalIncome = 0;");
+    EXPECT_EQ(host->CurrentCompany().GetAccountTypes().AdditionalIncomeTypes(), "-1");
+}
+
+TEST_F(SmallCompany, RefusesABudgetThatEndsBeforeItBegins) {
+    const auto host = Open("INSERT INTO AcctBudget VALUES (9, 40, '2025-05-31', '2025-05-01', 1);");
+    EXPECT_THAT(ErrorOf([&] {
+                    host->CurrentCompany().Budgets().GetAcctBudgetRange(50, kOpenStart, kOpenEnd);
+                }),
+                AllOf(HasSubstr("40"), HasSubstr("2025-05-31")));
+}
+
+TEST_F(SmallCompany, ListsItsReconciliations) {
+    const auto host = Open("");
+    const auto rows = host->CurrentCompany().Reconciliations().OpenRecords();
+    const Column id = rows->GetColumns().At("ID");
+    const Column date = rows->GetColumns().At("BankConcilDate");
+    EXPECT_EQ(rows->Current().Integer(id), 1);
+    EXPECT_EQ(rows->Current().Day(date), Day("2024-12-31"));
+    rows->MoveNext();
+    EXPECT_EQ(rows->Current().Integer(id), 3);
+    rows->MoveNext();
+    EXPECT_TRUE(rows->AtEnd());
+}
+
+}  // namespace
+}  // namespace varnel::company
