@@ -67,7 +67,7 @@ class Scanner {
         if (IsDigit(c) || (c == '.' && IsDigit(At(1))) || IsBinaryLiteral())
             return SqlTokenKind::kValue;
         if (IsWordStart(c)) return SqlTokenKind::kWord;
-        if (c == '?' || ((c == ':' || c == '@' || c == '$' || c == '#') && IsWordPart(At(1))))
+        if (std::string_view("?:@$#").find(c) != std::string_view::npos)
             return SqlTokenKind::kValue;
         return SqlTokenKind::kOperator;
     }

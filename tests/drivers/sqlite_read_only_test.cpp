@@ -40,7 +40,6 @@ TEST(SqliteReadOnly, AllowsEveryKindOfReading) {
                              "OR upper('a') = iif(Id, 'A', 'B')"),
               "2");
     EXPECT_EQ(database.Value(CountTo(5) + "SELECT MAX(i) OVER () FROM n ORDER BY i"), "5");
-    EXPECT_EQ(database.Value("SELECT SUM(value) FROM json_each('[1, 2]')"), "3");
 }
 
 TEST(SqliteReadOnly, BinaryDataIsAnErrorThatNamesTheColumn) {
