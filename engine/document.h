@@ -46,8 +46,8 @@ struct Item {
     Align align = Align::kLeft;
     /// Stands for a number or a date: a renderer may condense it to fit, never cut it.
     bool figure = false;
-    TextStyle style;
-    Box box;
+    TextStyle style = {};
+    Box box = {};
     std::uint32_t text_offset = 0;
     std::uint32_t text_length = 0;
 };
@@ -82,7 +82,6 @@ class ItemList {
     }
 
   private:
-    friend class PageStore;
     std::vector<Item> items_;
     std::string texts_;
 };

@@ -16,10 +16,16 @@ class Progress {
 };
 
 struct RunResult {
+    /// Of the report itself, without those of its sub-reports.
     std::int64_t rows = 0;
     int pages = 0;
     bool cancelled = false;
 };
+
+// A run raises the report's events in order and always ends with the terminate event; afterwards
+// the surface is again as the host had set it. An exception of the feed comes out of the call. When
+// a run was cancelled or failed, its sink was not ended and what was made is to be thrown away. A
+// sub-report is run as on an endless page: its page header and footer come once.
 
 /// Runs the report once and hands its live sections to `sink`. No layout is worked out.
 RunResult RunToBands(BandedReport& report, const DocumentInfo& info, BandSink& sink,
@@ -29,7 +35,8 @@ RunResult RunToBands(BandedReport& report, const DocumentInfo& info, BandSink& s
 RunResult RunToPlacedBands(BandedReport& report, const DocumentInfo& info, Twips width,
                            Measurer& measurer, PlacedBandSink& sink, Progress* progress = nullptr);
 
-/// Runs the report once and puts its finished pages into `store`.
+/// Runs the report once and adds its finished pages to `store`. A layout narrower than the paper
+/// between its side margins is widened, a wider one is centred.
 RunResult RunToPages(BandedReport& report, const PageSetup& setup, Measurer& measurer,
                      PageStore& store, Progress* progress = nullptr);
 

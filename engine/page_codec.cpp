@@ -1,0 +1,96 @@
+#include "engine/page_codec.h"
+
+namespace varnel::engine {
+
+namespace {
+
+/// Small numbers in few bytes: seven bits each, the sign in the lowest.
+void PutNumber(std::string& bytes, std::int64_t number) {
+    auto rest =
+        (static_cast<std::uint64_t>(number) << 1) ^ static_cast<std::uint64_t>(number >> 63);
+    for (; rest >= 0x80; rest >>= 7) bytes += static_cast<char>(rest | 0x80);
+    bytes += static_cast<char>(rest);
+}
+
+class Reader {
+  public:
+    explicit Reader(std::string_view bytes) : bytes_(bytes) {}
+
+    bool AtEnd() const { return at_ == bytes_.size(); }
+    template <class T = Twips>
+    T Number() {
+        std::uint64_t number = 0;
+        for (unsigned shift = 0;; shift += 7) {
+            const auto byte = static_cast<unsigned char>(bytes_[at_++]);
+            number |= static_cast<std::uint64_t>(byte & 0x7F) << shift;
+            if (byte < 0x80) break;
+        }
+        return static_cast<T>(static_cast<std::int64_t>(number >> 1) ^
+                              -static_cast<std::int64_t>(number & 1));
+    }
+    std::string_view Text() {
+        const auto length = Number<std::size_t>();
+        const auto text = bytes_.substr(at_, length);
+        at_ += length;
+        return text;
+    }
+
+  private:
+    std::string_view bytes_;
+    std::size_t at_ = 0;
+};
+
+std::int64_t PackFlags(const Item& item) {
+    return static_cast<int>(item.kind) | static_cast<int>(item.align) << 2 |
+           static_cast<int>(item.style.ink) << 4 | int{item.figure} << 6 |
+           int{item.style.bold} << 7 | int{item.style.italic} << 8;
+}
+
+void UnpackFlags(int flags, Item& item) {
+    item.kind = static_cast<ItemKind>(flags & 3);
+    item.align = static_cast<Align>(flags >> 2 & 3);
+    item.style.ink = static_cast<Ink>(flags >> 4 & 3);
+    item.figure = (flags >> 6 & 1) != 0;
+    item.style.bold = (flags >> 7 & 1) != 0;
+    item.style.italic = (flags >> 8 & 1) != 0;
+}
+
+}  // namespace
+
+void EncodePage(const Page& page, std::string& bytes) {
+    PutNumber(bytes, page.width);
+    PutNumber(bytes, page.height);
+    Twips top = 0;
+    for (const Item& item : page.content.Items()) {
+        PutNumber(bytes, PackFlags(item));
+        PutNumber(bytes, item.style.size);
+        PutNumber(bytes, item.box.left);
+        PutNumber(bytes, item.box.top - top);  // Neighbours mostly stand on one line.
+        PutNumber(bytes, item.box.width);
+        PutNumber(bytes, item.box.height);
+        const auto text = page.content.Text(item);
+        PutNumber(bytes, static_cast<std::int64_t>(text.size()));
+        bytes += text;
+        top = item.box.top;
+    }
+}
+
+void DecodePage(std::string_view bytes, Page& page) {
+    Reader reader(bytes);
+    page.width = reader.Number();
+    page.height = reader.Number();
+    page.content.Clear();
+    Twips top = 0;
+    while (!reader.AtEnd()) {
+        Item item;
+        UnpackFlags(reader.Number<int>(), item);
+        item.style.size = reader.Number();
+        item.box.left = reader.Number();
+        item.box.top = top += reader.Number();
+        item.box.width = reader.Number();
+        item.box.height = reader.Number();
+        page.content.Add(item, reader.Text());
+    }
+}
+
+}  // namespace varnel::engine

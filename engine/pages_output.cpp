@@ -1,0 +1,43 @@
+#include "engine/pages_output.h"
+
+#include <algorithm>
+
+namespace varnel::engine {
+
+void PagesOutput::Begin(Surface& surface, PageFrame& frame) {
+    frame_ = &frame;
+    surface.Widen(setup_.paper_width - 2 * setup_.margin_side);
+    page_.SetLeft(std::max(Twips{0}, (setup_.paper_width - surface.Width()) / 2));
+    paginator_.Start();
+}
+
+void PagesOutput::Write(const Part& part, bool printed) {
+    const SectionLayout& design = part.section->Design();
+    const bool opens_group = design.kind == SectionKind::kGroupHeader;
+    const bool marks_group = opens_group || design.kind == SectionKind::kGroupFooter;
+    if (!printed && !marks_group) return;
+    if (printed) {
+        composer_.Compose(part, band_);
+    } else {
+        band_.kind = design.kind;
+        band_.height = 0;
+        band_.content.Clear();
+    }
+    paginator_.Add(band_, {.kind = design.kind,
+                           .level = part.level,
+                           .repeat = opens_group && design.repeat,
+                           .keep_together = opens_group && design.keep_together});
+}
+
+bool PagesOutput::Make(const Part* part, PlacedBand& band) {
+    if (part == nullptr) return false;
+    composer_.Compose(*part, band);
+    return true;
+}
+
+void PagesOutput::Finish(const Page& page) {
+    store_.Append(page);
+    control_.CountPage();
+}
+
+}  // namespace varnel::engine
