@@ -23,11 +23,20 @@ bool IsShown(const engine::Item& item, std::string_view text) {
     return item.kind == engine::ItemKind::kText && !WithoutTrailingBlanks(text).empty();
 }
 
-Twips Bottom(const engine::Item& item) {
-    return IsRule(item) ? item.box.Bottom() : item.box.top + TextLineHeight(item.style);
+/// Of the line of text, which is centred in its box; one of several lines begins at its top.
+Twips Middle(const engine::Item& item) {
+    const Twips line = TextLineHeight(item.style);
+    const bool one_line = IsRule(item) || item.box.height < 2 * line;
+    return item.box.top + (one_line ? item.box.height : line) / 2;
 }
 
-Twips Middle(const engine::Item& item) { return (item.box.top + Bottom(item)) / 2; }
+Twips Top(const engine::Item& item) {
+    return IsRule(item) ? item.box.top : Middle(item) - TextLineHeight(item.style) / 2;
+}
+
+Twips Bottom(const engine::Item& item) {
+    return IsRule(item) ? item.box.Bottom() : Middle(item) + TextLineHeight(item.style) / 2;
+}
 
 }  // namespace
 
@@ -65,13 +74,13 @@ void TextWriter::SortLines(const engine::ItemList& content) {
 void TextWriter::WriteRows(const engine::ItemList& content) {
     for (auto line = lines_.begin(); line != lines_.end();) {
         const auto first = line;
-        Twips top = first->item->box.top;
+        Twips top = Top(*first->item);
         Twips bottom = Bottom(*first->item);
         for (; line != lines_.end(); ++line) {
             const engine::Item& item = *line->item;
             if (IsRule(item) != IsRule(*first->item)) break;
             if (line->middle - first->middle >= kSameLine) break;
-            top = std::min(top, item.box.top);
+            top = std::min(top, Top(item));
             bottom = std::max(bottom, Bottom(item));
             AddToRow(item, content.Text(item));
         }
