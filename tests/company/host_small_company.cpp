@@ -130,7 +130,9 @@ CompanyFile::~CompanyFile() {
 
 void CompanyFile::Run(const std::string& script) const {
     const Handle handle = Open(path_);
-    if (sqlite3_exec(handle.get(), script.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+    // One transaction that waits for no disk: a test has no power failure.
+    const std::string quickly = "PRAGMA synchronous = OFF; BEGIN; " + script + "; COMMIT;";
+    if (sqlite3_exec(handle.get(), quickly.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
         ADD_FAILURE() << sqlite3_errmsg(handle.get());
 }
 
