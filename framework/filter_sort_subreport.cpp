@@ -9,14 +9,19 @@ namespace varnel::framework {
 namespace {
 
 constexpr Twips kLineHeight = 220;
-constexpr std::int16_t kSegments = 30041;
-constexpr std::int16_t kFilter = 30042;
-constexpr std::int16_t kSortedBy = 30043;
+constexpr Twips kTextLeft = 960;
+
+ControlLayout Caption(std::string_view name, std::int16_t text) {
+    return {.name = name,
+            .kind = ControlKind::kLabel,
+            .box = {0, 0, kTextLeft - 60, kLineHeight},
+            .style = kCaption,
+            .caption = text};
+}
 
 ControlLayout Line(std::string_view name) {
     return {.name = name,
-            .kind = ControlKind::kLabel,
-            .box = {0, 0, 10'800, kLineHeight},
+            .box = {kTextLeft, 0, 10'800 - kTextLeft, kLineHeight},
             .style = kQuiet,
             .can_grow = true,
             .stretch = Stretch::kWiden};
@@ -28,7 +33,9 @@ const Layout& SubReportLayout() {
         .sections = {{.name = "Detail",
                       .kind = SectionKind::kDetail,
                       .height = 3 * kLineHeight,
-                      .controls = {Line("lblSegments"), Line("lblFilter"), Line("lblSortedBy")}}}};
+                      .controls = {Caption("lblSegments", 30041), Line("txtSegments"),
+                                   Caption("lblFilter", 30042), Line("txtFilter"),
+                                   Caption("lblSortedBy", 30043), Line("txtSortedBy")}}}};
     return layout;
 }
 
@@ -50,20 +57,19 @@ void dsrFilterAndSortByInfoSubreport::ActiveReport_FetchData(bool& end_of_data) 
 
 void dsrFilterAndSortByInfoSubreport::Detail_Format() {
     const struct {
-        std::string_view control;
-        std::int16_t caption;
+        std::string_view caption, control;
         const std::string& text;
-    } lines[] = {{"lblSegments", kSegments, info_.segments},
-                 {"lblFilter", kFilter, info_.criteria},
-                 {"lblSortedBy", kSortedBy, info_.ordering}};
+    } lines[] = {{"lblSegments", "txtSegments", info_.segments},
+                 {"lblFilter", "txtFilter", info_.criteria},
+                 {"lblSortedBy", "txtSortedBy", info_.ordering}};
     Twips top = 0;
     for (const auto& line : lines) {
-        Control& control = At(line.control);
-        control.SetVisible(!line.text.empty());
-        if (line.text.empty()) continue;
-        Mark(), control.SetText(PlainText(App(), line.caption) + ": " + line.text);
-        control.SetTop(top);
-        top += kLineHeight;
+        for (const auto name : {line.caption, line.control}) {
+            At(name).SetVisible(!line.text.empty());
+            At(name).SetTop(top);
+        }
+        At(line.control).SetText(line.text);
+        if (!line.text.empty()) top += kLineHeight;
     }
     SectionAt("Detail").SetHeight(top);
     if (top == 0) SectionAt("Detail").Skip();

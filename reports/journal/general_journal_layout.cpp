@@ -12,18 +12,19 @@ using namespace framework;
 
 constexpr Twips kSeqNoWidth = 780;
 constexpr Twips kDateLeft = 840;
-constexpr Twips kDateWidth = 960;
-constexpr Twips kTextLeft = 1'860;
-constexpr Twips kProjectLeft = 6'360;
-constexpr Twips kProjectWidth = 1'320;
-constexpr Twips kAmountWidth = 1'500;
-constexpr Twips kDebitLeft = 7'740;
-constexpr Twips kCreditLeft = 9'300;
-constexpr Twips kForeignWidth = 1'380;
-constexpr Twips kForeignLeft = 8'940;
-constexpr Twips kCodeLeft = 10'380;
-constexpr Twips kCodeWidth = 420;
-constexpr Twips kTextWidth = 6'300 - kTextLeft;
+constexpr Twips kDateWidth = 1'040;
+constexpr Twips kTextLeft = 1'940;
+constexpr Twips kAmountWidth = 1'380;
+constexpr Twips kCreditLeft = 9'420;
+constexpr Twips kDebitLeft = 7'980;
+constexpr Twips kProjectLeft = 7'100;
+constexpr Twips kProjectWidth = 820;
+constexpr Twips kTextWidth = kProjectLeft - 60 - kTextLeft;
+// Only with foreign amounts.
+constexpr Twips kForeignLeft = 9'070;
+constexpr Twips kForeignWidth = 1'280;
+constexpr Twips kCodeLeft = 10'400;
+constexpr Twips kCodeWidth = 400;
 constexpr Twips kLine = 220;
 
 std::vector<ControlLayout> Captions() {
@@ -109,6 +110,7 @@ SectionLayout Lines() {
                           .box = {kProjectLeft, 0, kProjectWidth, kLine},
                           .style = kQuiet,
                           .column = "project",
+                          .can_grow = true,
                           .stretch = Stretch::kShift},
                          Amount("txtDebit", kDebitLeft, 0, kBody, "debit"),
                          Amount("txtCredit", kCreditLeft, 0, kBody, "credit"),
