@@ -28,6 +28,9 @@ int VarnelCreateObject(const char* identifier, void* object, const char** messag
     static std::string last_message;
     int number = varnel::error_number::kOther;
     try {
+        if (identifier == nullptr || object == nullptr)
+            varnel::Raise(varnel::error_number::kInvalidArgument, "Varnel",
+                          "VarnelCreateObject needs an identifier and a place for the object");
         *static_cast<varnel::ObjectRef*>(object) = varnel::CreateObject(identifier);
         return 0;
     } catch (const varnel::Error& error) {
@@ -35,6 +38,8 @@ int VarnelCreateObject(const char* identifier, void* object, const char** messag
         last_message = error.Description();
     } catch (const std::exception& error) {
         last_message = error.what();
+    } catch (...) {
+        last_message = "An unknown failure";
     }
     if (message != nullptr) *message = last_message.c_str();
     return number;

@@ -43,10 +43,12 @@ class DesignedReport : public BandedReport, public std::enable_shared_from_this<
 
     /// Makes `handler` the format event of its section: "Detail_Format" is that of Detail.
     template <class Report>
-    void Handle(std::string_view procedure, void (Report::*handler)()) {
+    void Handle(std::string_view procedure, void (Report::*handler)(),
+                std::uint_least32_t line = __builtin_LINE()) {
         const auto section = procedure.substr(0, procedure.rfind('_'));
-        surface_.SectionAt(section).OnFormat([this, procedure, handler] {
-            Guard(procedure, [this, handler] { (static_cast<Report*>(this)->*handler)(); });
+        surface_.SectionAt(section).OnFormat([this, procedure, handler, line] {
+            Guard(
+                procedure, [this, handler] { (static_cast<Report*>(this)->*handler)(); }, line);
         });
     }
 

@@ -8,11 +8,19 @@ namespace varnel::framework {
 
 namespace {
 
+std::shared_ptr<Application> ToApplication(const Variant& value) {
+    const ObjectRef object = value.ToObject();
+    auto application = std::dynamic_pointer_cast<Application>(object);
+    if (object != nullptr && application == nullptr)
+        Raise(error_number::kTypeMismatch, "Varnel",
+              "IReport_Application takes the host's application, not this " +
+                  std::string(object->ObjectName()));
+    return application;
+}
+
 constexpr Member<ReportBase> kMembers[] = {
     {"IReport_Application", nullptr,
-     [](ReportBase& r, const Variant& v) {
-         r.IReport_Application(std::dynamic_pointer_cast<Application>(v.ToObject()));
-     }},
+     [](ReportBase& r, const Variant& v) { r.IReport_Application(ToApplication(v)); }},
     {"IReport_DateFrom", nullptr,
      [](ReportBase& r, const Variant& v) { r.IReport_DateFrom(v.ToDate()); }},
     {"IReport_DateTo", nullptr,
