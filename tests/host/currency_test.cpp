@@ -1,12 +1,13 @@
 #include "host/currency.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstdint>
 #include <limits>
 
-#include "tests/host/error_matchers.h"
+#include "tests/support/error_of.h"
 
 namespace varnel {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <tuple>
 
-#include "tests/host/error_matchers.h"
+#include "tests/support/error_of.h"
 
 namespace varnel {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "host/member_table.h"
 #include "host/surface.h"
-#include "tests/host/error_matchers.h"
+#include "tests/support/error_of.h"
 
 namespace varnel {
 namespace {

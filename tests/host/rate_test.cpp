@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "host/exchange_rates.h"
-#include "tests/host/error_matchers.h"
+#include "tests/support/error_of.h"
 
 namespace varnel {
 namespace {

@@ -3,7 +3,7 @@
 #include <initializer_list>
 
 #include "host/surface.h"
-#include "tests/host/error_matchers.h"
+#include "tests/support/error_of.h"
 
 namespace varnel {
 namespace {

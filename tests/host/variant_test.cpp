@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "tests/host/error_matchers.h"
+#include "tests/support/error_of.h"
 
 namespace varnel {
 namespace {
