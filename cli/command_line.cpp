@@ -73,7 +73,8 @@ int Run(int argc, char** argv, Console& console) {
         program.exit(shown);
         return kDone;
     } catch (const CLI::ParseError& error) {
-        throw UsageError(error.what() + SeeHelp(program));
+        const auto parsed = program.get_subcommands();
+        throw UsageError(error.what() + SeeHelp(parsed.empty() ? program : *parsed.front()));
     }
     const auto parsed = program.get_subcommands();
     RefuseExtras(program);

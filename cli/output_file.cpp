@@ -31,10 +31,9 @@ bool IsStandardOutput(const std::string& name) {
 }
 
 /// The file that a name stands for, links followed, so that a link stays a link.
-fs::path Target(const std::string& name) {
-    std::error_code unreadable;
-    fs::path target = fs::weakly_canonical(name, unreadable);
-    return unreadable ? fs::path(name) : target;
+fs::path Target(fs::path path) {
+    while (fs::is_symlink(path)) path = path.parent_path() / fs::read_symlink(path);
+    return path;
 }
 
 mode_t ModeOfNewFiles() {
@@ -61,7 +60,10 @@ OutputFile::OutputFile(Place place)
 OutputFile::Place OutputFile::Open(const std::string& name) {
     if (IsStandardOutput(name)) return {STDOUT_FILENO, "standard output", {}, {}};
     struct stat status {};
-    if (::stat(name.c_str(), &status) != 0) return OpenBeside(name);
+    if (::stat(name.c_str(), &status) != 0) {
+        if (errno != ENOENT) FailToCreate(name, errno);  // Links in a circle among others.
+        return OpenBeside(name);
+    }
     if (S_ISDIR(status.st_mode))
         throw Failure("cannot create " + name + ": it is a folder; add the name of a file");
     if (!S_ISREG(status.st_mode)) return OpenDirectly(name);

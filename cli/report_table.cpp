@@ -68,6 +68,7 @@ constexpr const char* kSeeReports = "\"varnel reports\" lists the reports";
 std::span<const ReportEntry> Reports() { return kReports; }
 
 const ReportEntry& FindReport(std::string_view name) {
+    if (name.empty()) throw UsageError(std::string("say which report\n") + kSeeReports);
     const auto* entry = std::ranges::find(kReports, name, &ReportEntry::name);
     if (entry == std::end(kReports)) RefuseUnknown(name);
     if (!IsBuilt(*entry))

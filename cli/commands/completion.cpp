@@ -24,7 +24,7 @@ std::vector<std::string> NamesOf(const CLI::Option& option) {
 
 /// What completes the value of an option, from what the help calls it; empty for nothing.
 std::string ValueWords(const CLI::Option& option) {
-    std::string value = option.get_option_text();
+    std::string value = option.get_type_name();
     if (value == "FILE") return "compgen -f -- \"$word\"";
     if (value.find('|') == std::string::npos) return {};
     std::ranges::replace(value, '|', ' ');

@@ -51,9 +51,9 @@ int MakeDemo(const DemoRequest& request, Console& console) {
 Command::Action DescribeDemo(CLI::App& app) {
     auto request = std::make_shared<DemoRequest>();
     app.add_option("FILE", request->file, "The database file to make")->type_name("");
-    app.add_option("--lines", request->options.lines, "Ledger lines, about")->option_text("N");
+    app.add_option("--lines", request->options.lines, "Ledger lines, about")->type_name("N");
     app.add_option("--seed", request->options.seed, "Another number makes another company")
-        ->option_text("N");
+        ->type_name("N");
     app.add_flag("--force", request->options.overwrite, "Replace a file that is there");
     return [request](Console& console) { return MakeDemo(*request, console); };
 }

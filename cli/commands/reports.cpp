@@ -41,7 +41,7 @@ int ListReports(const std::string& language, Console& console) {
 
 Command::Action DescribeReports(CLI::App& app) {
     auto language = std::make_shared<std::string>("en-CA");
-    app.add_option("--lang", *language, "Language of the titles")->option_text("en-CA|fr-CA");
+    app.add_option("--lang", *language, "Language of the titles")->type_name("en-CA|fr-CA");
     return [language](Console& console) { return ListReports(*language, console); };
 }
 

@@ -28,11 +28,11 @@ void AddOption(CLI::App& app, const RunOption& option, RunRequest& request) {
         app.add_flag(names, request.**flag, help);
     } else if (const auto* text = std::get_if<std::string RunRequest::*>(&option.target)) {
         app.add_option(names, request.**text, help)
-            ->option_text(value)
+            ->type_name(value)
             ->check(CLI::Validator(RefuseEmpty, ""));
     } else {
         auto& list = request.*std::get<std::vector<std::string> RunRequest::*>(option.target);
-        app.add_option(names, list, help)->option_text(value)->expected(1)->take_all();
+        app.add_option(names, list, help)->type_name(value)->expected(1)->take_all();
     }
 }
 

@@ -1,0 +1,65 @@
+from varnel import JOURNAL, VarnelTest, main
+
+USAGE = 2
+
+REFUSED = [
+    ([], "say which command"),
+    (["rnu"], "there is no command rnu; did you mean run?"),
+    (["--vresion"], "there is no option --vresion; did you mean --version?"),
+    (["run"], "say which report"),
+    (["run", "genral-jornal"], "no report genral-jornal; did you mean general-journal?"),
+    (["run", "zzzzz"], "there is no report zzzzz\n"),
+    (["run", "gifi"], "this version does not have the report gifi"),
+    (["run", "general-journal"], "say which company: --company FILE"),
+    (["run", "general-journal", "--compny", "x"], "no option --compny; did you mean --company?"),
+    ([*JOURNAL, "--frm=2025-01-01"], "no option --frm; did you mean --from?"),
+    ([*JOURNAL, "more"], "unexpected argument: more"),
+    ([*JOURNAL, "--from"], "--from: 1 required DATE missing"),
+    ([*JOURNAL, "--from", ""], "--from: the value is empty"),
+    ([*JOURNAL, "--from", "2025-02-29"], "--from: 2025-02-29 is no date"),
+    ([*JOURNAL, "--to", "31/03/2025"], "--to: 31/03/2025 is no date"),
+    ([*JOURNAL, "--session-date", "today"], "--session-date: today is no date"),
+    ([*JOURNAL, "--from", "2025-02-01", "--to", "2025-01-31"],
+     "--from 2025-02-01 is after --to 2025-01-31"),
+    ([*JOURNAL, "--segments", "3,x"], '--segments: "x" is no id'),
+    ([*JOURNAL, "--segments", "3,"], '--segments: "" is no id'),
+    ([*JOURNAL, "--segments", "99999999999"], '"99999999999" is no id'),
+    ([*JOURNAL, "--segments", "1,99"], "there is no segment 99; there are:\n  1  RET - "),
+    ([*JOURNAL, "--property", "Colour=red"],
+     '--property Colour: dsrGeneralJournal has no member "Colour"'),
+    ([*JOURNAL, "--property", "IReport_DateFrom=soon"], "--property IReport_DateFrom: "),
+    ([*JOURNAL, "--property", "Colour"], '"Colour" is no property; write Name=value'),
+    ([*JOURNAL, "--lang", "de"], "there is no language de: use en-CA or fr-CA"),
+    ([*JOURNAL, "--paper", "a5"], "there is no paper a5: use letter or a4"),
+    ([*JOURNAL, "-O", "docx"], "there is no format docx: use txt, pdf, csv or jsonl"),
+    ([*JOURNAL, "-o", "journal.docx"], "the ending of journal.docx tells no format"),
+    ([*JOURNAL, "-O", "csv", "-o", "./shop.db"], "./shop.db is the company itself"),
+    (["demo"], "say where the demo company goes"),
+    (["demo", "new.db", "--lines", "10"], "from 1,000 to 100,000,000 ledger lines"),
+    (["demo", "new.db", "--lines", "many"], "--lines = many"),
+    (["completion", "zsh"], "there is no shell zsh"),
+    (["reports", "--lang", "de"], "there is no language de"),
+]
+
+
+class Arguments(VarnelTest):
+    def test_a_malformed_argument_is_named_and_exits_with_2(self):
+        for arguments, message in REFUSED:
+            with self.subTest(arguments=arguments):
+                self.assert_refused(USAGE, message, *arguments)
+
+    def test_every_command_has_help(self):
+        for command in ([], ["demo"], ["reports"], ["run"], ["completion"]):
+            with self.subTest(command=command):
+                code, output, errors = self.run_varnel(*command, "--help")
+                self.assertEqual((0, ""), (code, errors))
+                self.assertIn(b"Usage: varnel", output)
+
+    def test_help_of_run_tells_the_exit_codes(self):
+        _, output, _ = self.run_varnel("run", "--help")
+        for words in (b"0 done", b"1 failed", b"2 unknown", b"3 the report", b"130 interrupted"):
+            self.assertIn(words, output)
+
+
+if __name__ == "__main__":
+    main()
