@@ -14,7 +14,12 @@ class EveryHost : public testing::TestWithParam<HostKind> {
     std::string Setting(std::string_view name) {
         return company_.GetSetting(name, "False", nullptr, -1);
     }
-    std::string Shown(std::string_view amount, int decimals = 2) {
+    std::string Shown(std::string_view amount) {
+        std::string text;
+        host_->GetFormats().AppendAmount(Amount(amount), text);
+        return text;
+    }
+    std::string Shown(std::string_view amount, int decimals) {
         std::string text;
         host_->GetFormats().AppendAmount(Amount(amount), decimals, text);
         return text;
@@ -78,6 +83,8 @@ TEST_P(EveryHost, ShowsAmountsRoundedGroupedAndWithoutASignForNothing) {
     EXPECT_EQ(Shown("1234.5"), "1,234.50");
     EXPECT_EQ(Shown("-1234567.895"), "-1,234,567.90");
     EXPECT_EQ(Shown("-123"), "-123.00");
+    EXPECT_EQ(Shown("0.005"), "0.01");
+    EXPECT_EQ(Shown("-0.005"), "-0.01");
     EXPECT_EQ(Shown("0"), "0.00");
     EXPECT_EQ(Shown("-0.0049"), "0.00");
     EXPECT_EQ(Shown("999.5", 0), "1,000");
@@ -171,6 +178,7 @@ TEST_P(EveryHost, SumsTheLinesOfAScope) {
         {10, {start, kOpenEnd, "", ""}, "-200.25", "0.00"},
         {10, {kOpenStart, start, "", ""}, "699.90", "0.00"},
         {11, {start, Day("2025-03-31"), "", ""}, "106.80", "80.00"},
+        {11, {Day("2025-01-15"), Day("2025-01-15"), "", ""}, "135.00", "100.00"},
         {11, {start, Day("2025-03-30"), "", ""}, "135.00", "100.00"},
         {10, {kOpenStart, kOpenEnd, first, ""}, "1000.00", "0.00"},
         {11, {start, end, first, ""}, "135.00", "100.00"},

@@ -99,7 +99,7 @@ INSERT INTO GLAcct (InGLAcctId, GLAcctId, Descr, AcctType, GroupType, ExCurrency
     (40, '4000', 'Sales', 4, 2, NULL), (50, '5000', 'Rent', 5, 2, NULL),
     (51, '5900', 'Exchange', 5, 2, NULL);
 INSERT INTO GLAccountParam VALUES ('Cie', 'GLRtainEarn', 30), ('Cie', 'SuppGLAP', 20),
-    ('Cie', 'UnrealizedGainLoss', 51), ('Other', 'GLRtainEarn', 99);
+    ('Cie', 'UnrealizedGainLoss', 51), ('Aux', 'GLRtainEarn', 99);
 INSERT INTO FiscalYear VALUES (2, '2025', '2025-01-01', '2025-12-31'),
     (1, '2024', '2023-07-01', '2024-06-30');
 INSERT INTO ProjInfo VALUES (7, 'P7', 'Kitchen'), (8, 'P8', 'Shop');
