@@ -151,9 +151,9 @@ ReportRef clsReport::CurrentBankReconciliation() {
 ReportRef clsReport::GeneralLedger(std::int16_t gl_type) {
     return GuardFormB(kFactory, "GeneralLedger", [&] {
         auto report = Make("dsrGeneralLedger");
-        Mark();
-        const auto label = report->IReport_ReportDesigner()->Get("lblType").ToObject();
-        label->Put("Caption", Variant(gl_type).ToText());
+        const auto designer = report->IReport_ReportDesigner();
+        const auto label = (Mark(), designer->Get("lblType").ToObject());
+        Mark(), label->Put("Caption", Variant(gl_type).ToText());
         return report;
     });
 }

@@ -16,8 +16,7 @@ void DesignedReport::ActiveReport_Initialize() {
         for (auto& section : surface_.Sections())
             for (auto& control : section.Controls()) {
                 const auto number = control.Design().caption;
-                Mark();
-                if (number != 0) control.SetText(PlainText(App(), number));
+                if (number != 0) Mark(), control.SetText(PlainText(App(), number));
             }
     });
 }

@@ -1,5 +1,7 @@
 #include "reports/journal/general_journal.h"
 
+#include <limits>
+
 #include "framework/filter_sort_subreport.h"
 #include "framework/item_adjustment_note.h"
 #include "framework/period_caption.h"
@@ -78,25 +80,22 @@ void dsrGeneralJournal::ActiveReport_Initialize() {
 
 void dsrGeneralJournal::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
-        Mark();
-        const auto adjustments_from = InitGLtAjust(App());
-        Mark();
-        QueryRunner query(App());
         entry_ = {};
         report_ = {};
         entry_count_ = 0;
+        foreign_used_ = false;
+        const auto adjustments_from = (Mark(), InitGLtAjust(App()));
+        QueryRunner query((Mark(), App()));
         foreign_used_ = IReport_UseCurrency();
         if (DisplayForeignCurrency()) MoveAmountColumns();
-        Mark();
         const std::string statement = BuildStatement();
         const Variant parameters[] = {DateFrom(), DateTo()};
-        Mark();
-        auto rows = query.Run(statement, parameters);
+        auto rows = (Mark(), query.Run(statement, parameters));
         Mark(), columns_.Resolve(rows->GetColumns());
         Data().Attach(std::move(rows));
         Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
-        Mark();
-        FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), Criteria(), Tool());
+        const auto custom = Criteria();
+        Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());
         Mark(), ShowItemAdjustmentNote(App(), GetSurface(), adjustments_from, DateTo());
     });
 }
@@ -105,10 +104,9 @@ std::string dsrGeneralJournal::BuildStatement() {
     std::string statement(kSelect);
     FilterTool* const tool = Tool();
     if (tool != nullptr) {
-        Mark();
-        tool->SetTables(CurrentCompany().UsesProjects()
-                            ? "GLDet, GLAcct, GJTrxHdr, ProjInfo, WorldCurrency"
-                            : "GLDet, GLAcct, GJTrxHdr, WorldCurrency");
+        const bool with_projects = (Mark(), CurrentCompany().UsesProjects());
+        Mark(), tool->SetTables(with_projects ? "GLDet, GLAcct, GJTrxHdr, ProjInfo, WorldCurrency"
+                                              : "GLDet, GLAcct, GJTrxHdr, WorldCurrency");
         Mark(), statement += SelectedDocumentsClause(tool->SelectedDocuments());
     }
     if (IsSegmentFiltered()) statement += " AND " + SegmentClauseOn("GLDet.ExSegmentId");
@@ -143,23 +141,26 @@ void dsrGeneralJournal::PutAmount(Control& control, Currency amount) {
     control.SetValue(amount, text_);
 }
 
+void dsrGeneralJournal::PutTotals(Control& debit, Control& credit, const Totals& totals) {
+    debit.Clear();
+    credit.Clear();
+    PutAmount(debit, totals.debit);
+    PutAmount(credit, totals.credit);
+}
+
 void dsrGeneralJournal::PageHeader_Format() { ReplacePageHeaderControls(PageHeader); }
 
+// Whatever the host fails at, the entry is counted, its totals start at zero and no text of the
+// entry before is left: what needs the host comes last.
 void dsrGeneralJournal::ghSeqNo_Format() {
     if (EndOfData()) return txtDescription.Clear();
-    const Row& row = CurrentRow();
-    text_.clear();
-    if (row.IsNull(columns_.date)) {
-        txtDate.Clear();
-    } else {
-        const Date date = row.Day(columns_.date);
-        Mark(), App().GetFormats().AppendShortDate(date, text_);
-        txtDate.SetValue(date, text_);
-    }
     entry_ = {};
-    if (__builtin_add_overflow(entry_count_, 1, &entry_count_))
+    txtDate.Clear();
+    if (entry_count_ == std::numeric_limits<std::int32_t>::max())
         Raise(error_number::kOverflow, "Varnel", "There are more entries than can be counted");
+    ++entry_count_;
 
+    const Row& row = CurrentRow();
     text_.clear();
     row.AppendText(columns_.seq_no, text_);
     txtSeqNo.SetValue(row.Integer(columns_.seq_no), text_);
@@ -173,6 +174,15 @@ void dsrGeneralJournal::ghSeqNo_Format() {
     text_ += '|';
     row.AppendText(columns_.source_key, text_);
     for (Control* header : {&txtSeqNo, &txtDate, &txtDescription}) header->SetTag(text_);
+    ShowDate();
+}
+
+void dsrGeneralJournal::ShowDate() {
+    if (CurrentRow().IsNull(columns_.date)) return;
+    const Date date = CurrentRow().Day(columns_.date);
+    text_.clear();
+    Mark(), App().GetFormats().AppendShortDate(date, text_);
+    txtDate.SetValue(date, text_);
 }
 
 bool dsrGeneralJournal::ShowsForeignAmount() const {
@@ -193,57 +203,56 @@ void dsrGeneralJournal::ShowAccount() {
 }
 
 void dsrGeneralJournal::ShowForeignAmount() {
-    const bool shown = ShowsForeignAmount();
-    txtForeign.SetVisible(shown);
-    txtForeignCode.SetVisible(shown);
-    if (!shown) return;
     const Row& row = CurrentRow();
     const Currency amount = row.Amount(columns_.foreign_amount);
     text_.clear();
     Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, row.Integer(columns_.currency_id), text_);
     txtForeign.SetValue(amount, text_);
+    txtForeign.SetVisible(true);
+    txtForeignCode.SetVisible(true);
 }
 
-// A line of zero leaves both texts as the line before it left them.
-void dsrGeneralJournal::ShowAmounts() {
-    const Currency amount = CurrentRow().Amount(columns_.amount);
+void dsrGeneralJournal::AddToTotals(Currency amount) {
     if (amount > Currency()) {
-        PutAmount(txtDebit, amount);
-        txtCredit.Clear();
         entry_.debit += amount;
         report_.debit += amount;
-    } else if (amount < Currency()) {
-        txtDebit.Clear();
-        PutAmount(txtCredit, -amount);
+    } else {
         entry_.credit -= amount;
         report_.credit -= amount;
     }
 }
 
+// A line of zero leaves both amounts as the line before it left them. The totals are added up and
+// the texts of the line before are gone before the host is asked for anything.
 void dsrGeneralJournal::Detail_Format() {
     if (EndOfData()) return;
     const Row& row = CurrentRow();
     ShowAccount();
-    ShowForeignAmount();
+    txtForeign.SetVisible(false);
+    txtForeignCode.SetVisible(false);
     if (row.IsNull(columns_.project_id))
         txtProject.Clear();
     else
         txtProject.SetText(row.Text(columns_.project));
-    ShowAmounts();
+
+    const Currency amount = row.Amount(columns_.amount);
+    if (!amount.IsZero()) {
+        txtDebit.Clear();
+        txtCredit.Clear();
+        AddToTotals(amount);
+        PutAmount(amount > Currency() ? txtDebit : txtCredit, amount.Abs());
+    }
+    if (ShowsForeignAmount()) ShowForeignAmount();
 }
 
 void dsrGeneralJournal::gfComment_Format() { gfComment.SetVisible(!txtRemarks.Text().empty()); }
 
-void dsrGeneralJournal::gfSeqNo_Format() {
-    PutAmount(txtDebitTotal, entry_.debit);
-    PutAmount(txtCreditTotal, entry_.credit);
-}
+void dsrGeneralJournal::gfSeqNo_Format() { PutTotals(txtDebitTotal, txtCreditTotal, entry_); }
 
 void dsrGeneralJournal::ReportFooter_Format() {
-    PutAmount(txtDebitGrandTotal, report_.debit);
-    PutAmount(txtCreditGrandTotal, report_.credit);
     Mark(), txtCount.SetValue(entry_count_,
                               std::to_string(entry_count_) + " " + PlainText(App(), kEntries));
+    PutTotals(txtDebitGrandTotal, txtCreditGrandTotal, report_);
 }
 
 }  // namespace varnel::reports

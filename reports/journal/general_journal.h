@@ -38,9 +38,11 @@ class dsrGeneralJournal final : public framework::ReportBase,
     bool ShowsForeignAmount() const;
     void ShowAccount();
     void ShowForeignAmount();
-    void ShowAmounts();
+    void ShowDate();
+    void AddToTotals(Currency amount);
     /// Home-currency text and value in one.
     void PutAmount(Control& control, Currency amount);
+    void PutTotals(Control& debit, Control& credit, const Totals& totals);
 
     void PageHeader_Format();
     void ghSeqNo_Format();
