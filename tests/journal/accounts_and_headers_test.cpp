@@ -1,0 +1,127 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/journal/journal_run.h"
+
+namespace varnel {
+namespace {
+
+using test::Amount;
+using test::JournalLine;
+using test::JournalRun;
+using testing::ElementsAre;
+
+JournalLine Described(Variant description, Variant reference) {
+    JournalLine line;
+    line.description = std::move(description);
+    line.reference = std::move(reference);
+    return line;
+}
+
+struct DescriptionCase {
+    Variant description;
+    Variant reference;
+    const char* text;
+};
+
+class JournalDescriptionTest : public testing::TestWithParam<DescriptionCase> {};
+
+TEST_P(JournalDescriptionTest, IsDescriptionMarkerAndReferenceWithoutOuterBlanks) {
+    JournalRun run;
+    const auto& [description, reference, text] = GetParam();
+    EXPECT_THAT(run({Described(description, reference)}).Texts("ghSeqNo", "txtDescription"),
+                ElementsAre(text));
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, JournalDescriptionTest,
+                         testing::Values(DescriptionCase{"Rent", "R-1", "Rent  #Ref: R-1"},
+                                         DescriptionCase{"Rent", "", "Rent  #Ref:"},
+                                         DescriptionCase{"Rent", Variant::Null{}, "Rent  #Ref:"},
+                                         DescriptionCase{"  Rent ", " R 1 ", "Rent   #Ref:  R 1"},
+                                         DescriptionCase{"", "", "#Ref:"},
+                                         DescriptionCase{Variant::Null{}, "R-1", "#Ref: R-1"}));
+
+TEST(JournalHeaderTest, ShowsNumberAndDateWithTheirValues) {
+    JournalRun run;
+    const auto header = run({Amount("5", 12)}).Of("ghSeqNo").at(0);
+    EXPECT_EQ(header.Text("txtSeqNo"), "12");
+    EXPECT_EQ(header["txtSeqNo"].value, ControlValue(std::int32_t{12}));
+    EXPECT_EQ(header.Text("txtDate"), "2025-01-15");
+    EXPECT_EQ(header["txtDate"].value, ControlValue(Date::ParseIso("2025-01-15")));
+}
+
+TEST(JournalHeaderTest, ALineWithoutDateShowsNoneNotTheOneBefore) {
+    JournalRun run;
+    auto undated = Amount("5", 2);
+    undated.date = Variant::Null{};
+    const auto bands = run({Amount("5", 1), undated});
+    EXPECT_THAT(bands.Texts("ghSeqNo", "txtDate"), ElementsAre("2025-01-15", ""));
+    EXPECT_EQ(bands.Of("ghSeqNo")[1]["txtDate"].value, ControlValue());
+}
+
+TEST(JournalHeaderTest, NumberDateAndDescriptionOpenTheSourceDocument) {
+    JournalRun run;
+    auto transfer = Amount("5", 2);
+    transfer.source = "BKT";
+    transfer.source_key = "X7";
+    const auto headers = run({Amount("5", 1), transfer}).Of("ghSeqNo");
+    for (const char* control : {"txtSeqNo", "txtDate", "txtDescription"}) {
+        EXPECT_EQ(headers.at(0)[control].tag, "GJ|11");
+        EXPECT_EQ(headers.at(1)[control].tag, "BKT|X7");
+    }
+}
+
+JournalLine Remarked(std::int32_t entry, Variant remarks) {
+    auto line = Amount("5", entry);
+    line.remarks = std::move(remarks);
+    return line;
+}
+
+TEST(JournalRemarksTest, AreShownExactlyWhereThereAreAny) {
+    JournalRun run;
+    const auto bands = run({Remarked(1, Variant::Null{}), Remarked(2, "See the lease"),
+                            Remarked(3, ""), Remarked(4, "Approved"), Remarked(5, " ")});
+    EXPECT_THAT(bands.Texts("gfComment", "txtRemarks"),
+                ElementsAre("See the lease", "Approved", " "));
+}
+
+TEST(JournalRemarksTest, StandBetweenTheLinesOfTheEntryAndItsTotals) {
+    JournalRun run;
+    std::vector<std::string> order;
+    for (const auto& band : run({Remarked(1, "Why"), Remarked(1, "Why")}).bands)
+        if (band.depth == 0) order.push_back(band.section);
+    EXPECT_THAT(order,
+                testing::ElementsAre("ReportHeader", "PageHeader", "ghSeqNo", "ghComment", "Detail",
+                                     "Detail", "gfComment", "gfSeqNo", "ReportFooter"));
+}
+
+TEST(JournalProjectTest, IsShownForLinesOfAProjectOnly) {
+    JournalRun run;
+    auto of_project = Amount("5");
+    of_project.project_id = 3;
+    of_project.project = "BRIDGE";
+    EXPECT_THAT(run({Amount("5"), of_project, Amount("5")}).Texts("Detail", "txtProject"),
+                ElementsAre("", "BRIDGE", ""));
+}
+
+JournalLine OfAccount(Variant number, Variant description) {
+    JournalLine line;
+    line.account_number = std::move(number);
+    line.account = std::move(description);
+    return line;
+}
+
+TEST(JournalAccountTest, ShowsTheNumberOnlyWhenTheCompanyUsesNumbers) {
+    JournalRun run;
+    const std::vector lines{OfAccount("1000", "Cash"), OfAccount(2100, "Payables"),
+                            OfAccount(Variant::Null{}, Variant::Null{})};
+    EXPECT_THAT(run(lines).Texts("Detail", "txtAccount"), ElementsAre("Cash", "Payables", ""));
+    run.host->company.settings["UseAccountNumbers"] = "True";
+    EXPECT_THAT(run(lines).Texts("Detail", "txtAccount"),
+                ElementsAre("1000 - Cash", "2100 - Payables", ""));
+    run.host->company.settings["UseAccountNumbers"] = "False";
+    EXPECT_THAT(run(lines).Texts("Detail", "txtAccount"), ElementsAre("Cash", "Payables", ""));
+}
+
+}  // namespace
+}  // namespace varnel

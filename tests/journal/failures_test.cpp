@@ -1,0 +1,91 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <regex>
+
+#include "tests/journal/journal_run.h"
+
+namespace varnel {
+namespace {
+
+using test::Amount;
+using test::JournalRun;
+using testing::ElementsAre;
+
+std::string JournalSourceLine(int number) {
+    std::ifstream in(VARNEL_SOURCE_DIR "/reports/journal/general_journal.cpp");
+    std::string line;
+    while (number-- > 0) std::getline(in, line);
+    return line;
+}
+
+/// The statement of the journal's source that the message of form A names.
+std::string FailingStatement(const std::string& message, const std::string& description,
+                             const std::string& procedure) {
+    std::smatch line;
+    const std::regex form(description + "\r\nin Varnel\\.dsrGeneralJournal\\." + procedure +
+                          " at line (\\d+)");
+    if (!std::regex_match(message, line, form)) return "not in form A: " + message;
+    return JournalSourceLine(std::stoi(line[1]));
+}
+
+TEST(JournalFailureTest, AFailingHandlerIsToldAndTheRunGoesOnWithRightTotals) {
+    JournalRun run;
+    run.report->IReport_DisplayForeignCurrency(true);
+    auto unknown_currency = Amount("20");
+    unknown_currency.currency_id = 99;
+    const auto bands = run({Amount("10"), unknown_currency, Amount("-30")});
+
+    ASSERT_EQ(run.host->message_boxes.size(), 1u);
+    EXPECT_THAT(
+        FailingStatement(run.host->message_boxes[0], "There is no currency 99", "Detail_Format"),
+        testing::HasSubstr("FormatWorldCurrency"));
+    EXPECT_THAT(bands.Texts("Detail", "txtDebit"), ElementsAre("10.00", "20.00", ""));
+    EXPECT_FALSE(bands.Of("Detail")[1]["txtForeign"].visible);
+    EXPECT_THAT(bands.Texts("gfSeqNo", "txtDebitTotal"), ElementsAre("30.00"));
+    EXPECT_THAT(bands.Texts("gfSeqNo", "txtCreditTotal"), ElementsAre("30.00"));
+}
+
+TEST(JournalFailureTest, AQueryThatFailsLeavesAnEmptyReport) {
+    JournalRun run;
+    const auto collected = test::Collect(*run.report->IReport_ReportDesigner());
+    ASSERT_EQ(run.host->message_boxes.size(), 1u);
+    EXPECT_THAT(FailingStatement(run.host->message_boxes[0], "No rows were given for: SELECT.*",
+                                 "ActiveReport_ReportStart"),
+                testing::HasSubstr("query.Run("));
+    EXPECT_TRUE(collected.Of("Detail").empty());
+    EXPECT_THAT(collected.Texts("ReportFooter", "txtCount"), ElementsAre("0 entries"));
+    EXPECT_TRUE(collected.ended);
+}
+
+TEST(JournalFailureTest, AColumnThatTheQueryDoesNotGiveIsNamed) {
+    JournalRun run;
+    auto rows = test::JournalRows({Amount("10")});
+    rows.columns[3] = "Amount";
+    run.host->database.Answer("FROM (((GLDet", rows);
+    const auto collected = test::Collect(*run.report->IReport_ReportDesigner());
+    ASSERT_EQ(run.host->message_boxes.size(), 1u);
+    EXPECT_THAT(run.host->message_boxes[0],
+                testing::StartsWith("The row set has no column \"DetAmnt\"; it has InGLDetId, "));
+    EXPECT_THAT(run.host->message_boxes[0],
+                testing::HasSubstr("\r\nin Varnel.dsrGeneralJournal.ActiveReport_ReportStart at "));
+    EXPECT_TRUE(collected.Of("Detail").empty());
+}
+
+TEST(JournalFailureTest, AFailureInTheEntryHeaderLeavesNothingOfTheEntryBefore) {
+    JournalRun run;
+    auto wrong_date = Amount("20", 2);
+    wrong_date.date = "soon";
+    const auto bands = run({Amount("10", 1), wrong_date, Amount("-30", 2)});
+    ASSERT_EQ(run.host->message_boxes.size(), 1u);
+    EXPECT_THAT(run.host->message_boxes[0],
+                testing::HasSubstr("in Varnel.dsrGeneralJournal.ghSeqNo_Format at line "));
+    EXPECT_THAT(bands.Texts("ghSeqNo", "txtSeqNo"), ElementsAre("1", "2"));
+    EXPECT_THAT(bands.Texts("ghSeqNo", "txtDate"), ElementsAre("2025-01-15", ""));
+    EXPECT_THAT(bands.Texts("gfSeqNo", "txtDebitTotal"), ElementsAre("10.00", "20.00"));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtCount"), ElementsAre("2 entries"));
+}
+
+}  // namespace
+}  // namespace varnel
