@@ -20,15 +20,13 @@ constexpr bool StayTogether(const BandPlace& before, const BandPlace& after) {
            after.kind == SectionKind::kReportFooter;
 }
 
-/// Whether the band belongs to the innermost group of that level that is open before it.
+/// Whether the header or line belongs to the group of that level that is open before it.
 constexpr bool IsInsideGroup(const BandPlace& band, int level) {
     switch (band.kind) {
         case SectionKind::kDetail:
             return true;
         case SectionKind::kGroupHeader:
             return band.level > level;
-        case SectionKind::kGroupFooter:
-            return band.level >= level;
         default:
             return false;
     }

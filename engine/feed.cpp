@@ -26,7 +26,7 @@ void Feed::KeepCurrent() {
     if (!current_.Present()) return;
     const bool own_row = current_.row != &fields_;
     if (own_row) kept_row_ = *current_.row;
-    std::swap(fields_, kept_fields_);
+    if (fields_.Size() != 0) std::swap(fields_, kept_fields_);
     previous_ = {own_row ? &kept_row_ : &kept_fields_, &kept_fields_};
 }
 

@@ -1,15 +1,28 @@
 #include "engine/page_codec.h"
 
+#include <cstdint>
+#include <initializer_list>
+
 namespace varnel::engine {
 
 namespace {
 
 /// Small numbers in few bytes: seven bits each, the sign in the lowest.
-void PutNumber(std::string& bytes, std::int64_t number) {
+char* PutNumber(char* end, std::int64_t number) {
     auto rest =
         (static_cast<std::uint64_t>(number) << 1) ^ static_cast<std::uint64_t>(number >> 63);
-    for (; rest >= 0x80; rest >>= 7) bytes += static_cast<char>(rest | 0x80);
-    bytes += static_cast<char>(rest);
+    for (; rest >= 0x80; rest >>= 7) *end++ = static_cast<char>(rest | 0x80);
+    *end++ = static_cast<char>(rest);
+    return end;
+}
+
+/// Collected first: appending a string byte by byte costs more than all the rest.
+void PutNumbers(std::string& bytes, std::initializer_list<std::int64_t> numbers) {
+    constexpr std::size_t kMostBytes = 10;
+    char buffer[8 * kMostBytes];
+    char* end = buffer;
+    for (const auto number : numbers) end = PutNumber(end, number);
+    bytes.append(buffer, end);
 }
 
 class Reader {
@@ -58,18 +71,14 @@ void UnpackFlags(int flags, Item& item) {
 }  // namespace
 
 void EncodePage(const Page& page, std::string& bytes) {
-    PutNumber(bytes, page.width);
-    PutNumber(bytes, page.height);
+    PutNumbers(bytes, {page.width, page.height});
     Twips top = 0;
     for (const Item& item : page.content.Items()) {
-        PutNumber(bytes, PackFlags(item));
-        PutNumber(bytes, item.style.size);
-        PutNumber(bytes, item.box.left);
-        PutNumber(bytes, item.box.top - top);  // Neighbours mostly stand on one line.
-        PutNumber(bytes, item.box.width);
-        PutNumber(bytes, item.box.height);
         const auto text = page.content.Text(item);
-        PutNumber(bytes, static_cast<std::int64_t>(text.size()));
+        PutNumbers(bytes,
+                   {PackFlags(item), item.style.size, item.box.left,
+                    item.box.top - top,  // Neighbours mostly stand on one line.
+                    item.box.width, item.box.height, static_cast<std::int64_t>(text.size())});
         bytes += text;
         top = item.box.top;
     }

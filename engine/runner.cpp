@@ -101,7 +101,7 @@ void Runner::Resolve(bool has_record) {
 void Runner::WalkRows() {
     int changed = 0;
     bool more = true;
-    while (more && !control_.Cancelled()) {
+    while (more) {
         OpenGroups(changed);
         Write(parts_.Detail());
         if (depth_ == 0)

@@ -147,6 +147,8 @@ TEST(Pages, ABandTallerThanAPageIsCutBetweenItsTexts) {
             {.name = kTexts[i], .box = {0, i * 150, 500, 150}, .text = kTexts[i]});
     detail.controls.push_back(
         {.name = "side", .kind = ControlKind::kLine, .box = {600, 0, 10, 900}});
+    detail.controls.push_back(
+        {.name = "across", .kind = ControlKind::kLine, .box = {0, 140, 500, 10}});
     MicroReport report(layout, "line", "1");
     const auto pages = PagesOf(report, PaperFor(5));  // 400 below the header: two texts and a bit.
     ASSERT_EQ(pages.size(), 3u);
@@ -160,15 +162,11 @@ TEST(Pages, ABandTallerThanAPageIsCutBetweenItsTexts) {
 TEST(Pages, ATextTallerThanAPageDoesNotLoop) {
     Layout layout = PlainLayout(0);
     auto& detail = Design(layout, "detail");
-    detail.height = 2000;
-    detail.controls[0].box.height = 2000;
-    MicroReport report(layout, "line", "1|2");
-    const auto texts = TextsOfPages(report, PaperFor(5));
-    Names all;
-    for (const auto& page : texts)
-        for (const auto& text : page)
-            if (text != "PH") all.push_back(text);
-    EXPECT_EQ(all, (Names{"1", "2"}));
+    detail.height = 1100;
+    detail.controls[0].box.height = 1000;
+    detail.controls.push_back({.name = "after", .box = {0, 1000, 500, 100}, .text = "after"});
+    MicroReport report(layout, "line", "1");
+    EXPECT_EQ(TextsOfPages(report, PaperFor(5)), (PageTexts{{"PH", "1"}, {"PH"}, {"PH", "after"}}));
 }
 
 TEST(Pages, APageWithoutRoomForALineDoesNotLoop) {
@@ -184,6 +182,14 @@ TEST(Pages, AReportHeaderLongerThanAPageIsFollowedByOnePageHeader) {
     header.controls[0].box.height = 50;
     MicroReport report(layout, "line", "1");
     EXPECT_EQ(TextsOfPages(report, PaperFor(5)), (PageTexts{{}, {"PH", "RH", "1", "RF"}}));
+    EXPECT_EQ(report.Formats("pageHeader"), 1);
+}
+
+TEST(Pages, APageHeaderThatTheReportHeaderLeavesNoRoomForMovesOn) {
+    Layout layout = Without(MicroLayout(0), {"pageFooter"});
+    Design(layout, "reportHeader").height = 450;
+    MicroReport report(layout, "line", "1");
+    EXPECT_EQ(TextsOfPages(report, PaperFor(5)), (PageTexts{{"RH"}, {"PH", "1", "RF"}}));
     EXPECT_EQ(report.Formats("pageHeader"), 1);
 }
 

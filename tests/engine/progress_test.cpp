@@ -87,7 +87,9 @@ TEST(ProgressOfARun, CancellingInsideASubReportStopsTheParentToo) {
         std::make_shared<MicroReport>(MicroLayout(0), "g0 line", ManyRows(2000)));
     CountingProgress progress(1);
     BandLog sink;
-    EXPECT_TRUE(RunToBands(parent, {}, sink, &progress).cancelled);
+    const RunResult result = RunToBands(parent, {}, sink, &progress);
+    EXPECT_TRUE(result.cancelled);
+    EXPECT_EQ(result.rows, 1);  // Of the parent only.
     EXPECT_EQ(parent.Formats("detail"), 1);
     EXPECT_EQ(parent.log.back(), "Terminate");
 }

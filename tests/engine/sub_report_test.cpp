@@ -59,6 +59,16 @@ TEST(SubReport, ItsBandsStandInTheParentsAndWhatIsBelowMovesDown) {
     EXPECT_EQ(BoxOf(band, "").top, 500);  // The rule.
 }
 
+TEST(SubReport, IsWidenedToTheControlThatHoldsIt) {
+    Layout layout = ParentLayout();
+    Design(layout, "detail").controls[3].box.width = 1200;
+    MicroReport parent(layout, "line", "1");
+    Layout sub_layout = SubLayout();
+    Design(sub_layout, "detail").controls[0].stretch = Stretch::kWiden;
+    parent.TextOf("sub").SetSubReport(std::make_shared<MicroReport>(sub_layout, "line", "x"));
+    EXPECT_EQ(BoxOf(DetailOf(parent), "x").width, 1200);
+}
+
 TEST(SubReport, RunsWithItsOwnEventsForEachInstance) {
     MicroReport parent(ParentLayout(), "line", "1|2");
     const auto sub = std::make_shared<MicroReport>(SubLayout(), "line", "x");
@@ -84,6 +94,7 @@ TEST(SubReport, AHiddenOrAbsentOneTakesNoSpaceAndDoesNotRun) {
     parent.TextOf("sub").SetVisible(false);
     EXPECT_EQ(DetailOf(parent).height, 240);
     EXPECT_EQ(BoxOf(DetailOf(parent), "below").top, 100);
+    BandsOf(parent);
     EXPECT_TRUE(sub->log.empty());
 }
 
@@ -109,11 +120,10 @@ TEST(SubReport, DataExportsGetItsSectionsOneDeeperAfterTheSectionThatHoldsIt) {
 }
 
 TEST(SubReport, OneThatHoldsItselfIsAnError) {
-    Layout layout = ParentLayout();
-    const auto report = std::make_shared<MicroReport>(layout, "line", "1");
-    report->TextOf("sub").SetSubReport(report);
-    EXPECT_THROW(BandsOf(*report), Error);
-    report->TextOf("sub").SetSubReport(nullptr);
+    MicroReport report(ParentLayout(), "line", "1");
+    // Without a share in its own lifetime.
+    report.TextOf("sub").SetSubReport({std::shared_ptr<void>(), &report});
+    EXPECT_THROW(BandsOf(report), Error);
 }
 
 TEST(Composing, ATextThatGrowsPrintsOneItemForEachLine) {
