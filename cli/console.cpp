@@ -31,7 +31,8 @@ std::string Indented(std::string_view text) {
     std::string lines;
     for (const char c : text) {
         if (c == '\r') continue;
-        lines += c;
+        const bool is_control = (c >= '\0' && c < ' ' && c != '\n') || c == '\x7f';
+        lines += is_control ? ' ' : c;
         if (c == '\n') lines += "  ";
     }
     return lines;

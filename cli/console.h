@@ -25,9 +25,12 @@ class Console {
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
-    /// Prints "varnel: " and the text; its further lines are indented.
+    /// Prints "varnel: " and the text; its further lines are indented. Control characters
+    /// become blanks: no text can steer the terminal.
     void Say(std::string_view text);
 
+    /// For work that writes to the terminal itself.
+    void SwitchProgressOff() { has_progress_ = false; }
     /// True when a line of progress is due: asked often, it is so a few times a second.
     bool ProgressIsDue();
     void ShowProgress(std::string_view text);

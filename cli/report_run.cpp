@@ -34,11 +34,14 @@ void RefuseOtherOptions(const ReportEntry& entry, const RunRequest& request) {
     }
 }
 
+bool IsShownOnTerminal(const RunRequest& request) {
+    return (request.output.empty() || request.output == "-") && IsTerminal(STDOUT_FILENO);
+}
+
 void CheckFiles(const RunRequest& request, const OutputFormat& format) {
     if (request.company.empty())
         throw UsageError("say which company: --company FILE (\"varnel demo FILE\" makes one)");
-    const bool to_stdout = request.output.empty() || request.output == "-";
-    if (to_stdout && !format.is_text && IsTerminal(STDOUT_FILENO))
+    if (!format.is_text && IsShownOnTerminal(request))
         throw UsageError("a terminal cannot show " + std::string(format.name) + ": add -o FILE." +
                          std::string(format.name));
     std::error_code ignored;
@@ -72,8 +75,7 @@ engine::DocumentInfo InfoOf(IReport& report, company::CompanyHost& host,
 
 OutputLayout LayoutOf(const RunRequest& request, const RunSettings& settings) {
     OutputLayout layout{.page = settings.page};
-    const bool to_stdout = request.output.empty() || request.output == "-";
-    if (!to_stdout || !IsTerminal(STDOUT_FILENO)) return layout;
+    if (!IsShownOnTerminal(request)) return layout;
     layout.columns = TerminalColumns();
     layout.bold = UsesTerminalStyles();
     return layout;
@@ -97,6 +99,7 @@ int RunReport(const RunRequest& request, Console& console) {
     const OutputFormat& format = ChooseFormat(request);
     RefuseOtherOptions(entry, request);
     CheckFiles(request, format);
+    if (IsShownOnTerminal(request)) console.SwitchProgressOff();
 
     MessageLog log(console);
     const auto host = OpenHost(request, settings, log);

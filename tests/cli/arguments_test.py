@@ -8,6 +8,7 @@ REFUSED = [
     (["--vresion"], "there is no option --vresion; did you mean --version?"),
     (["run"], "say which report"),
     (["run", "genral-jornal"], "no report genral-jornal; did you mean general-journal?"),
+    (["run", "\x1b[2Jzzzzz"], "there is no report  [2Jzzzzz\n"),
     (["run", "zzzzz"], "there is no report zzzzz\n"),
     (["run", "gifi"], "this version does not have the report gifi"),
     (["run", "general-journal"], "say which company: --company FILE"),

@@ -106,6 +106,14 @@ class Output(VarnelTest):
         self.assert_refused(FAILED, "it is a folder", *JANUARY, "-O", "csv", "-o", ".")
         self.assert_refused(FAILED, "cannot create /proc/a.csv", *JANUARY, "-o", "/proc/a.csv")
 
+    def test_missing_fonts_are_told_by_a_pdf_alone(self):
+        env = {"VARNEL_FONT_DIR": "/nowhere"}
+        code, _, errors = self.run_varnel(*JANUARY, "-o", "a.pdf", env=env)
+        self.assertEqual(FAILED, code)
+        self.assertIn("/nowhere", errors)
+        self.assertFalse((self.folder / "a.pdf").exists())
+        self.assertEqual(0, self.run_varnel(*JANUARY, "-o", "a.csv", env=env)[0])
+
     @unittest.skipIf(os.geteuid() == 0, "root may write everywhere")
     def test_a_file_that_may_not_be_written_is_not_replaced(self):
         (self.folder / "kept.csv").touch(mode=0o444)

@@ -63,6 +63,16 @@ class Terminal(VarnelTest):
         self.assertRegex(shown, r"\d+ rows, \d+ pages")
         self.assertTrue(shown.endswith("\r\x1b[K"))
 
+    def test_progress_does_not_run_into_a_report_on_the_same_terminal(self):
+        ours, theirs = pty.openpty()
+        process = self.start(*FOUR_MONTHS, "--filter", SLOW_FILTER, env={"TERM": "xterm"},
+                             stdout=theirs, stderr=theirs)
+        os.close(theirs)
+        shown = read_all(ours)
+        os.close(ours)
+        self.assertEqual(0, process.wait())
+        self.assertNotIn("\x1b[K", shown)
+
     def test_a_quick_run_shows_no_progress(self):
         self.assertEqual((0, ""), self.show("stderr", "-o", "quick.csv"))
 
