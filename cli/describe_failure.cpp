@@ -22,7 +22,7 @@ std::string_view WayOut(const std::error_code& code) {
 
 int TellFailure(Console& console) {
     if (StopSignal() != 0) {
-        console.Say("interrupted; nothing was written");
+        console.Say("interrupted; no file was written");
         return kSignalBase + StopSignal();
     }
     try {

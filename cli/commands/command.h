@@ -6,7 +6,7 @@
 
 #include "cli/console.h"
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): CLI11 calls itself so.
 class App;
 }
 

@@ -75,7 +75,7 @@ std::string BashScript(const CLI::App& program) {
         AppendValueCases(*command, values);
         std::string list = OptionWords(*command);
         AppendWord(list, PlainWords(name));
-        words += "        " + name + ") words='" + list + "' ;;\n";
+        words.append("        ").append(name).append(") words='").append(list).append("' ;;\n");
     }
     return "# Completion of varnel for bash: source <(varnel completion bash)\n"
            "_varnel() {\n"
