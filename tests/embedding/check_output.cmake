@@ -1,5 +1,6 @@
 # Runs PROGRAM and looks for the lines that a reader of the example would check by hand.
-execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE result)
+execute_process(COMMAND ${PROGRAM}
+    OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE result)
 if(NOT result EQUAL 0 OR NOT errors STREQUAL "")
     message(FATAL_ERROR "The example ended with ${result} and said: ${errors}")
 endif()
