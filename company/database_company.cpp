@@ -32,8 +32,6 @@ std::int32_t DatabaseCompany::GetGLAccountParam(std::string_view name, std::stri
     return params_.Find(name, section);
 }
 
-bool DatabaseCompany::PeriodTest(Date from, Date to) { return from < FiscalYearStart(to); }
-
 std::optional<Date> DatabaseCompany::ItemAdjustmentStart() {
     if (!settings_.FindTruth(setting::kItemAdjustGL).value_or(false)) return std::nullopt;
     return settings_.FindDate(setting::kItemAdjustStartDate);

@@ -28,7 +28,6 @@ class DatabaseCompany final : public Company {
                            const ObjectRef& scope, std::int32_t index) override;
     std::int32_t GetGLAccountParam(std::string_view name, std::string_view section) override;
     Date FiscalYearStart(Date date) override { return fiscal_years_.StartOf(date); }
-    bool PeriodTest(Date from, Date to) override;
     std::optional<Date> ItemAdjustmentStart() override;
     bool UsesProjects() override;
 

@@ -6,8 +6,4 @@ std::shared_ptr<Command> SqliteCompanyDatabase::NewCommand() {
     return drivers::NewSqliteCommand(connections_);
 }
 
-void SqliteCompanyDatabase::BindParameters(Command& command, std::span<const Variant> parameters) {
-    for (const auto& parameter : parameters) command.AppendParameter(parameter);
-}
-
 }  // namespace varnel::company

@@ -19,7 +19,6 @@ class SqliteCompanyDatabase final : public CompanyDatabase {
     std::string ConnectionString() override { return path_; }
     int DatabaseType() override { return database_type_; }
     std::shared_ptr<Command> NewCommand() override;
-    void BindParameters(Command& command, std::span<const Variant> parameters) override;
 
   private:
     static constexpr int kDesktopEngine = 1;

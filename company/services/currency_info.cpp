@@ -69,12 +69,4 @@ void CompanyCurrencyInfo::FormatWorldCurrency(Currency amount, std::int32_t curr
     formats_.AppendAmount(amount, currencies_.Item(currency_id).decimals, out);
 }
 
-Currency CompanyCurrencyInfo::Round(Currency amount, int decimals) {
-    return varnel::Round(amount, decimals);
-}
-
-Currency CompanyCurrencyInfo::RoundProduct(Currency amount, Rate rate, int decimals) {
-    return Multiply(amount, rate, decimals);
-}
-
 }  // namespace varnel::company

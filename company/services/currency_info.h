@@ -31,8 +31,6 @@ class CompanyCurrencyInfo final : public CurrencyInfo {
     Currency EvaluateValueWithExchangeRate(Rate booked_rate, std::int32_t currency_id,
                                            Currency foreign_amount, IExchangeRates& rates) override;
     void FormatWorldCurrency(Currency amount, std::int32_t currency_id, std::string& out) override;
-    Currency Round(Currency amount, int decimals) override;
-    Currency RoundProduct(Currency amount, Rate rate, int decimals) override;
     Currencies& GetCurrencies() override { return currencies_; }
 
   private:
