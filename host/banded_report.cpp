@@ -16,12 +16,4 @@ void ReportData::Clear() {
     for (std::size_t i = 0; i < field_names_.Size(); ++i) fields_.AddNull();
 }
 
-void ReportData::CopyFields(Row& into) {
-    const std::size_t size = field_names_.Size();
-    if (size == 0) return;
-    into.Start(size);
-    for (std::uint32_t i = 0; i < size; ++i) into.Add(fields_.Value({i}));
-    fields_ = into;
-}
-
 }  // namespace varnel

@@ -39,9 +39,10 @@ class ReportData {
         shown_fields_ = fields;
     }
     const Row& Fields() const { return fields_; }
-    /// Copies the fields' values as they are now. Texts that were set over are dropped on the way,
-    /// so that fields set for every row take no more memory than those of one.
-    void CopyFields(Row& into);
+    /// Copies the fields' values as they are now.
+    void CopyFields(Row& into) const {
+        if (field_names_.Size() != 0) into = fields_;
+    }
 
   private:
     std::shared_ptr<Recordset> rows_;
