@@ -9,11 +9,15 @@ namespace varnel::engine {
 
 namespace {
 
+bool CameOutAsDesigned(const Extent& extent) { return extent.height == extent.box.height; }
+
 bool IsAbove(const Extent& a, const Extent& b) { return a.box.Bottom() <= b.box.top; }
 
 }  // namespace
 
 Twips Growth::Settle(std::vector<Extent>& extents, Twips section_height) {
+    // Nearly every band: all came out as designed, and nothing moves.
+    if (std::ranges::all_of(extents, CameOutAsDesigned)) return section_height;
     // The end of the section moves like one more control.
     extents.push_back({.box = {0, section_height, 0, 0}});
     order_.resize(extents.size() - 1);
