@@ -66,9 +66,9 @@ void FillStandardHeader(Surface& surface, Application& application, const std::s
 
 void ReplacePageHeaderControls(Section& page_header) {
     Box block;
-    Box row;
     for (const auto& control : page_header.Controls())
         if (control.Design().name == kHeaderBlock) block = control.Place();
+    Box row{0, block.Bottom(), 0, 0};  // Without captions the section ends under the block.
     for (auto& control : page_header.Controls()) {
         if (control.Design().caption == 0) continue;
         if (row.height == 0) row = {0, block.Bottom() + kCaptionGap, 0, control.Place().height};

@@ -30,7 +30,7 @@ void FillStandardHeader(Surface& surface, Application& application, const std::s
 inline constexpr Twips kCaptionGap = 90;
 
 /// Moves the captions (and the rule at their foot) under the block, all to one top, and ends the
-/// page header under them. The first caption's height counts.
+/// page header under them. A caption is what has a text number; the first one's height counts.
 void ReplacePageHeaderControls(Section& page_header);
 
 }  // namespace varnel::framework

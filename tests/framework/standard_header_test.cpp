@@ -47,6 +47,17 @@ TEST(StandardHeaderTest, PlacingTheCaptionsAgainChangesNothing) {
     EXPECT_EQ(surface.At("lblFirst").Place().top, 990);
 }
 
+TEST(StandardHeaderTest, WithoutCaptionsTheSectionEndsUnderTheBlock) {
+    const Layout layout{.name = "dsrTried",
+                        .sections = {{.name = "PageHeader",
+                                      .kind = SectionKind::kPageHeader,
+                                      .controls = PageHeaderControls({})},
+                                     {.name = "Detail"}}};
+    Surface surface(layout);
+    ReplacePageHeaderControls(surface.SectionAt("PageHeader"));
+    EXPECT_EQ(surface.SectionAt("PageHeader").Height(), 900);
+}
+
 TEST(StandardHeaderTest, SaysWhoseReportItIsAndWhenItWasRun) {
     test::MemoryHost host;
     host.texts[30044] = "&Page {0} of {1}";
