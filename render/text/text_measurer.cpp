@@ -6,11 +6,6 @@ namespace varnel::render {
 
 namespace {
 
-std::string_view WithoutTrailingBlanks(std::string_view line) {
-    const auto last = line.find_last_not_of(' ');
-    return line.substr(0, last == std::string_view::npos ? 0 : last + 1);
-}
-
 /// Where the next line begins when `fitting` bytes fit on this one: after a space if there is one,
 /// otherwise inside the word; never at its very beginning.
 std::size_t NextLine(std::string_view text, std::size_t fitting) {
