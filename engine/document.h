@@ -19,15 +19,13 @@ struct DocumentInfo {
     std::string date = {};
 };
 
-/// Paper and margins in twips. The layout is centred between the margins' minimum and widened to
-/// what is left.
+/// Paper and margins in twips.
 struct PageSetup {
     Twips paper_width = 12'240;  // US Letter.
     Twips paper_height = 15'840;
     Twips margin_top = 720;
     Twips margin_bottom = 720;
-    Twips margin_side =
-        500;  // At least; a layout narrower than what is left is centred or widened.
+    Twips margin_side = 500;  // At least: RunToPages tells how a layout is fitted between them.
 
     static PageSetup Letter() { return {}; }
     static PageSetup A4() { return {11'906, 16'838, 720, 720, 500}; }

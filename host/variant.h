@@ -15,9 +15,8 @@ namespace varnel {
 /// arguments carry.
 ///
 /// The accessors convert as the reader asks, exactly or not at all: error 13 (type mismatch) when
-/// the value has no such reading, error 6 when it does not fit. Null converts to nothing but is
-/// told by `IsNull`; empty reads as 0,
-/// "" or False. Text is UTF-8.
+/// the value has no such reading, error 6 when it does not fit. Null has none: ask `IsNull` first.
+/// Empty reads as 0, "" or False. Text is UTF-8.
 class Variant {
   public:
     struct Null {};

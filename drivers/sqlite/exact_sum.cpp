@@ -16,7 +16,7 @@ namespace varnel::drivers {
 namespace {
 
 constexpr double kScale = static_cast<double>(Currency::kScale);
-constexpr double kScaledLimit = 9.2e18;  // As in Currency::FromDouble.
+constexpr double kScaledLimit = 9.2e18;  // Below what 64 bits hold.
 constexpr const char* kSumTooLarge = "the result of sum() is too large";
 
 /// 128 bits in two halves, since SQLite aligns its memory for 64 bits only.
