@@ -1,27 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdlib>
-#include <new>
-
 #include "tests/engine/micro_report.h"
-
-namespace {
-
-long allocations = 0;
-std::size_t largest = 0;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    ++allocations;
-    largest = std::max(largest, size);
-    if (void* memory = std::malloc(size)) return memory;
-    throw std::bad_alloc();
-}
-// Inlined, the compiler takes free() for the wrong partner of operator new.
-[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+#include "tests/support/allocation_count.h"
 
 using namespace varnel;
 using namespace varnel::engine;
@@ -92,11 +72,11 @@ long AllocationsOf(Mode mode, int rows) {
     Nothing sink;
     GridMeasurer measurer;
     PageStore store(1000);
-    const long before = allocations;
+    const long before = test::AllocationCount();
     if (mode == Mode::kBands) RunToBands(report, {}, sink);
     if (mode == Mode::kPlaced) RunToPlacedBands(report, {}, 1000, measurer, sink);
     if (mode == Mode::kPages) RunToPages(report, PaperFor(30), measurer, store);
-    return allocations - before;
+    return test::AllocationCount() - before;
 }
 
 }  // namespace
@@ -117,10 +97,10 @@ TEST(Allocation, FieldsSetForEveryRowTakeTheMemoryOfOne) {
     ReportData data;
     const Column field = data.AddField("note");
     Row copy;
-    largest = 0;
+    test::ResetLargestAllocation();
     for (int i = 0; i < 10'000; ++i) {
         data.SetField(field, "a text that is too long for a small buffer");
         data.CopyFields(copy);
     }
-    EXPECT_LT(largest, 1000u);
+    EXPECT_LT(test::LargestAllocation(), 1000u);
 }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "host/row.h"
-#include "tests/host/allocation_count.h"
+#include "tests/support/allocation_count.h"
 
 namespace varnel {
 namespace {

@@ -1,29 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
 #include "render/fonts/line_breaker.h"
 #include "render/pdf/pdf_page.h"
-
-namespace {
-
-std::atomic<long> allocation_count = 0;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    ++allocation_count;
-    if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
-    throw std::bad_alloc();
-}
-
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+#include "tests/support/allocation_count.h"
 
 namespace varnel::render {
 namespace {
@@ -31,9 +10,9 @@ namespace {
 template <class Action>
 long AllocationsOf(Action action) {
     action();  // fills the caches
-    const long before = allocation_count;
+    const long before = test::AllocationCount();
     action();
-    return allocation_count - before;
+    return test::AllocationCount() - before;
 }
 
 TEST(Allocation, MeasuringAndBreakingATextThatFitsTakesNoMemory) {

@@ -1,4 +1,4 @@
-#include "tests/host/allocation_count.h"
+#include "tests/support/allocation_count.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -7,11 +7,13 @@
 namespace {
 
 std::atomic<long> count = 0;
+std::atomic<std::size_t> largest = 0;
 
 }  // namespace
 
 void* operator new(std::size_t size) {
     ++count;
+    if (size > largest) largest = size;
     if (void* memory = std::malloc(size)) return memory;
     throw std::bad_alloc();
 }
@@ -19,4 +21,12 @@ void* operator new(std::size_t size) {
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
-long varnel::test::AllocationCount() { return count; }
+namespace varnel::test {
+
+long AllocationCount() { return count; }
+
+std::size_t LargestAllocation() { return largest; }
+
+void ResetLargestAllocation() { largest = 0; }
+
+}  // namespace varnel::test
