@@ -1,6 +1,13 @@
 #include "host/banded_report.h"
 
+#include "host/error.h"
+
 namespace varnel {
+
+void ReportData::RaiseNoRow() {
+    throw Error(error_number::kNoCurrentRow, "ReportData",
+                "There is no current row at the end of data");
+}
 
 Column ReportData::AddField(std::string name) {
     const Column known = field_names_.Find(name);

@@ -25,8 +25,11 @@ class ReportData {
     const Columns& FieldNames() const { return field_names_; }
 
     bool EndOfData() const { return row_ == nullptr; }
-    /// Columns of the current row; only when there is one.
-    const Row& Current() const { return *row_; }
+    /// The current row. Error 3021 at the end of data: ask EndOfData first where there may be none.
+    const Row& Current() const {
+        if (row_ == nullptr) RaiseNoRow();
+        return *row_;
+    }
     /// The unbound fields as they were with the current row; the same as Current() for a report
     /// without a row set.
     const Row& CurrentFields() const { return *shown_fields_; }
@@ -45,6 +48,8 @@ class ReportData {
     }
 
   private:
+    [[noreturn]] static void RaiseNoRow();
+
     std::shared_ptr<Recordset> rows_;
     Columns field_names_;
     Row fields_;
