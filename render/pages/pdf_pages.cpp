@@ -37,8 +37,8 @@ void FillPageNumber(std::string& out, std::string_view pattern, int number, int 
 double LeftOf(const engine::Item& item, double width) {
     const double spare = Points(item.box.width) - width;
     const double left = Points(item.box.left);
-    if (item.align == varnel::Align::kRight) return left + spare;
-    return item.align == varnel::Align::kCenter ? left + spare / 2 : left;
+    if (item.align == Align::kRight) return left + spare;
+    return item.align == Align::kCenter ? left + spare / 2 : left;
 }
 
 }  // namespace
@@ -89,9 +89,9 @@ double PdfPageWriter::Baseline(const engine::Item& item) {
 
 void PdfPageWriter::DrawText(PdfPage& page, const engine::Item& item, std::string_view text) {
     if (text.empty()) return;
-    render::TextStyle style{.font = PrintFont(item.style),
-                            .size = Points(item.style.size),
-                            .colour = PrintColour(item.style.ink)};
+    PdfTextStyle style{.font = PrintFont(item.style),
+                       .size = Points(item.style.size),
+                       .colour = PrintColour(item.style.ink)};
     const double room = Points(item.box.width);
     double width = fonts_.Width(style.font, style.size, text);
     // A hair of tolerance: a box made as wide as its text holds it.

@@ -14,8 +14,8 @@ class PrintMeasurer final : public engine::Measurer {
     /// `fonts` must outlive the measurer.
     explicit PrintMeasurer(FontSet& fonts) : fonts_(fonts) {}
 
-    Twips LineHeight(const varnel::TextStyle& style) override;
-    void BreakLines(std::string_view text, const varnel::TextStyle& style, Twips width,
+    Twips LineHeight(const TextStyle& style) override;
+    void BreakLines(std::string_view text, const TextStyle& style, Twips width,
                     std::vector<std::string_view>& lines) override;
 
   private:

@@ -9,7 +9,7 @@ namespace varnel::render {
 /// Twips to points.
 constexpr double Points(Twips twips) { return twips / 20.0; }
 
-constexpr FontStyle PrintFont(const varnel::TextStyle& style) {
+constexpr FontStyle PrintFont(const TextStyle& style) {
     if (style.bold) return style.italic ? FontStyle::kBoldItalic : FontStyle::kBold;
     return style.italic ? FontStyle::kItalic : FontStyle::kRegular;
 }

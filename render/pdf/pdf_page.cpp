@@ -42,15 +42,16 @@ std::string_view PdfPage::End() {
     return content_.View();
 }
 
-double PdfPage::TextWidth(const TextStyle& style, std::string_view utf8) {
+double PdfPage::TextWidth(const PdfTextStyle& style, std::string_view utf8) {
     return fonts_.Width(style.font, style.size, utf8) * style.stretch / 100;
 }
 
-void PdfPage::Text(double x, double y, const TextStyle& style, std::string_view utf8, Align align) {
+void PdfPage::Text(double x, double y, const PdfTextStyle& style, std::string_view utf8,
+                   PdfAlign align) {
     const Hundredths size = ToHundredths(style.size);
     if (utf8.empty() || size <= 0) return;
-    if (align == Align::kRight) x -= TextWidth(style, utf8);
-    if (align == Align::kCentre) x -= TextWidth(style, utf8) / 2;
+    if (align == PdfAlign::kRight) x -= TextWidth(style, utf8);
+    if (align == PdfAlign::kCentre) x -= TextWidth(style, utf8) / 2;
     SetFill(style.colour);
     MoveTo(x, y);
     SetStretch(style.stretch);

@@ -20,14 +20,14 @@ struct Colour {
     bool operator==(const Colour&) const = default;
 };
 
-struct TextStyle {
+struct PdfTextStyle {
     FontStyle font = FontStyle::kRegular;
     double size = 9;  // points
     Colour colour{};
     double stretch = 100;  // percent of the normal width; below 100 condenses
 };
 
-enum class Align : std::uint8_t { kLeft, kCentre, kRight };
+enum class PdfAlign : std::uint8_t { kLeft, kCentre, kRight };
 
 /// The page being written. Places are in points from the top left corner, y downwards; they are
 /// rounded to hundredths of a point. What is drawn later covers what was drawn before.
@@ -39,11 +39,11 @@ class PdfPage {
 
     /// Draws a line of UTF-8 text with its baseline at y. `x` is the left end, the middle or the
     /// right end of the text. Line feeds are shown as spaces: see BreakLines for paragraphs.
-    void Text(double x, double y, const TextStyle& style, std::string_view utf8,
-              Align align = Align::kLeft);
+    void Text(double x, double y, const PdfTextStyle& style, std::string_view utf8,
+              PdfAlign align = PdfAlign::kLeft);
 
     /// Width of the text as Text draws it.
-    double TextWidth(const TextStyle& style, std::string_view utf8);
+    double TextWidth(const PdfTextStyle& style, std::string_view utf8);
 
     void Line(double x1, double y1, double x2, double y2, double width, Colour colour);
     void FillRect(double x, double y, double width, double height, Colour colour);

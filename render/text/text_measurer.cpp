@@ -32,9 +32,9 @@ void BreakParagraph(std::string_view text, int columns, std::vector<std::string_
 
 }  // namespace
 
-Twips TextMeasurer::LineHeight(const varnel::TextStyle& style) { return TextLineHeight(style); }
+Twips TextMeasurer::LineHeight(const TextStyle& style) { return TextLineHeight(style); }
 
-void TextMeasurer::BreakLines(std::string_view text, const varnel::TextStyle&, Twips width,
+void TextMeasurer::BreakLines(std::string_view text, const TextStyle&, Twips width,
                               std::vector<std::string_view>& lines) {
     lines.clear();
     const int columns = grid_.TextColumns(width);

@@ -12,8 +12,8 @@ class TextMeasurer final : public engine::Measurer {
   public:
     explicit TextMeasurer(TextGrid grid) : grid_(grid) {}
 
-    Twips LineHeight(const varnel::TextStyle& style) override;
-    void BreakLines(std::string_view text, const varnel::TextStyle& style, Twips width,
+    Twips LineHeight(const TextStyle& style) override;
+    void BreakLines(std::string_view text, const TextStyle& style, Twips width,
                     std::vector<std::string_view>& lines) override;
 
   private:
@@ -21,6 +21,6 @@ class TextMeasurer final : public engine::Measurer {
 };
 
 /// The height a line of text takes in its place, so that layouts grow much as they do on paper.
-constexpr Twips TextLineHeight(const varnel::TextStyle& style) { return style.size * 136 / 100; }
+constexpr Twips TextLineHeight(const TextStyle& style) { return style.size * 136 / 100; }
 
 }  // namespace varnel::render

@@ -12,8 +12,8 @@ constexpr std::string_view kBoldOn = "\x1b[1m";
 constexpr std::string_view kBoldOff = "\x1b[0m";
 
 int NaturalStart(const TextCell& cell, int width) {
-    if (cell.align == varnel::Align::kRight) return cell.right - width;
-    if (cell.align == varnel::Align::kCenter) return (cell.left + cell.right - width) / 2;
+    if (cell.align == Align::kRight) return cell.right - width;
+    if (cell.align == Align::kCenter) return (cell.left + cell.right - width) / 2;
     return cell.left;
 }
 

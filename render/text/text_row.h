@@ -19,7 +19,7 @@ struct TextCell {
     std::string_view text;
     int left = 0;
     int right = 0;
-    varnel::Align align = varnel::Align::kLeft;
+    Align align = Align::kLeft;
     bool figure = false;
     bool bold = false;
 };

@@ -12,6 +12,7 @@ namespace varnel::render {
 
 namespace {
 
+using engine::BandMark;
 using testing::Band;
 using testing::Field;
 using ::testing::HasSubstr;
@@ -59,8 +60,11 @@ class Csv : public ::testing::Test {
 
     Csv() : layout_(TwoGroups()), surface_(layout_), writer_(sink_) { writer_.Begin({}, surface_); }
 
-    void Print(std::string_view section, int depth = 0) {
-        writer_.Write(surface_.SectionAt(section), depth);
+    static constexpr BandMark kOuter{.level = 0};
+    static constexpr BandMark kInner{.level = 1};
+
+    void Print(std::string_view section, const BandMark& mark = {}) {
+        writer_.Write(surface_.SectionAt(section), mark);
     }
     Control& At(std::string_view name) { return surface_.At(name); }
 
@@ -85,13 +89,13 @@ TEST_F(Csv, PutsTheFieldsOfItsGroupsInFrontOfEachDetail) {
     At("fldYear").SetValue(std::int32_t{2025}, "Fiscal year 2025");
     At("fldBook").SetText("GJ");
     At("fldAcct").SetText("1010");
-    Print("ghOuter");
-    Print("ghInner");
+    Print("ghOuter", kOuter);
+    Print("ghInner", kInner);
     At("txtText").SetText("first");
     Print("Detail");
     At("txtText").SetText("second");
     Print("Detail");
-    Print("gfInner");
+    Print("gfInner", kInner);
     EXPECT_EQ(Records(), "2025,GJ,1010,first,\r\n2025,GJ,1010,second,\r\n");
 }
 
@@ -128,21 +132,23 @@ TEST_F(Csv, LeavesTheFieldOfAnInvisibleControlEmpty) {
     EXPECT_EQ(Records(), ",,,shown,\r\n");
 }
 
-TEST_F(Csv, DoesNotLetAGroupInheritTheFieldsOfAnotherOne) {
+TEST_F(Csv, GivesAGroupWhoseHeaderDoesNotPrintEmptyFieldsAndNotThoseOfTheOneBefore) {
     At("fldBook").SetText("GJ");
     At("fldAcct").SetText("1010");
-    Print("ghOuter");
-    Print("ghInner");
-    Print("gfInner");
-    Print("Detail");  // Of an account whose header does not print.
-    Print("ghInner");
-    Print("ghOuter");
-    Print("Detail");  // The inner header is the former outer group's.
-    EXPECT_EQ(Records(), ",GJ,,,\r\n,GJ,,,\r\n");
+    Print("ghOuter", kOuter);
+    Print("ghInner", kInner);
+    Print("Detail");
+    Print("ghInner", {.level = 1, .printed = false});
+    Print("Detail");
+    Print("ghOuter", {.level = 0, .printed = false});
+    Print("ghInner", kInner);
+    Print("Detail");
+    EXPECT_EQ(Records(), ",GJ,1010,,\r\n,GJ,,,\r\n,,1010,,\r\n");
 }
 
 TEST_F(Csv, LeavesOutTheBandsOfSubReports) {
-    Print("Detail", 1);
+    Print("Detail", {.depth = 1});
+    Print("ghOuter", {.depth = 1, .level = 0});
     EXPECT_EQ(Records(), "");
 }
 
@@ -160,7 +166,7 @@ TEST(CsvRecord, OfOneEmptyFieldIsNotAnEmptyLine) {
     MemorySink sink;
     CsvWriter writer(sink);
     writer.Begin({}, surface);
-    writer.Write(surface.SectionAt("Detail"), 0);
+    writer.Write(surface.SectionAt("Detail"), {});
     writer.End();
     EXPECT_EQ(sink.Bytes(), "A\r\n\"\"\r\n");
 }

@@ -57,8 +57,8 @@ class JsonLines : public ::testing::Test {
     }
 
     Control& At(std::string_view name) { return surface_.At(name); }
-    std::string Written(int depth = 0) {
-        writer_.Write(surface_.SectionAt("Detail"), depth);
+    std::string Written(const engine::BandMark& mark = {}) {
+        writer_.Write(surface_.SectionAt("Detail"), mark);
         writer_.End();
         return sink_.Take();
     }
@@ -110,8 +110,12 @@ TEST_F(JsonLines, KeepAKeyWithoutText) {
         "{\"section\":\"Detail\",\"controls\":{\"txtNote\":{\"text\":\"\",\"key\":\"42\"}}}\n");
 }
 
+TEST_F(JsonLines, LeaveOutABandThatDoesNotPrint) {
+    EXPECT_EQ(Written({.level = 0, .printed = false}), "");
+}
+
 TEST_F(JsonLines, TellTheDepthOfASubReportsBand) {
-    EXPECT_EQ(Written(2), "{\"section\":\"Detail\",\"depth\":2,\"controls\":{}}\n");
+    EXPECT_EQ(Written({.depth = 2}), "{\"section\":\"Detail\",\"depth\":2,\"controls\":{}}\n");
 }
 
 }  // namespace

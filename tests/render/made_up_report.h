@@ -11,7 +11,7 @@ namespace varnel::render::testing {
 
 /// A control of a made-up layout, written in the order that tests care for.
 inline ControlLayout Field(std::string_view name, Box box, std::string_view column = {},
-                           varnel::Align align = varnel::Align::kLeft) {
+                           Align align = Align::kLeft) {
     ControlLayout control;
     control.name = name;
     control.box = box;
@@ -37,8 +37,7 @@ inline SectionLayout Band(SectionKind kind, std::string_view name,
 }
 
 /// An item of a page or placed band.
-inline engine::Item TextItem(Box box, varnel::Align align = varnel::Align::kLeft,
-                             bool figure = false) {
+inline engine::Item TextItem(Box box, Align align = Align::kLeft, bool figure = false) {
     return {.align = align, .figure = figure, .style = {}, .box = box};
 }
 

@@ -63,11 +63,10 @@ TEST(PdfPages, PutTextAtTheLeftMiddleOrRightOfItsBox) {
     const double width = Fonts().Width(FontStyle::kRegular, 8.5, "50.00");
     const Box box{2000, 1000, 1200, 240};  // 100 to 160 points
     const struct {
-        varnel::Align align;
+        Align align;
         double left;
-    } cases[] = {{varnel::Align::kLeft, 100},
-                 {varnel::Align::kCenter, 130 - width / 2},
-                 {varnel::Align::kRight, 160 - width}};
+    } cases[] = {
+        {Align::kLeft, 100}, {Align::kCenter, 130 - width / 2}, {Align::kRight, 160 - width}};
     for (const auto& c : cases) {
         const std::string pdf = WriteItem(TextItem(box, c.align), "50.00");
         EXPECT_NEAR(Operands(pdf, "Td").at(0), c.left, 0.01);
@@ -88,7 +87,7 @@ TEST(PdfPages, SetTextInsideItsBox) {
 TEST(PdfPages, CondenseAFigureThatIsWiderThanItsBox) {
     const double width = Fonts().Width(FontStyle::kRegular, 8.5, "123,456,789.01");
     const std::string pdf =
-        WriteItem(TextItem({2000, 1000, 600, 240}, varnel::Align::kRight, true), "123,456,789.01");
+        WriteItem(TextItem({2000, 1000, 600, 240}, Align::kRight, true), "123,456,789.01");
     EXPECT_THAT(pdf, HasSubstr(Shown("123,456,789.01")));
     EXPECT_NEAR(Operands(pdf, "Tz").at(0), 30 / width * 100, 0.01);
     EXPECT_NEAR(Operands(pdf, "Td").at(0), 100, 0.01);
@@ -154,7 +153,7 @@ TEST(PdfPages, AreOneBlankPageWhenThereAreNone) {
 
 TEST(PrintMeasurer, MeasuresInTwipsAsThePagesAreDrawn) {
     PrintMeasurer measurer(Fonts());
-    const varnel::TextStyle style{.size = 170, .bold = true};
+    const TextStyle style{.size = 170, .bold = true};
     const double width = Fonts().Width(FontStyle::kBold, 8.5, "Accounts receivable") * 20;
     std::vector<std::string_view> lines;
     measurer.BreakLines("Accounts receivable", style, static_cast<Twips>(width) + 1, lines);

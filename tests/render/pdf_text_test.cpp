@@ -86,10 +86,10 @@ std::vector<std::pair<double, double>> WordEdges(const std::string& pdf) {
 TEST_F(PdfText, StandsWhereItWasAlignedTo) {
     const auto edges = WordEdges(MakePdf([](PdfPage& page) {
         page.Text(100, 100, {}, "Left");
-        page.Text(300, 130, {}, "1,234,567.89", Align::kRight);
-        page.Text(300, 160, {.size = 9, .stretch = 60}, "1,234,567.89", Align::kRight);
-        page.Text(300, 190, {.font = FontStyle::kBold}, "Middle", Align::kCentre);
-        page.Text(300, 220, {}, "\u05E9\u05DC\u05D5\u05DD", Align::kRight);
+        page.Text(300, 130, {}, "1,234,567.89", PdfAlign::kRight);
+        page.Text(300, 160, {.size = 9, .stretch = 60}, "1,234,567.89", PdfAlign::kRight);
+        page.Text(300, 190, {.font = FontStyle::kBold}, "Middle", PdfAlign::kCentre);
+        page.Text(300, 220, {}, "\u05E9\u05DC\u05D5\u05DD", PdfAlign::kRight);
     }));
     ASSERT_EQ(edges.size(), 5u);
     EXPECT_NEAR(edges[0].first, 100, 0.02);

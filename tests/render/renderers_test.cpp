@@ -28,7 +28,7 @@ using Print = std::function<void(const Section&)>;
 
 const Layout& JournalLayout() {
     using enum SectionKind;
-    constexpr auto kRight = varnel::Align::kRight;
+    constexpr auto kRight = Align::kRight;
     static const Layout layout{
         .name = "dsrJournal",
         .sections = {
@@ -75,7 +75,11 @@ void RunBands(ByteSink& sink, bool with_rows) {
     Surface surface(JournalLayout());
     Writer writer(sink);
     writer.Begin({}, surface);
-    PrintJournal(surface, with_rows, [&](const Section& s) { writer.Write(s, 0); });
+    PrintJournal(surface, with_rows, [&](const Section& s) {
+        const bool in_group =
+            s.Kind() == SectionKind::kGroupHeader || s.Kind() == SectionKind::kGroupFooter;
+        writer.Write(s, {.level = in_group ? 0 : -1});
+    });
     writer.End();
 }
 

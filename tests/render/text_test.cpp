@@ -39,7 +39,7 @@ engine::Item Left(int column, int columns, Twips top = 0) {
     return TextItem({column * 100, top, columns * 100, 240});
 }
 engine::Item Figure(int column, int columns, Twips top = 0) {
-    return TextItem({column * 100, top, columns * 100, 240}, varnel::Align::kRight, true);
+    return TextItem({column * 100, top, columns * 100, 240}, Align::kRight, true);
 }
 
 std::string Blanks(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
@@ -76,7 +76,7 @@ TEST(Text, PutsTextAtTheLeftAndFiguresAtTheRightOfTheirBoxes) {
 }
 
 TEST(Text, CentresInTheBox) {
-    EXPECT_EQ(Write({{TextItem({0, 0, 2000, 240}, varnel::Align::kCenter), "Report"}}),
+    EXPECT_EQ(Write({{TextItem({0, 0, 2000, 240}, Align::kCenter), "Report"}}),
               Blanks(7) + "Report\n");
 }
 
