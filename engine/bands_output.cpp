@@ -7,8 +7,13 @@ void BandsOutput::Start(Surface& surface) {
 }
 
 void BandsOutput::Take(const Part& part) {
-    sink_.Write(*part.section, depth_);
+    sink_.Write(*part.section, {.depth = depth_, .level = part.level});
     if (part.has_sub_reports) RunSubReports(*part.section);
+}
+
+void BandsOutput::Pass(const Part& part) {
+    if (part.level < 0) return;
+    sink_.Write(*part.section, {.depth = depth_, .level = part.level, .printed = false});
 }
 
 void BandsOutput::RunSubReports(const Section& section) {

@@ -14,6 +14,7 @@ class BandsOutput final : public EndlessSink {
   private:
     void Start(Surface& surface) override;
     void Take(const Part& part) override;
+    void Pass(const Part& part) override;
     void RunSubReports(const Section& section);
 
     const DocumentInfo& info_;

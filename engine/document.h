@@ -108,14 +108,26 @@ class Measurer {
                             std::vector<std::string_view>& lines) = 0;
 };
 
-/// Takes live sections in print order: data exports. Page header and footer come once. `depth` is 0
-/// for the report's own sections and 1 and more for those of sub-reports, which come right after
-/// the section that holds them.
+/// Where a live section stands among the others.
+struct BandMark {
+    /// 0 for the report's own sections, 1 and more for those of sub-reports, which come right after
+    /// the section that holds them.
+    int depth = 0;
+    /// Of a group's header and footer, from the outside in, 0 the outermost; -1 for all others.
+    int level = -1;
+    /// False for a group header or footer that was hidden or skipped: nothing of it is to be
+    /// written, but its group begins or ends here.
+    bool printed = true;
+};
+
+/// Takes live sections in print order: data exports. Page header and footer come once. A section
+/// that does not print is left out, unless it is the header or footer of a group: these come
+/// always, so that every line stands between those of all its groups.
 class BandSink {
   public:
     virtual ~BandSink() = default;
     virtual void Begin(const DocumentInfo& info, const Surface& surface) = 0;
-    virtual void Write(const Section& section, int depth) = 0;
+    virtual void Write(const Section& section, const BandMark& mark) = 0;
     virtual void End() = 0;
 };
 

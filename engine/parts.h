@@ -16,7 +16,7 @@ struct Binding {
 /// A live section with what a run needs to know of it.
 struct Part {
     Section* section = nullptr;
-    int level = 0;  // Of a group's header and footer, from outside in.
+    int level = -1;  // Of a group's header and footer, from outside in; -1 for all others.
     bool grows = false;
     bool has_sub_reports = false;
     std::vector<Binding> bindings;

@@ -38,9 +38,7 @@ class EndlessSink : public SectionSink {
         frame_ = &frame;
         Start(surface);
     }
-    void Write(const Part& part, bool printed) override {
-        if (printed) Take(part);
-    }
+    void Write(const Part& part, bool printed) override { printed ? Take(part) : Pass(part); }
     void BeginBody() override {
         if (const Part* header = frame_->FormatHeader()) Take(*header);
     }
@@ -51,6 +49,8 @@ class EndlessSink : public SectionSink {
   private:
     virtual void Start(Surface& surface) = 0;
     virtual void Take(const Part& part) = 0;
+    /// One that does not print.
+    virtual void Pass(const Part&) {}
 
     PageFrame* frame_ = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "render/bands/csv.h"
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 
@@ -46,25 +47,10 @@ void CsvWriter::Begin(const engine::DocumentInfo&, const Surface& surface) {
 void CsvWriter::ReadLayout(const Layout& layout) {
     groups_.clear();
     for (const SectionLayout& section : layout.sections) {
-        if (section.kind == SectionKind::kGroupHeader) AddGroup(section);
-        if (section.kind == SectionKind::kGroupFooter) PairFooter(section);
-    }
-}
-
-void CsvWriter::AddGroup(const SectionLayout& header) {
-    Group group{.header = &header, .footer = nullptr, .fields = {}, .no_fields = {}};
-    for (const ControlLayout& control : header.controls) {
-        if (IsColumn(control)) group.no_fields += ',';
-    }
-    group.fields = group.no_fields;
-    groups_.push_back(std::move(group));
-}
-
-void CsvWriter::PairFooter(const SectionLayout& footer) {
-    for (auto group = groups_.rbegin(); group != groups_.rend(); ++group) {
-        if (group->footer != nullptr) continue;
-        group->footer = &footer;
-        return;
+        if (section.kind != SectionKind::kGroupHeader) continue;
+        const auto count = std::ranges::count_if(section.controls, IsColumn);
+        const auto columns = static_cast<std::size_t>(count);
+        groups_.push_back({.columns = columns, .fields = std::string(columns, ',')});
     }
 }
 
@@ -87,37 +73,21 @@ void CsvWriter::WriteHeaderLine(const Layout& layout) {
     EndLine(start);
 }
 
-void CsvWriter::Write(const Section& section, int depth) {
-    if (depth > 0) return;
-    switch (section.Kind()) {
-        case SectionKind::kDetail:
-            return WriteRecord(section);
-        case SectionKind::kGroupHeader:
-            return OpenGroup(section);
-        case SectionKind::kGroupFooter:
-            return CloseGroup(section.Design());
-        default:
-            return;
-    }
+void CsvWriter::Write(const Section& section, const engine::BandMark& mark) {
+    if (mark.depth > 0) return;
+    if (section.Kind() == SectionKind::kDetail) WriteRecord(section);
+    if (section.Kind() == SectionKind::kGroupHeader) OpenGroup(section, mark);
 }
 
-void CsvWriter::OpenGroup(const Section& header) {
-    bool inside = false;
-    for (Group& group : groups_) {
-        // What an inner group printed last belongs to another outer group now.
-        if (inside) group.fields = group.no_fields;
-        if (group.header != &header.Design()) continue;
-        inside = true;
-        group.fields.clear();
-        AppendFields(group.fields, header);
+// Every group begins with its header, so that nothing is left of the one before.
+void CsvWriter::OpenGroup(const Section& header, const engine::BandMark& mark) {
+    Group& group = groups_[static_cast<std::size_t>(mark.level)];
+    if (!mark.printed) {
+        group.fields.assign(group.columns, ',');
+        return;
     }
-}
-
-// The next group of this level may not print its header: it must not inherit this one's fields.
-void CsvWriter::CloseGroup(const SectionLayout& footer) {
-    for (Group& group : groups_) {
-        if (group.footer == &footer) group.fields = group.no_fields;
-    }
+    group.fields.clear();
+    AppendFields(group.fields, header);
 }
 
 void CsvWriter::WriteRecord(const Section& detail) {

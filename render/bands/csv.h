@@ -19,29 +19,24 @@ class CsvWriter final : public engine::BandSink {
     explicit CsvWriter(ByteSink& sink) : output_(sink) {}
 
     void Begin(const engine::DocumentInfo& info, const Surface& surface) override;
-    void Write(const Section& section, int depth) override;
+    void Write(const Section& section, const engine::BandMark& mark) override;
     void End() override { output_.HandOver(); }
 
   private:
-    /// A group level: its fields as they go in front of each of its records, commas included.
+    /// A group level: its fields as they go in front of each of its records, a comma after each.
     struct Group {
-        const SectionLayout* header = nullptr;
-        const SectionLayout* footer = nullptr;
+        std::size_t columns = 0;
         std::string fields;
-        std::string no_fields;  // As many commas as there are columns.
     };
 
     void ReadLayout(const Layout& layout);
-    void AddGroup(const SectionLayout& header);
-    void PairFooter(const SectionLayout& footer);
     void WriteHeaderLine(const Layout& layout);
-    void OpenGroup(const Section& header);
-    void CloseGroup(const SectionLayout& footer);
+    void OpenGroup(const Section& header, const engine::BandMark& mark);
     void WriteRecord(const Section& detail);
     void EndLine(std::size_t line_start);
 
     OutputBuffer output_;
-    std::vector<Group> groups_;  // From the outside in.
+    std::vector<Group> groups_;  // By level.
 };
 
 }  // namespace varnel::render

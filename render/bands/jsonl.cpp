@@ -49,13 +49,14 @@ void AppendControl(std::string& out, const Control& control) {
 
 }  // namespace
 
-void JsonLinesWriter::Write(const Section& section, int depth) {
+void JsonLinesWriter::Write(const Section& section, const engine::BandMark& mark) {
+    if (!mark.printed) return;
     std::string& out = output_.Bytes();
     out += "{\"section\":";
     AppendJsonString(out, section.Name());
-    if (depth > 0) {
+    if (mark.depth > 0) {
         out += ",\"depth\":";
-        AppendInteger(out, depth);
+        AppendInteger(out, mark.depth);
     }
     out += ",\"controls\":{";
     bool first = true;

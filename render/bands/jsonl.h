@@ -15,7 +15,7 @@ class JsonLinesWriter final : public engine::BandSink {
     explicit JsonLinesWriter(ByteSink& sink) : output_(sink) {}
 
     void Begin(const engine::DocumentInfo&, const Surface&) override {}
-    void Write(const Section& section, int depth) override;
+    void Write(const Section& section, const engine::BandMark& mark) override;
     void End() override { output_.HandOver(); }
 
   private:

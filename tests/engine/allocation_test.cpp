@@ -53,7 +53,7 @@ class Nothing final : public BandSink, public PlacedBandSink {
   public:
     void Begin(const DocumentInfo&, const Surface&) override {}
     void Begin(const DocumentInfo&, Twips) override {}
-    void Write(const Section&, int) override {}
+    void Write(const Section&, const BandMark&) override {}
     void Write(const PlacedBand&) override {}
     void End() override {}
 };

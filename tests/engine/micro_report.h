@@ -158,12 +158,13 @@ class MicroReport : public BandedReport {
     std::map<std::string, std::function<void()>> handlers_;
 };
 
-/// Logs "section text", indented by depth.
+/// Logs the text of each printed section, indented by depth.
 class BandLog final : public BandSink {
   public:
     void Begin(const DocumentInfo&, const Surface&) override { bands.emplace_back("begin"); }
-    void Write(const Section& section, int depth) override {
-        std::string entry(static_cast<std::size_t>(depth), '>');
+    void Write(const Section& section, const BandMark& mark) override {
+        if (!mark.printed) return;
+        std::string entry(static_cast<std::size_t>(mark.depth), '>');
         bands.push_back(entry + std::string(section.Controls().front().Text()));
     }
     void End() override { bands.emplace_back("end"); }

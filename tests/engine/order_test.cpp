@@ -8,6 +8,22 @@ using namespace varnel;
 using namespace varnel::engine;
 using testing::HasSubstr;
 
+namespace {
+
+/// Logs the name of each section, with its level, and in brackets where it does not print.
+class MarkLog final : public BandSink {
+  public:
+    void Begin(const DocumentInfo&, const Surface&) override {}
+    void Write(const Section& section, const BandMark& mark) override {
+        const std::string entry = std::string(section.Name()) + " " + std::to_string(mark.level);
+        marks.push_back(mark.printed ? entry : "(" + entry + ")");
+    }
+    void End() override {}
+    Names marks;
+};
+
+}  // namespace
+
 TEST(Order, EventsComeInTheOrderThatReportsRelyOn) {
     MicroReport report(MicroLayout(2), "g0 g1 line", "A a 1|A a 2|A b 3|B b 4");
     BandsOf(report);
@@ -86,6 +102,22 @@ TEST(Order, AHiddenDetailStillClosesAndOpensGroups) {
     });
     EXPECT_EQ(BandsOf(report), (Names{"begin", "RH", "PH", "A", "1", "end A", "B", "end B", "C",
                                       "end C", "RF", "PF", "end"}));
+}
+
+TEST(Order, ExportsHearOfEveryGroupButOfNothingElseThatDoesNotPrint) {
+    MicroReport report(MicroLayout(2), "g0 g1 line", "A a 1|A b 2");
+    report.On("h1", [&] {
+        if (report.TextOf("h1").Text() == "b") report.SectionOf("h1").Skip();
+    });
+    report.On("f0", [&] { report.SectionOf("f0").SetVisible(false); });
+    report.On("detail", [&] {
+        if (report.TextOf("detail").Text() == "1") report.SectionOf("detail").Skip();
+    });
+    report.On("pageFooter", [&] { report.SectionOf("pageFooter").Skip(); });
+    MarkLog sink;
+    RunToBands(report, {}, sink);
+    EXPECT_EQ(sink.marks, (Names{"reportHeader -1", "pageHeader -1", "h0 0", "h1 1", "f1 1",
+                                 "(h1 1)", "detail -1", "f1 1", "(f0 0)", "reportFooter -1"}));
 }
 
 TEST(Order, TextsOfHandlersStayAndBoundTextsAreRefreshed) {

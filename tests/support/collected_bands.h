@@ -33,7 +33,7 @@ struct CollectedBand {
     const std::string& Text(const std::string& control) const { return controls.at(control).text; }
 };
 
-/// Keeps every band of a run, to be asked about afterwards.
+/// Keeps every printed band of a run, to be asked about afterwards.
 class CollectedBands final : public engine::BandSink {
   public:
     std::vector<CollectedBand> bands;
@@ -41,8 +41,9 @@ class CollectedBands final : public engine::BandSink {
 
     void Begin(const engine::DocumentInfo&, const Surface&) override {}
     void End() override { ended = true; }
-    void Write(const Section& section, int depth) override {
-        CollectedBand band{std::string(section.Name()), depth, section.Height(), {}};
+    void Write(const Section& section, const engine::BandMark& mark) override {
+        if (!mark.printed) return;
+        CollectedBand band{std::string(section.Name()), mark.depth, section.Height(), {}};
         for (const auto& control : section.Controls())
             band.controls[std::string(control.Design().name)] = {
                 control.Text(), control.Value(), control.Tag(), control.Visible(), control.Place()};
