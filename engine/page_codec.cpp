@@ -1,7 +1,7 @@
 #include "engine/page_codec.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 
 namespace varnel::engine {
 
@@ -17,9 +17,10 @@ char* PutNumber(char* end, std::int64_t number) {
 }
 
 /// Collected first: appending a string byte by byte costs more than all the rest.
-void PutNumbers(std::string& bytes, std::initializer_list<std::int64_t> numbers) {
+template <std::size_t kCount>
+void PutNumbers(std::string& bytes, const std::int64_t (&numbers)[kCount]) {
     constexpr std::size_t kMostBytes = 10;
-    char buffer[8 * kMostBytes];
+    char buffer[kCount * kMostBytes];
     char* end = buffer;
     for (const auto number : numbers) end = PutNumber(end, number);
     bytes.append(buffer, end);
@@ -53,19 +54,14 @@ class Reader {
     std::size_t at_ = 0;
 };
 
-std::int64_t PackFlags(const Item& item) {
-    return static_cast<int>(item.kind) | static_cast<int>(item.align) << 2 |
-           static_cast<int>(item.style.ink) << 4 | int{item.figure} << 6 |
-           int{item.style.bold} << 7 | int{item.style.italic} << 8;
+int PackFlags(const Item& item) {
+    return int{item.figure} | int{item.style.bold} << 1 | int{item.style.italic} << 2;
 }
 
 void UnpackFlags(int flags, Item& item) {
-    item.kind = static_cast<ItemKind>(flags & 3);
-    item.align = static_cast<Align>(flags >> 2 & 3);
-    item.style.ink = static_cast<Ink>(flags >> 4 & 3);
-    item.figure = (flags >> 6 & 1) != 0;
-    item.style.bold = (flags >> 7 & 1) != 0;
-    item.style.italic = (flags >> 8 & 1) != 0;
+    item.figure = (flags & 1) != 0;
+    item.style.bold = (flags & 2) != 0;
+    item.style.italic = (flags & 4) != 0;
 }
 
 }  // namespace
@@ -75,10 +71,12 @@ void EncodePage(const Page& page, std::string& bytes) {
     Twips top = 0;
     for (const Item& item : page.content.Items()) {
         const auto text = page.content.Text(item);
-        PutNumbers(bytes,
-                   {PackFlags(item), item.style.size, item.box.left,
-                    item.box.top - top,  // Neighbours mostly stand on one line.
-                    item.box.width, item.box.height, static_cast<std::int64_t>(text.size())});
+        PutNumbers(
+            bytes,
+            {static_cast<int>(item.kind), static_cast<int>(item.align),
+             static_cast<int>(item.style.ink), PackFlags(item), item.style.size, item.box.left,
+             item.box.top - top,  // Neighbours mostly stand on one line.
+             item.box.width, item.box.height, static_cast<std::int64_t>(text.size())});
         bytes += text;
         top = item.box.top;
     }
@@ -92,6 +90,9 @@ void DecodePage(std::string_view bytes, Page& page) {
     Twips top = 0;
     while (!reader.AtEnd()) {
         Item item;
+        item.kind = reader.Number<ItemKind>();
+        item.align = reader.Number<Align>();
+        item.style.ink = reader.Number<Ink>();
         UnpackFlags(reader.Number<int>(), item);
         item.style.size = reader.Number();
         item.box.left = reader.Number();

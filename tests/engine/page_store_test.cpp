@@ -80,6 +80,17 @@ TEST(PageStore, GivesEveryPageBackInAnyOrderFromMemoryAndFile) {
     }
 }
 
+TEST(PageStore, HasRoomForStylesThatAreYetToCome) {
+    Page page;
+    page.content.Add({.kind = ItemKind{4}, .align = Align{5}, .style = {.ink = Ink{6}}}, "new");
+    page.content.Add({.kind = ItemKind{255}, .align = Align{255}, .style = {.ink = Ink{255}}}, "");
+    PageStore store;
+    store.Append(page);
+    Page read;
+    store.Read(0, read);
+    ExpectSame(read, page);
+}
+
 TEST(PageStore, MayBeReadBetweenWrites) {
     PageStore store(0);
     Page page;
