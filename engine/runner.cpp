@@ -10,12 +10,22 @@ namespace varnel::engine {
 
 namespace {
 
-/// Puts everything back after a run.
+[[noreturn]] void RaiseRunning(const BandedReport& report) {
+    const std::string name(report.ObjectName());
+    Raise(error_number::kInvalidArgument, name,
+          "The report " + name +
+              " is running already; wait until it is through, or run another object of it");
+}
+
+/// Puts everything back after a run. A report that is running already is refused untouched: a
+/// handler of it, or something inside it, asks for it again.
 class RunScope {
   public:
     explicit RunScope(BandedReport& report) : report_(report) {
+        if (report_.Data().Running()) RaiseRunning(report_);
         report_.GetSurface().Save();
         report_.Data().Clear();
+        report_.Data().SetRunning(true);
     }
     RunScope(const RunScope&) = delete;
     RunScope& operator=(const RunScope&) = delete;
@@ -23,6 +33,7 @@ class RunScope {
         report_.GetSurface().Restore();
         report_.Data().Show(nullptr, nullptr);
         report_.Data().Attach(nullptr);
+        report_.Data().SetRunning(false);
     }
 
   private:
@@ -159,18 +170,9 @@ const Part* Runner::FormatSingle(Part* part) {
     return part != nullptr && Format(*part) ? part : nullptr;
 }
 
-void CheckDepth(const BandedReport& report, int depth) {
-    constexpr int kDeepest = 16;
-    if (depth > kDeepest)
-        Raise(error_number::kInvalidArgument, std::string(report.ObjectName()),
-              "Sub-reports are nested more than " + std::to_string(kDeepest) +
-                  " deep; does one hold itself?");
-}
-
 }  // namespace
 
 void RunReport(BandedReport& report, SectionSink& sink, RunControl& control, int depth) {
-    CheckDepth(report, depth);
     const RunScope scope(report);
     try {
         report.ActiveReport_Initialize();

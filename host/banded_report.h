@@ -35,6 +35,9 @@ class ReportData {
     const Row& CurrentFields() const { return *shown_fields_; }
 
     // For the engine.
+    /// A run is under way. There is one surface and one row to show: a second run has to wait.
+    bool Running() const { return running_; }
+    void SetRunning(bool running) { running_ = running; }
     /// Drops the rows of the last run and clears the fields.
     void Clear();
     void Show(const Row* row, const Row* fields = nullptr) {
@@ -55,6 +58,7 @@ class ReportData {
     Row fields_;
     const Row* row_ = nullptr;
     const Row* shown_fields_ = nullptr;
+    bool running_ = false;
 };
 
 /// A report as the engine runs it: a surface, rows, and events. Section format events are the

@@ -1,8 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/error.h"
+#include <algorithm>
+
 #include "tests/engine/micro_report.h"
+#include "tests/support/error_of.h"
 
 using namespace varnel;
 using namespace varnel::engine;
@@ -147,6 +149,22 @@ TEST(Order, ASecondRunGivesTheSameAndKeepsWhatTheHostSet) {
     EXPECT_EQ(report.TextOf("reportHeader").Text(), "set by host");
     EXPECT_TRUE(report.SectionOf("f0").Visible());
     EXPECT_EQ(BandsOf(report), first);
+}
+
+TEST(Order, AReportThatIsRunningIsNotRunAgainAndGoesOnUnharmed) {
+    MicroReport report(MicroLayout(1), "g0 line", "A 1|A 2|B 3");
+    report.TextOf("reportHeader").SetText("set by host");
+    report.On("reportHeader", [&] { report.TextOf("pageHeader").SetText("set by handler"); });
+    report.On("f0", [&] {
+        std::string text;
+        EXPECT_EQ(test::ErrorOf([&] { BandsOf(report); }, &text), error_number::kInvalidArgument);
+        EXPECT_THAT(text, HasSubstr("micro is running already"));
+    });
+    EXPECT_EQ(BandsOf(report), (Names{"begin", "set by host", "set by handler", "A", "1", "2",
+                                      "end A", "B", "3", "end B", "RF", "PF", "end"}));
+    EXPECT_EQ(report.TextOf("pageHeader").Text(), "PH");
+    EXPECT_EQ(std::ranges::count(report.log, "Initialize"), 1);
+    EXPECT_EQ(std::ranges::count(report.log, "Terminate"), 1);
 }
 
 TEST(Order, AnUnknownFieldIsNamedWithItsLayout) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "host/error.h"
 #include "tests/engine/micro_report.h"
 
@@ -119,11 +121,18 @@ TEST(SubReport, DataExportsGetItsSectionsOneDeeperAfterTheSectionThatHoldsIt) {
                                       ">>sub", ">>x", "RF", "PF", "end"}));
 }
 
-TEST(SubReport, OneThatHoldsItselfIsAnError) {
-    MicroReport report(ParentLayout(), "line", "1");
-    // Without a share in its own lifetime.
-    report.TextOf("sub").SetSubReport({std::shared_ptr<void>(), &report});
-    EXPECT_THROW(BandsOf(report), Error);
+TEST(SubReport, OneThatHoldsItselfIsAnErrorHoweverItIsRun) {
+    MicroReport outer(ParentLayout(), "line", "1");
+    MicroReport inner(ParentLayout(), "line", "2");
+    // Without a share in each other's lifetime.
+    outer.TextOf("sub").SetSubReport({std::shared_ptr<void>(), &inner});
+    inner.TextOf("sub").SetSubReport({std::shared_ptr<void>(), &outer});
+    EXPECT_THROW(BandsOf(outer), Error);
+    EXPECT_THROW(PagesOf(outer, PaperFor(10)), Error);
+    EXPECT_EQ(std::ranges::count(outer.log, "Initialize"), 2);
+    EXPECT_EQ(std::ranges::count(outer.log, "Terminate"), 2);
+    outer.TextOf("sub").SetSubReport({});
+    EXPECT_EQ(BandsOf(outer), (Names{"begin", "RH", "PH", "1", "RF", "PF", "end"}));
 }
 
 TEST(Composing, ATextThatGrowsPrintsOneItemForEachLine) {
