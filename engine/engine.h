@@ -36,7 +36,8 @@ RunResult RunToPlacedBands(BandedReport& report, const DocumentInfo& info, Twips
                            Measurer& measurer, PlacedBandSink& sink, Progress* progress = nullptr);
 
 /// Runs the report once and adds its finished pages to `store`. A layout narrower than the paper
-/// between its side margins is widened, a wider one is centred.
+/// between its side margins is widened, a wider one is centred; error 5 when it is wider than the
+/// paper.
 RunResult RunToPages(BandedReport& report, const PageSetup& setup, Measurer& measurer,
                      PageStore& store, Progress* progress = nullptr);
 

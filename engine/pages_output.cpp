@@ -1,13 +1,28 @@
 #include "engine/pages_output.h"
 
-#include <algorithm>
+#include <string>
+
+#include "host/error.h"
 
 namespace varnel::engine {
+
+namespace {
+
+[[noreturn]] void RaiseTooWide(const Surface& surface, const PageSetup& setup) {
+    const std::string name(surface.Design().name);
+    Raise(error_number::kInvalidArgument, name,
+          "The layout " + name + " is " + std::to_string(surface.Width()) +
+              " twips wide and the paper " + std::to_string(setup.paper_width) +
+              "; take wider paper or turn it on its side");
+}
+
+}  // namespace
 
 void PagesOutput::Begin(Surface& surface, PageFrame& frame) {
     frame_ = &frame;
     surface.Widen(setup_.paper_width - 2 * setup_.margin_side);
-    page_.SetLeft(std::max(Twips{0}, (setup_.paper_width - surface.Width()) / 2));
+    if (surface.Width() > setup_.paper_width) RaiseTooWide(surface, setup_);
+    page_.SetLeft((setup_.paper_width - surface.Width()) / 2);
     paginator_.Start();
 }
 

@@ -1,11 +1,14 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <numeric>
 
 #include "tests/engine/micro_report.h"
+#include "tests/support/error_of.h"
 
 using namespace varnel;
 using namespace varnel::engine;
+using testing::HasSubstr;
 
 namespace {
 
@@ -231,6 +234,13 @@ TEST(Pages, ANarrowLayoutIsWidenedAndAWideOneCentred) {
         EXPECT_EQ(pages[0].content.Items().back().box, expected);
         EXPECT_EQ(pages[0].width, setup.paper_width);
     }
+}
+
+TEST(Pages, ALayoutWiderThanThePaperIsRefused) {
+    MicroReport report(PlainLayout(0), "line", "1");
+    EXPECT_EQ(PagesOf(report, {1000, 500, 0, 0, 100}).size(), 1u);
+    const auto text = test::DescriptionOf([&] { PagesOf(report, {999, 500, 0, 0, 100}); });
+    EXPECT_THAT(text, HasSubstr("layout micro is 1000 twips wide and the paper 999;"));
 }
 
 namespace {
