@@ -1,11 +1,11 @@
 #include "engine/page_store.h"
 
 #include <cerrno>
-#include <stdexcept>
 #include <string_view>
 #include <system_error>
 
 #include "engine/page_codec.h"
+#include "host/error.h"
 
 namespace varnel::engine {
 
@@ -13,8 +13,10 @@ namespace {
 
 [[noreturn]] void RaiseFileError(const char* what) {
     const int error = errno != 0 ? errno : EIO;
-    throw std::system_error(error, std::generic_category(),
-                            std::string("The temporary file for finished pages: ") + what);
+    Raise(error_number::kOther, "PageStore",
+          std::string("The temporary file for finished pages cannot be ") + what + ": " +
+              std::generic_category().message(error) +
+              "; see that the temporary folder may be written to and free space in it");
 }
 
 /// A nameless file that is written at its end and read anywhere.
@@ -26,8 +28,7 @@ class SpillFile {
         errno = 0;
         const auto written = std::fwrite(bytes.data(), 1, bytes.size(), file_.get());
         // Flushed page by page, so that a full disk is told about where it happens.
-        if (written != bytes.size() || std::fflush(file_.get()) != 0)
-            RaiseFileError("it cannot be written; is the disk full?");
+        if (written != bytes.size() || std::fflush(file_.get()) != 0) RaiseFileError("written");
         size_ += bytes.size();
         position_ = size_;
     }
@@ -36,7 +37,7 @@ class SpillFile {
         Go(offset, Mode::kReading);
         errno = 0;
         if (std::fread(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size())
-            RaiseFileError("it cannot be read back");
+            RaiseFileError("read back");
         position_ = offset + bytes.size();
     }
 
@@ -46,14 +47,14 @@ class SpillFile {
     void Open() {
         errno = 0;
         file_.reset(std::tmpfile());
-        if (file_ == nullptr) RaiseFileError("it cannot be made");
+        if (file_ == nullptr) RaiseFileError("made");
     }
 
     void Go(std::uint64_t offset, Mode mode) {
         if (mode == mode_ && offset == position_) return;
         errno = 0;
         if (std::fseek(file_.get(), static_cast<long>(offset), SEEK_SET) != 0)
-            RaiseFileError("it cannot be positioned");
+            RaiseFileError("positioned");
         mode_ = mode;
         position_ = offset;
     }
@@ -101,8 +102,8 @@ void PageStore::Append(const Page& page) {
 void PageStore::Read(int index, Page& page) {
     auto& [limit, ends, memory, spilling, file, bytes] = *storage_;
     if (index < 0 || index >= Count())
-        throw std::out_of_range("There is no page " + std::to_string(index + 1) + " of " +
-                                std::to_string(Count()));
+        Raise(error_number::kSubscriptOutOfRange, "PageStore",
+              "There is no page " + std::to_string(index + 1) + " of " + std::to_string(Count()));
     const auto place = static_cast<std::size_t>(index);
     const std::uint64_t begin = place == 0 ? 0 : ends[place - 1];
     const auto size = static_cast<std::size_t>(ends[place] - begin);

@@ -12,8 +12,8 @@
 namespace varnel::engine {
 
 /// Finished pages, readable in any order. They are kept in memory up to a limit and in a temporary
-/// file beyond it; the file has no name and goes with the store. Errors of the file are
-/// std::system_error.
+/// file beyond it; the file has no name and goes with the store. Error 1000
+/// when the file fails.
 class PageStore {
   public:
     static constexpr std::size_t kMemoryLimit = 8u << 20;
@@ -24,7 +24,8 @@ class PageStore {
 
     void Append(const Page& page);
     int Count() const;
-    /// Reads page `index` (from 0) into `page`, whose storage is reused.
+    /// Reads page `index` (from 0) into `page`, whose storage is reused. Error 9 when there is no
+    /// such page.
     void Read(int index, Page& page);
 
   private:

@@ -1,15 +1,19 @@
 #include "engine/page_store.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <cerrno>
 #include <csignal>
-#include <stdexcept>
+#include <cstring>
 #include <string>
-#include <system_error>
+
+#include "tests/support/error_of.h"
 
 using namespace varnel;
 using namespace varnel::engine;
+using testing::HasSubstr;
 
 namespace {
 
@@ -106,7 +110,13 @@ TEST(PageStore, AFullDiskIsToldAboutAndLeavesEarlierPagesReadable) {
     for (int i = 0; i < 10; ++i) store.Append(Sample(i));
     {
         const FullDisk full(4096);
-        EXPECT_THROW(for (int i = 10; i < 100; ++i) store.Append(Sample(i)), std::system_error);
+        const auto append = [&] {
+            for (int i = 10; i < 100; ++i) store.Append(Sample(i));
+        };
+        std::string text;
+        EXPECT_EQ(test::ErrorOf(append, &text), error_number::kOther);
+        EXPECT_THAT(text, HasSubstr(std::strerror(EFBIG)));
+        EXPECT_THAT(text, HasSubstr("temporary folder"));
     }
     Page page;
     store.Read(9, page);
@@ -117,6 +127,7 @@ TEST(PageStore, APageThatIsNotThereIsAnError) {
     PageStore store;
     store.Append(Sample(0));
     Page page;
-    EXPECT_THROW(store.Read(1, page), std::out_of_range);
-    EXPECT_THROW(store.Read(-1, page), std::out_of_range);
+    for (const int index : {1, -1})
+        EXPECT_EQ(test::ErrorOf([&] { store.Read(index, page); }),
+                  error_number::kSubscriptOutOfRange);
 }
