@@ -28,10 +28,9 @@ constexpr FontFile DejaVu(const char* name) {
 
 // In the order of FontStyle, then the fallback faces.
 constexpr std::array kFontFiles = {
-    OpenSans("OpenSans-Regular.ttf"),  OpenSans("OpenSans-Bold.ttf"),
-    OpenSans("OpenSans-Italic.ttf"),   OpenSans("OpenSans-BoldItalic.ttf"),
-    OpenSans("OpenSans-Semibold.ttf"), DejaVu("DejaVuSans.ttf"),
-    DejaVu("DejaVuSans-Bold.ttf"),
+    OpenSans("OpenSans-Regular.ttf"), OpenSans("OpenSans-Bold.ttf"),
+    OpenSans("OpenSans-Italic.ttf"),  OpenSans("OpenSans-BoldItalic.ttf"),
+    DejaVu("DejaVuSans.ttf"),         DejaVu("DejaVuSans-Bold.ttf"),
 };
 constexpr FaceIndex kFallbackRegular = kFontStyleCount;
 constexpr FaceIndex kFallbackBold = kFontStyleCount + 1;

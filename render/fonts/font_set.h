@@ -14,8 +14,8 @@ namespace varnel::render {
 
 class TextShaper;
 
-enum class FontStyle : std::uint8_t { kRegular, kBold, kItalic, kBoldItalic, kSemibold };
-inline constexpr std::size_t kFontStyleCount = 5;
+enum class FontStyle : std::uint8_t { kRegular, kBold, kItalic, kBoldItalic };
+inline constexpr std::size_t kFontStyleCount = 4;
 
 /// Which of a set's faces a glyph comes from.
 using FaceIndex = std::uint8_t;
@@ -48,7 +48,7 @@ struct ShapedGlyph {
     std::uint32_t text_end;
 };
 
-/// The faces of a document: five styles of Open Sans, and DejaVu Sans for the characters Open Sans
+/// The faces of a document: four styles of Open Sans, and DejaVu Sans for the characters Open Sans
 /// lacks. Open Sans has figures of one width, so columns of amounts align. Characters that no face
 /// has, and bytes that are not UTF-8, are shown as U+FFFD; control characters are shown as a space.
 ///

@@ -15,13 +15,13 @@ void AppendLevel(std::string& out, std::uint8_t level) {
     out += ' ';
 }
 
-std::string ColourOperator(Colour colour, std::string_view gray, std::string_view rgb) {
+std::string FillOperator(Colour colour) {
     std::string out;
     AppendLevel(out, colour.red);
-    if (colour == Colour::Gray(colour.red)) return out.append(gray);
+    if (colour == Colour::Gray(colour.red)) return out.append("g\n");
     AppendLevel(out, colour.green);
     AppendLevel(out, colour.blue);
-    return out.append(rgb);
+    return out.append("rg\n");
 }
 
 char* Copy(char* out, std::string_view text) { return std::copy(text.begin(), text.end(), out); }
@@ -42,29 +42,14 @@ std::string_view PdfPage::End() {
     return content_.View();
 }
 
-double PdfPage::TextWidth(const PdfTextStyle& style, std::string_view utf8) {
-    return fonts_.Width(style.font, style.size, utf8) * style.stretch / 100;
-}
-
-void PdfPage::Text(double x, double y, const PdfTextStyle& style, std::string_view utf8,
-                   PdfAlign align) {
+void PdfPage::Text(double x, double y, const PdfTextStyle& style, std::string_view utf8) {
     const Hundredths size = ToHundredths(style.size);
     if (utf8.empty() || size <= 0) return;
-    if (align == PdfAlign::kRight) x -= TextWidth(style, utf8);
-    if (align == PdfAlign::kCentre) x -= TextWidth(style, utf8) / 2;
     SetFill(style.colour);
     MoveTo(x, y);
     SetStretch(style.stretch);
     if (fonts_.NeedsShaping(style.font, utf8)) return ShowShaped(style.font, size, utf8);
     ShowPlain(style.font, size, utf8);
-}
-
-void PdfPage::Line(double x1, double y1, double x2, double y2, double width, Colour colour) {
-    LeaveText();
-    SetStroke(colour);
-    SetLineWidth(width);
-    Operator({ToHundredths(x1), FromBottom(y1)}, "m");
-    Operator({ToHundredths(x2), FromBottom(y2)}, "l S");
 }
 
 void PdfPage::FillRect(double x, double y, double width, double height, Colour colour) {
@@ -131,20 +116,7 @@ void PdfPage::SetStretch(double percent) {
 void PdfPage::SetFill(Colour colour) {
     if (state_.fill == colour) return;
     state_.fill = colour;
-    content_.Append(ColourOperator(colour, "g\n", "rg\n"));
-}
-
-void PdfPage::SetStroke(Colour colour) {
-    if (state_.stroke == colour) return;
-    state_.stroke = colour;
-    content_.Append(ColourOperator(colour, "G\n", "RG\n"));
-}
-
-void PdfPage::SetLineWidth(double width) {
-    const Hundredths line_width = ToHundredths(width);
-    if (state_.line_width == line_width) return;
-    state_.line_width = line_width;
-    Operator({line_width}, "w");
+    content_.Append(FillOperator(colour));
 }
 
 void PdfPage::ShowPlain(FontStyle style, Hundredths size, std::string_view utf8) {

@@ -27,25 +27,18 @@ struct PdfTextStyle {
     double stretch = 100;  // percent of the normal width; below 100 condenses
 };
 
-enum class PdfAlign : std::uint8_t { kLeft, kCentre, kRight };
-
 /// The page being written. Places are in points from the top left corner, y downwards; they are
 /// rounded to hundredths of a point. What is drawn later covers what was drawn before.
 ///
-/// State (font, colours, line width) is written only when it changes.
+/// State (font, stretch, colour) is written only when it changes.
 class PdfPage {
   public:
     PdfPage(FontSet& fonts, UsedFonts& used_fonts) : fonts_(fonts), used_fonts_(used_fonts) {}
 
-    /// Draws a line of UTF-8 text with its baseline at y. `x` is the left end, the middle or the
-    /// right end of the text. Line feeds are shown as spaces: see BreakLines for paragraphs.
-    void Text(double x, double y, const PdfTextStyle& style, std::string_view utf8,
-              PdfAlign align = PdfAlign::kLeft);
+    /// Draws a line of UTF-8 text with its left end at x and its baseline at y. Line feeds are
+    /// shown as spaces: see BreakLines for paragraphs.
+    void Text(double x, double y, const PdfTextStyle& style, std::string_view utf8);
 
-    /// Width of the text as Text draws it.
-    double TextWidth(const PdfTextStyle& style, std::string_view utf8);
-
-    void Line(double x1, double y1, double x2, double y2, double width, Colour colour);
     void FillRect(double x, double y, double width, double height, Colour colour);
 
     /// Adds to the page's dictionary, such as "/Annots[12 0 R]" for links.
@@ -65,9 +58,7 @@ class PdfPage {
         FaceIndex face = 0;
         Hundredths size = 0;  // 0: no font chosen yet
         Hundredths stretch = 10000;
-        Hundredths line_width = 100;
         Colour fill{};
-        Colour stroke{};
     };
 
     void Begin(double width, double height);
@@ -78,8 +69,6 @@ class PdfPage {
     void SetFont(FaceIndex face, Hundredths size);
     void SetStretch(double percent);
     void SetFill(Colour colour);
-    void SetStroke(Colour colour);
-    void SetLineWidth(double width);
     void ShowPlain(FontStyle style, Hundredths size, std::string_view utf8);
     void ShowShaped(FontStyle style, Hundredths size, std::string_view utf8);
     std::string_view TextOf(const ShapedGlyph& glyph, FontStyle style, std::string_view utf8);

@@ -11,7 +11,7 @@ namespace varnel::render {
 namespace {
 
 constexpr FontStyle kStyles[] = {FontStyle::kRegular, FontStyle::kBold, FontStyle::kItalic,
-                                 FontStyle::kBoldItalic, FontStyle::kSemibold};
+                                 FontStyle::kBoldItalic};
 
 std::string ErrorOf(const std::filesystem::path& folder) {
     try {

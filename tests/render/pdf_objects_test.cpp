@@ -58,17 +58,18 @@ TEST(PdfObjects, LetLaterFeaturesHangInTheirOwn) {
     FontSet fonts;
     PdfWriter writer(sink, fonts);
     PdfPage& page = writer.BeginPage(612, 792);
+    const std::string page_object = std::to_string(writer.CurrentPage()) + " 0 ";
     const ObjectId link = writer.Objects().Reserve();
-    writer.Objects().WriteObject(link,
-                                 "<</Type/Annot/Subtype/Link/Rect[0 0 9 9]"
-                                 "/A<</S/URI/URI(https://example.org)>>>>");
+    writer.Objects().WriteObject(
+        link, "<</Type/Annot/Subtype/Link/Rect[0 0 9 9]/Dest[" + page_object + "R/Fit]>>");
     page.AddEntry("/Annots[" + std::to_string(link) + " 0 R]");
     writer.AddCatalogEntry("/PageMode/UseThumbs");
     writer.EndPage();
     writer.Finish();
     const TemporaryFile file(sink.Bytes());
     const std::string text = RunTool("qpdf --qdf " + file.Path() + " -").output;
-    EXPECT_THAT(text, testing::HasSubstr("(https://example.org)"));
+    EXPECT_THAT(text, testing::HasSubstr("/Subtype /Link"));
+    EXPECT_THAT(sink.Bytes(), testing::HasSubstr(page_object + "obj\n<</Type/Page/"));
     EXPECT_THAT(text, testing::HasSubstr("/PageMode /UseThumbs"));
 }
 
