@@ -21,9 +21,9 @@ struct DocumentInfo {
 
 /// Paper and margins in twips.
 ///
-/// A page footer sees the last row of its page and so is formatted when the page is full. The room
-/// kept for it is its section's height, or more when that of the page before grew: on the first page
-/// it grows into, a footer reaches down into the bottom margin.
+/// A page footer sees the last row of its page, so it is formatted when the page is full. The room
+/// kept for it is the height of its section, or that of the footer before if it was taller: on the
+/// page where it grows, it may reach down into the bottom margin.
 struct PageSetup {
     Twips paper_width = 12'240;  // US Letter.
     Twips paper_height = 15'840;
