@@ -8,8 +8,8 @@
 namespace varnel {
 
 void Currency::Overflow() {
-    Raise(error_number::kOverflow, "Varnel",
-          "The amount is too large: the total exceeds 922 trillion");
+    throw Error(error_number::kOverflow, "Varnel",
+                "The amount is too large: the total exceeds 922 trillion");
 }
 
 Currency Currency::FromWhole(std::int64_t units) {
@@ -29,8 +29,8 @@ Currency Currency::FromDouble(double value) {
 Currency Currency::Parse(std::string_view text) {
     std::int64_t scaled = 0;
     if (!decimal::Parse(text, kDecimals, scaled))
-        Raise(error_number::kTypeMismatch, "Varnel",
-              "\"" + std::string(text) + "\" is not an amount; write it like -1234.50");
+        throw Error(error_number::kTypeMismatch, "Varnel",
+                    "\"" + std::string(text) + "\" is not an amount; write it like -1234.50");
     return Currency(scaled);
 }
 

@@ -70,8 +70,8 @@ bool Date::TryParseIso(std::string_view text, Date& date) {
 Date Date::ParseIso(std::string_view text) {
     Date date;
     if (!TryParseIso(text, date))
-        Raise(error_number::kTypeMismatch, "Varnel",
-              "\"" + std::string(text) + "\" is not a date; write it like 2025-03-31");
+        throw Error(error_number::kTypeMismatch, "Varnel",
+                    "\"" + std::string(text) + "\" is not a date; write it like 2025-03-31");
     return date;
 }
 

@@ -95,7 +95,7 @@ void AppendDouble(double value, std::string& out) {
 std::int64_t Narrow(Int128 value, const char* what) {
     if (value > std::numeric_limits<std::int64_t>::max() ||
         value < std::numeric_limits<std::int64_t>::min())
-        Raise(error_number::kOverflow, "Varnel", std::string(what) + " is too large");
+        throw Error(error_number::kOverflow, "Varnel", std::string(what) + " is too large");
     return static_cast<std::int64_t>(value);
 }
 

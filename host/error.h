@@ -24,8 +24,9 @@ inline constexpr std::int32_t kDatabase = 3709;
 inline constexpr std::int32_t kOther = 1000;
 }  // namespace error_number
 
-/// The one exception type of the system. `what()` is the description: what failed, where, and what
-/// to do about it.
+/// The exception of the library, its contracts and its hosts. `what()` is the description: what
+/// failed, where, and what to do about it. Only files that are written or read as such raise
+/// std::system_error instead.
 ///
 /// `Line()` is the source line of the failing statement when the error was raised inside the
 /// library (`Raise`), and 0 when it came from a host service: the procedure guard then uses the

@@ -7,8 +7,8 @@ namespace varnel {
 Rate RateCollection::Item(std::string_view key) const {
     const auto found = rates_.find(key);
     if (found == rates_.end())
-        Raise(error_number::kInvalidArgument, "ExchangeRates",
-              "There is no exchange rate for currency " + std::string(key));
+        throw Error(error_number::kInvalidArgument, "ExchangeRates",
+                    "There is no exchange rate for currency " + std::string(key));
     return found->second;
 }
 

@@ -19,8 +19,8 @@ bool SameName(std::string_view a, std::string_view b) {
 }
 
 void RaiseUnknownMember(std::string_view object, std::string_view member) {
-    Raise(error_number::kUnknownMember, std::string(object),
-          std::string(object) + " has no member \"" + std::string(member) + "\"");
+    throw Error(error_number::kUnknownMember, std::string(object),
+                std::string(object) + " has no member \"" + std::string(member) + "\"");
 }
 
 Variant Object::Get(std::string_view name) { RaiseUnknownMember(ObjectName(), name); }

@@ -10,15 +10,16 @@ namespace varnel {
 Rate Rate::FromDouble(double value) {
     const double scaled = std::round(value * static_cast<double>(kScale));
     if (!(std::abs(scaled) < 9.2e18))
-        Raise(error_number::kOverflow, "Varnel", "The exchange rate is too large or not a number");
+        throw Error(error_number::kOverflow, "Varnel",
+                    "The exchange rate is too large or not a number");
     return Rate(static_cast<std::int64_t>(scaled));
 }
 
 Rate Rate::Parse(std::string_view text) {
     std::int64_t scaled = 0;
     if (!decimal::Parse(text, kDecimals, scaled))
-        Raise(error_number::kTypeMismatch, "Varnel",
-              "\"" + std::string(text) + "\" is not an exchange rate; write it like 1.3725");
+        throw Error(error_number::kTypeMismatch, "Varnel",
+                    "\"" + std::string(text) + "\" is not an exchange rate; write it like 1.3725");
     return Rate(scaled);
 }
 

@@ -41,8 +41,8 @@ constexpr Member<Control> kControlMembers[] = {
 };
 
 [[noreturn]] void RaiseMalformed(const Layout& layout, const std::string& what) {
-    Raise(error_number::kInvalidArgument, std::string(layout.name),
-          "The layout " + std::string(layout.name) + " is not well formed: " + what);
+    throw Error(error_number::kInvalidArgument, std::string(layout.name),
+                "The layout " + std::string(layout.name) + " is not well formed: " + what);
 }
 
 bool IsGroup(SectionKind kind) {

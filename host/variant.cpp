@@ -11,12 +11,15 @@ namespace varnel {
 
 namespace {
 
+// Day number of 0100-01-01: no host counts days before it.
+constexpr std::int64_t kEarliestDay = -657'434;
+
 template <class T>
 T NarrowTo(std::int64_t value) {
     if (value < std::numeric_limits<T>::min() || value > std::numeric_limits<T>::max())
-        Raise(error_number::kOverflow, "Varnel",
-              std::to_string(value) + " does not fit in a " + std::to_string(8 * sizeof(T)) +
-                  "-bit integer");
+        throw Error(error_number::kOverflow, "Varnel",
+                    std::to_string(value) + " does not fit in a " + std::to_string(8 * sizeof(T)) +
+                        "-bit integer");
     return static_cast<T>(value);
 }
 
@@ -32,8 +35,8 @@ const char* Variant::TypeName() const {
 void Variant::Mismatch(const char* wanted) const {
     std::string held = TypeName();
     if (const auto* text = std::get_if<std::string>(&value_)) held += " \"" + *text + "\"";
-    Raise(error_number::kTypeMismatch, "Varnel",
-          "A value is needed that reads as " + std::string(wanted) + ", not this " + held);
+    throw Error(error_number::kTypeMismatch, "Varnel",
+                "A value is needed that reads as " + std::string(wanted) + ", not this " + held);
 }
 
 std::int64_t Variant::ToInteger(const char* wanted) const {
@@ -93,7 +96,11 @@ Currency Variant::ToCurrency() const {
 Date Variant::ToDate() const {
     if (const auto* date = std::get_if<Date>(&value_)) return *date;
     if (const auto* text = std::get_if<std::string>(&value_)) return Date::ParseIso(*text);
-    return Date::FromDayNumber(NarrowTo<std::int32_t>(ToInteger("a date")));
+    const auto day = ToInteger("a date");
+    if (day < kEarliestDay || day > kOpenEnd.DayNumber())
+        throw Error(error_number::kOverflow, "Varnel",
+                    std::to_string(day) + " is no day number between the years 100 and 9999");
+    return Date::FromDayNumber(static_cast<std::int32_t>(day));
 }
 
 std::string Variant::ToText() const {
