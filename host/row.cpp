@@ -20,9 +20,9 @@ Column Columns::At(std::string_view name) const {
     if (column.Valid()) return column;
     std::string known;
     for (const auto& other : names_) known += (known.empty() ? "" : ", ") + other;
-    Raise(error_number::kUnknownColumn, "Recordset",
-          "The row set has no column \"" + std::string(name) + "\"; it has " +
-              (known.empty() ? "none" : known));
+    throw Error(error_number::kUnknownColumn, "Recordset",
+                "The row set has no column \"" + std::string(name) + "\"; it has " +
+                    (known.empty() ? "none" : known));
 }
 
 Column Columns::Add(std::string name) {
@@ -68,16 +68,21 @@ void Row::RemoveText(const Cell& cell) {
             other.integer -= removed.length;
 }
 
+void Row::RaiseNoColumn() {
+    throw Error(error_number::kUnknownColumn, "Recordset",
+                "A column was read that the row does not have: was it looked up in this row set?");
+}
+
 void Row::Mismatch(Column column, const char* wanted) const {
     std::string held;
     AppendText(column, held);
-    Raise(error_number::kTypeMismatch, "Recordset",
-          "Column " + std::to_string(column.index + 1) + " holds \"" + held + "\", which is not " +
-              wanted);
+    throw Error(error_number::kTypeMismatch, "Recordset",
+                "Column " + std::to_string(column.index + 1) + " holds \"" + held +
+                    "\", which is not " + wanted);
 }
 
 std::int64_t Row::Integer64(Column column) const {
-    const Cell& cell = cells_[column.index];
+    const Cell& cell = At(column);
     switch (cell.kind) {
         case Kind::kNull:
             return 0;
@@ -111,8 +116,13 @@ std::int32_t Row::Integer(Column column) const {
     return static_cast<std::int32_t>(value);
 }
 
+bool Row::Truth(Column column) const {
+    const Cell& cell = At(column);
+    return cell.kind == Kind::kReal ? cell.real != 0 : Integer64(column) != 0;
+}
+
 Currency Row::Amount(Column column) const {
-    const Cell& cell = cells_[column.index];
+    const Cell& cell = At(column);
     switch (cell.kind) {
         case Kind::kNull:
             return {};
@@ -131,7 +141,7 @@ Currency Row::Amount(Column column) const {
 }
 
 Rate Row::ExchangeRate(Column column) const {
-    const Cell& cell = cells_[column.index];
+    const Cell& cell = At(column);
     switch (cell.kind) {
         case Kind::kNull:
             return {};
@@ -152,7 +162,7 @@ Rate Row::ExchangeRate(Column column) const {
 }
 
 Date Row::Day(Column column) const {
-    const Cell& cell = cells_[column.index];
+    const Cell& cell = At(column);
     if (cell.kind == Kind::kDate)
         return Date::FromDayNumber(static_cast<std::int32_t>(cell.integer));
     Date date;
@@ -162,14 +172,14 @@ Date Row::Day(Column column) const {
 }
 
 std::string_view Row::Text(Column column) const {
-    const Cell& cell = cells_[column.index];
+    const Cell& cell = At(column);
     if (cell.kind == Kind::kText) return TextOf(cell);
     if (cell.kind == Kind::kNull) return {};
     Mismatch(column, "a text");
 }
 
 void Row::AppendText(Column column, std::string& out) const {
-    const Cell& cell = cells_[column.index];
+    const Cell& cell = At(column);
     char buffer[64];
     switch (cell.kind) {
         case Kind::kNull:
@@ -193,7 +203,7 @@ void Row::AppendText(Column column, std::string& out) const {
 }
 
 Variant Row::Value(Column column) const {
-    const Cell& cell = cells_[column.index];
+    const Cell& cell = At(column);
     switch (cell.kind) {
         case Kind::kNull:
             return Variant::Null{};
@@ -215,8 +225,8 @@ Variant Row::Value(Column column) const {
 }
 
 bool Row::SameValue(const Row& other, Column column) const {
-    const Cell& a = cells_[column.index];
-    const Cell& b = other.cells_[column.index];
+    const Cell& a = At(column);
+    const Cell& b = other.At(column);
     if (a.kind != b.kind) return false;
     switch (a.kind) {
         case Kind::kNull:

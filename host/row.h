@@ -44,7 +44,8 @@ class Columns {
 ///
 /// A cell keeps what the database gave; the accessor decides the reading, because computed columns
 /// have no declared type. All storage is reused from row to row: in a steady state neither side
-/// allocates.
+/// allocates. A column that the row does not have, such as a handle that was never resolved, raises
+/// error 3265.
 class Row {
   public:
     // For drivers: Start, then one call per column in order.
@@ -63,7 +64,7 @@ class Row {
     void Set(Column column, const Variant& value);
 
     std::size_t Size() const { return cells_.size(); }
-    bool IsNull(Column column) const { return cells_[column.index].kind == Kind::kNull; }
+    bool IsNull(Column column) const { return At(column).kind == Kind::kNull; }
     /// Null reads as 0.
     std::int32_t Integer(Column column) const;
     std::int64_t Integer64(Column column) const;
@@ -75,7 +76,7 @@ class Row {
     /// IsNull first.
     Date Day(Column column) const;
     /// Null reads as false; any non-zero number is true.
-    bool Truth(Column column) const { return Integer64(column) != 0; }
+    bool Truth(Column column) const;
     /// The text as stored; null reads as "". Error 13 when the cell holds something else: see
     /// AppendText.
     std::string_view Text(Column column) const;
@@ -97,6 +98,10 @@ class Row {
             double real;
         };
     };
+    const Cell& At(Column column) const {
+        if (column.index >= cells_.size()) RaiseNoColumn();
+        return cells_[column.index];
+    }
     void Push(Kind kind, std::int64_t value) {
         cells_.emplace_back().kind = kind;
         cells_.back().integer = value;
@@ -105,6 +110,7 @@ class Row {
         return std::string_view(texts_).substr(static_cast<std::size_t>(cell.integer), cell.length);
     }
     void RemoveText(const Cell& cell);
+    [[noreturn]] static void RaiseNoColumn();
     [[noreturn]] void Mismatch(Column column, const char* wanted) const;
 
     std::vector<Cell> cells_;
