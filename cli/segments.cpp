@@ -12,8 +12,8 @@ namespace {
 using SegmentNames = std::map<std::int32_t, std::string>;
 
 SegmentNames ReadSegments(Application& application) {
-    framework::QueryRunner query(application);
-    const auto rows = query.Run("SELECT InSegmentId, SegmentCode, Descr FROM Segment", {});
+    const auto rows =
+        framework::RunQuery(application, "SELECT InSegmentId, SegmentCode, Descr FROM Segment", {});
     const Column id = rows->GetColumns().At("InSegmentId");
     const Column code = rows->GetColumns().At("SegmentCode");
     const Column description = rows->GetColumns().At("Descr");

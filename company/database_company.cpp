@@ -37,6 +37,18 @@ std::optional<Date> DatabaseCompany::ItemAdjustmentStart() {
     return settings_.FindDate(setting::kItemAdjustStartDate);
 }
 
+void DatabaseCompany::BeginRun() {
+    settings_.Forget();
+    uses_projects_.reset();
+    params_.Forget();
+    fiscal_years_.Forget();
+    currencies_.Forget();
+    account_types_.Forget();
+    accounts_.Forget();
+    balances_.Forget();
+    budgets_.Forget();
+}
+
 bool DatabaseCompany::UsesProjects() {
     if (!uses_projects_) {
         const auto set = settings_.FindTruth(setting::kUseProjects);

@@ -15,8 +15,7 @@
 
 namespace varnel::company {
 
-/// The company that a database holds. What seldom changes (settings, chart, currencies, fiscal
-/// years, budgets) is read once, when it is first asked for; balances once a run.
+/// The company that a database holds. What it has read it keeps for the run.
 class DatabaseCompany final : public Company {
   public:
     /// All arguments must outlive the company.
@@ -30,6 +29,7 @@ class DatabaseCompany final : public Company {
     Date FiscalYearStart(Date date) override { return fiscal_years_.StartOf(date); }
     std::optional<Date> ItemAdjustmentStart() override;
     bool UsesProjects() override;
+    void BeginRun() override;
 
     CurrencyInfo& GetCurrencyInfo() override { return currency_info_; }
     BalanceService& Balances() override { return balances_; }

@@ -33,8 +33,6 @@ class BalanceService {
     /// The net result of all income-statement accounts strictly before the date (a profit is
     /// negative).
     virtual Currency EarningsBefore(Date date, const BalanceScope& scope) = 0;
-    /// Forgets what it has read, so that the next run sees the ledger as it is then.
-    virtual void BeginRun() = 0;
 };
 
 }  // namespace varnel

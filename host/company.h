@@ -78,6 +78,10 @@ class Company {
     virtual std::optional<Date> ItemAdjustmentStart() { return std::nullopt; }
     virtual bool UsesProjects() { return false; }
 
+    /// Told once at the start of every report run: a company that keeps what it has read forgets
+    /// it, so that the report sees the books as they are.
+    virtual void BeginRun() {}
+
     virtual CurrencyInfo& GetCurrencyInfo() = 0;
     // Services that some reports need. A host that runs only others may leave them: asking for one
     // then raises error 445.

@@ -60,4 +60,9 @@ class CompanyDatabase {
     }
 };
 
+/// One query from start to rows: a new command, no time limit, connection, text, parameters in the
+/// order of the "?" marks, execution. Failures come out as the driver raised them.
+std::shared_ptr<Recordset> RunQuery(CompanyDatabase& database, const std::string& text,
+                                    std::span<const Variant> parameters);
+
 }  // namespace varnel

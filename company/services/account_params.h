@@ -20,6 +20,9 @@ class AccountParams {
     /// Ids of all accounts of a section, comma-separated; empty when there is none.
     std::string IdsOf(std::string_view section);
 
+    /// The next question reads the database again.
+    void Forget() { params_.reset(); }
+
   private:
     struct Param {
         std::string section, name;

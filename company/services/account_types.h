@@ -21,6 +21,9 @@ class CompanyAccountTypes final : public AccountTypes {
     std::string Caption(std::int32_t account_type, std::int32_t variant) override;
     std::string AdditionalIncomeTypes() override;
 
+    /// The next question reads the database again.
+    void Forget() { types_.reset(); }
+
   private:
     struct TypeInfo {
         std::int32_t type_class;

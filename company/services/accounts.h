@@ -22,6 +22,9 @@ class CompanyAccounts final : public ChartOfAccounts {
     /// has.
     bool IsIncomeStatement(std::int32_t account_id);
 
+    /// The next question reads the database again.
+    void Forget() { accounts_.reset(); }
+
   private:
     struct Account {
         std::int32_t currency_id;  // 0 when it has none of its own.

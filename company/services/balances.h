@@ -8,7 +8,7 @@
 
 namespace varnel::company {
 
-/// Balances from GLDet: one grouped query per scope, kept until the next run.
+/// Balances from GLDet: one grouped query per scope, kept until it is told to forget.
 class LedgerBalances final : public BalanceService {
   public:
     LedgerBalances(CompanyDatabase& database, CompanyAccounts& accounts)
@@ -18,7 +18,8 @@ class LedgerBalances final : public BalanceService {
                             bool in_foreign_currency) override;
     /// Takes segment clause and projects from `scope`; its dates make no difference.
     Currency EarningsBefore(Date date, const BalanceScope& scope) override;
-    void BeginRun() override { scopes_.clear(); }
+    /// The next question reads the database again.
+    void Forget() { scopes_.clear(); }
 
   private:
     struct Balance {

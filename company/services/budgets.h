@@ -17,6 +17,9 @@ class CompanyBudgets final : public BudgetService {
     /// Error 5 naming the account when one of its budget periods ends before it begins.
     Currency GetAcctBudgetRange(std::int32_t account_id, Date from, Date to) override;
 
+    /// The next question reads the database again.
+    void Forget() { periods_.reset(); }
+
   private:
     struct Period {
         Date from, to;

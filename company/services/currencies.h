@@ -32,6 +32,13 @@ class CompanyCurrencies final : public Currencies {
     /// By code.
     const std::vector<CurrencyRecord>& All();
 
+    /// The next question reads the home currency and the switch again; the list of currencies
+    /// stays.
+    void Forget() {
+        home_id_.reset();
+        foreign_used_.reset();
+    }
+
   private:
     CompanyDatabase& database_;
     Settings& settings_;

@@ -16,6 +16,9 @@ class FiscalYears {
     /// it, else 1 January.
     Date StartOf(Date date);
 
+    /// The next question reads the database again.
+    void Forget() { starts_.reset(); }
+
   private:
     const std::vector<Date>& Starts();
 

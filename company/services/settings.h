@@ -23,6 +23,9 @@ class Settings {
     /// Error 5 naming the setting when it is not set, error 13 when it is not a number.
     std::int32_t Id(std::string_view name);
 
+    /// The next question reads the database again.
+    void Forget() { values_.reset(); }
+
   private:
     using Values = std::vector<std::pair<std::string, std::string>>;
     const Values& All();

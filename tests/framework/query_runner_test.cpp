@@ -14,7 +14,7 @@ TEST(QueryRunnerTest, AsksTheCommandInTheOrderThatHostsExpect) {
     test::MemoryHost host;
     host.database.Answer("", {{"A"}, {{1}}});
     const Variant parameters[] = {kOpenStart, kOpenEnd, 7};
-    const auto rows = QueryRunner(host).Run("SELECT ?, ?, ?", parameters);
+    const auto rows = RunQuery(host, "SELECT ?, ?, ?", parameters);
     EXPECT_EQ(rows->Current().Integer(rows->GetColumns().At("A")), 1);
 
     const auto& command = *host.database.Commands().at(0);
@@ -26,12 +26,12 @@ TEST(QueryRunnerTest, AsksTheCommandInTheOrderThatHostsExpect) {
     EXPECT_TRUE(command.parameters[2].Holds<std::int32_t>());
 }
 
-TEST(QueryRunnerTest, EachRunnerHasACommandOfItsOwn) {
+TEST(QueryRunnerTest, EachQueryHasACommandOfItsOwn) {
     test::MemoryHost host;
     host.database.Answer("", {{"A"}, {}});
     const Variant parameters[] = {1};
-    QueryRunner(host).Run("first ?", parameters);
-    QueryRunner(host).Run("second", {});
+    RunQuery(host, "first ?", parameters);
+    RunQuery(host, "second", {});
     ASSERT_EQ(host.database.Commands().size(), 2u);
     EXPECT_EQ(host.database.Commands()[1]->text, "second");
     EXPECT_TRUE(host.database.Commands()[1]->parameters.empty());
@@ -47,6 +47,19 @@ TEST(QueryRunnerTest, ASettingThatIsNotThereIsOff) {
     for (const char* off : {"False", "0", ""}) {
         host.company.settings["ItemAdjustGL"] = off;
         EXPECT_FALSE(ReadSwitch(host, "ItemAdjustGL")) << off;
+    }
+}
+
+TEST(QueryRunnerTest, ASettingThatIsNeitherOnNorOffIsNamed) {
+    test::MemoryHost host;
+    host.company.settings["ItemAdjustGL"] = "no";
+    try {
+        ReadSwitch(host, "ItemAdjustGL");
+        FAIL() << "no error";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.Number(), error_number::kTypeMismatch);
+        EXPECT_STREQ(error.what(),
+                     "The company's setting ItemAdjustGL is \"no\": set it to True or False");
     }
 }
 
