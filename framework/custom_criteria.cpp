@@ -18,4 +18,21 @@ std::string CustomCriteria::OrderClause(std::string_view leading_key,
     return ordering.empty() ? std::string(default_order) : std::string(leading_key) + ordering;
 }
 
+namespace {
+
+constexpr Member<FilterableReport> kMembers[] = {
+    {"IFilterableReport_Filter", nullptr,
+     [](FilterableReport& r, const Variant& v) { r.IFilterableReport_Filter(v.ToText()); }},
+    {"IFilterableReport_FilterTool", nullptr,
+     [](FilterableReport& r, const Variant& v) {
+         r.IFilterableReport_FilterTool(ObjectAs<FilterTool>(v));
+     }},
+};
+
+}  // namespace
+
+FilterableReport::FilterableReport(MemberParts& members) {
+    members.Add<FilterableReport>(*this, kMembers);
+}
+
 }  // namespace varnel::framework

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/member_table.h"
 #include "host/report.h"
 
 namespace varnel::framework {
@@ -23,6 +24,9 @@ struct CustomCriteria {
 /// `IFilterableReport`, once for all reports that have it.
 class FilterableReport : public IFilterableReport {
   public:
+    /// Adds its members, by the interface's names, to those of the report it is a part of.
+    explicit FilterableReport(MemberParts& members);
+
     void IFilterableReport_Filter(const std::string& filter) override { filter_ = filter; }
     void IFilterableReport_FilterTool(std::shared_ptr<FilterTool> tool) override {
         tool_ = std::move(tool);

@@ -7,18 +7,23 @@
 #include "framework/procedure.h"
 #include "host/application.h"
 #include "host/banded_report.h"
+#include "host/member_table.h"
 
 namespace varnel::framework {
 
 /// What every report of the library is made of, sub-reports included: its surface, its rows, the
-/// application it asks, and the guard that its procedures run in (form A). Control names answer
-/// late-bound as members of the report.
+/// application it asks, and the guard that its procedures run in (form A). Late-bound it answers
+/// to the members that it and its parts have added, then to the names of its controls.
+///
+/// Make one with std::make_shared: it hands out references to itself.
 class DesignedReport : public BandedReport, public std::enable_shared_from_this<DesignedReport> {
   public:
     explicit DesignedReport(const Layout& layout) : surface_(layout) {}
 
     std::string_view ObjectName() const override { return surface_.Design().name; }
     Variant Get(std::string_view name) override;
+    void Put(std::string_view name, const Variant& value) override;
+    Variant Call(std::string_view name, std::span<const Variant> arguments) override;
 
     Surface& GetSurface() override { return surface_; }
     ReportData& Data() override { return data_; }
@@ -26,6 +31,9 @@ class DesignedReport : public BandedReport, public std::enable_shared_from_this<
     void ActiveReport_Initialize() override;
 
   protected:
+    /// Where a report and its parts add their late-bound members, in their constructors.
+    MemberParts& Members() { return members_; }
+
     /// Error 91 when the host has given none.
     Application& App();
     /// Null when the host has given none.
@@ -41,7 +49,8 @@ class DesignedReport : public BandedReport, public std::enable_shared_from_this<
         GuardFormA(application_.get(), ObjectName(), procedure, body, line);
     }
 
-    /// Makes `handler` the format event of its section: "Detail_Format" is that of Detail.
+    /// Makes `handler` the format event of its section: "Detail_Format" is that of Detail. The
+    /// name must be a literal.
     template <class Report>
     void Handle(std::string_view procedure, void (Report::*handler)(),
                 std::uint_least32_t line = __builtin_LINE()) {
@@ -59,6 +68,7 @@ class DesignedReport : public BandedReport, public std::enable_shared_from_this<
     bool EndOfData() const { return data_.EndOfData(); }
 
   private:
+    MemberParts members_;
     Surface surface_;
     ReportData data_;
     std::shared_ptr<Application> application_;

@@ -19,7 +19,7 @@ ControlLayout Caption(std::string_view name, std::int16_t text) {
             .caption = text};
 }
 
-ControlLayout Line(std::string_view name) {
+ControlLayout TextLine(std::string_view name) {
     return {.name = name,
             .box = {kTextLeft, 0, 10'800 - kTextLeft, kLineHeight},
             .style = kQuiet,
@@ -33,9 +33,9 @@ const Layout& SubReportLayout() {
         .sections = {{.name = "Detail",
                       .kind = SectionKind::kDetail,
                       .height = 3 * kLineHeight,
-                      .controls = {Caption("lblSegments", 30041), Line("txtSegments"),
-                                   Caption("lblFilter", 30042), Line("txtFilter"),
-                                   Caption("lblSortedBy", 30043), Line("txtSortedBy")}}}};
+                      .controls = {Caption("lblSegments", 30041), TextLine("txtSegments"),
+                                   Caption("lblFilter", 30042), TextLine("txtFilter"),
+                                   Caption("lblSortedBy", 30043), TextLine("txtSortedBy")}}}};
     return layout;
 }
 
@@ -55,24 +55,22 @@ void dsrFilterAndSortByInfoSubreport::ActiveReport_FetchData(bool& end_of_data) 
     delivered_ = true;
 }
 
-void dsrFilterAndSortByInfoSubreport::Detail_Format() {
-    const struct {
-        std::string_view caption, control;
-        const std::string& text;
-    } lines[] = {{"lblSegments", "txtSegments", info_.segments},
-                 {"lblFilter", "txtFilter", info_.criteria},
-                 {"lblSortedBy", "txtSortedBy", info_.ordering}};
-    Twips top = 0;
-    for (const auto& line : lines) {
-        for (const auto name : {line.caption, line.control}) {
-            At(name).SetVisible(!line.text.empty());
-            At(name).SetTop(top);
-        }
-        At(line.control).SetText(line.text);
-        if (!line.text.empty()) top += kLineHeight;
+Twips dsrFilterAndSortByInfoSubreport::ShowLine(const Line& line, const std::string& text,
+                                                Twips top) {
+    for (Control* control : {&line.caption, &line.text}) {
+        control->SetVisible(!text.empty());
+        control->SetTop(top);
     }
-    SectionAt("Detail").SetHeight(top);
-    if (top == 0) SectionAt("Detail").Skip();
+    line.text.SetText(text);
+    return text.empty() ? top : top + kLineHeight;
+}
+
+void dsrFilterAndSortByInfoSubreport::Detail_Format() {
+    Twips height = ShowLine(segments_, info_.segments, 0);
+    height = ShowLine(criteria_, info_.criteria, height);
+    height = ShowLine(ordering_, info_.ordering, height);
+    Detail.SetHeight(height);
+    if (height == 0) Detail.Skip();
 }
 
 void FillFilterSubReport(Surface& surface, std::shared_ptr<Application> application,

@@ -26,8 +26,22 @@ class dsrFilterAndSortByInfoSubreport final : public DesignedReport {
   private:
     void Detail_Format();
 
+    struct Line {
+        Control& caption;
+        Control& text;
+    };
+    Line BindLine(std::string_view caption, std::string_view text) {
+        return {At(caption), At(text)};
+    }
+    /// Shows the line at `top` and returns where the next one goes.
+    static Twips ShowLine(const Line& line, const std::string& text, Twips top);
+
     Info info_;
     bool delivered_ = false;
+    Section& Detail = SectionAt("Detail");
+    Line segments_ = BindLine("lblSegments", "txtSegments");
+    Line criteria_ = BindLine("lblFilter", "txtFilter");
+    Line ordering_ = BindLine("lblSortedBy", "txtSortedBy");
 };
 
 /// Puts the sub-report into the page header of `surface`, with the host's words for criteria and

@@ -8,19 +8,9 @@ namespace varnel::framework {
 
 namespace {
 
-std::shared_ptr<Application> ToApplication(const Variant& value) {
-    const ObjectRef object = value.ToObject();
-    auto application = std::dynamic_pointer_cast<Application>(object);
-    if (object != nullptr && application == nullptr)
-        Raise(error_number::kTypeMismatch, "Varnel",
-              "IReport_Application takes the host's application, not this " +
-                  std::string(object->ObjectName()));
-    return application;
-}
-
 constexpr Member<ReportBase> kMembers[] = {
     {"IReport_Application", nullptr,
-     [](ReportBase& r, const Variant& v) { r.IReport_Application(ToApplication(v)); }},
+     [](ReportBase& r, const Variant& v) { r.IReport_Application(ObjectAs<Application>(v)); }},
     {"IReport_DateFrom", nullptr,
      [](ReportBase& r, const Variant& v) { r.IReport_DateFrom(v.ToDate()); }},
     {"IReport_DateTo", nullptr,
@@ -45,18 +35,9 @@ constexpr Member<ReportBase> kMembers[] = {
 
 }  // namespace
 
-Variant ReportBase::Get(std::string_view name) {
-    const auto* member = FindMember<ReportBase>(kMembers, name);
-    if (member == nullptr || member->get == nullptr) return DesignedReport::Get(name);
-    return member->get(*this);
-}
-
-void ReportBase::Put(std::string_view name, const Variant& value) {
-    PutMember<ReportBase>(kMembers, *this, name, value);
-}
-
-Variant ReportBase::Call(std::string_view name, std::span<const Variant> arguments) {
-    return CallMember<ReportBase>(kMembers, *this, name, arguments);
+ReportBase::ReportBase(const Layout& layout, const Facts& facts)
+    : DesignedReport(layout), facts_(facts) {
+    Members().Add<ReportBase>(*this, kMembers);
 }
 
 void ReportBase::IReport_Application(std::shared_ptr<Application> application) {
@@ -101,10 +82,10 @@ std::string ReportBase::IReport_ReportTitle() {
 
 void ReportBase::ActiveReport_Initialize() {
     DesignedReport::ActiveReport_Initialize();
-    Guard("ActiveReport_Initialize",
-          [&] { Mark(), FillStandardHeader(GetSurface(), App(), IReport_ReportTitle()); });
+    Guard("ActiveReport_Initialize", [&] {
+        Mark(), CurrentCompany().BeginRun();
+        Mark(), FillStandardHeader(GetSurface(), App(), IReport_ReportTitle());
+    });
 }
-
-void ReportBase::ActiveReport_Terminate() { Data().Attach(nullptr); }
 
 }  // namespace varnel::framework

@@ -17,12 +17,7 @@ class ReportBase : public DesignedReport, public IReport {
         DateDisplay date_display = DateDisplay::kFromTo;
     };
 
-    ReportBase(const Layout& layout, const Facts& facts) : DesignedReport(layout), facts_(facts) {}
-
-    /// Interface members by their names, then controls.
-    Variant Get(std::string_view name) override;
-    void Put(std::string_view name, const Variant& value) override;
-    Variant Call(std::string_view name, std::span<const Variant> arguments) override;
+    ReportBase(const Layout& layout, const Facts& facts);
 
     void IReport_Application(std::shared_ptr<Application> application) override;
     void IReport_DateFrom(Date date) override;
@@ -36,7 +31,6 @@ class ReportBase : public DesignedReport, public IReport {
     std::string IReport_ReportTitle() override;
 
     void ActiveReport_Initialize() override;
-    void ActiveReport_Terminate() override;
 
   protected:
     Date DateFrom() const { return date_from_; }

@@ -12,4 +12,19 @@ std::string SegmentClause(std::string_view column, std::string_view ids, bool al
     return clause + ")";
 }
 
+namespace {
+
+constexpr Member<SegmentFilter> kMembers[] = {
+    {"ISegmentFilter_SegmentFilter", nullptr,
+     [](SegmentFilter& f, const Variant& v) { f.ISegmentFilter_SegmentFilter(v.ToText()); }},
+    {"ISegmentFilter_SegmentFilterDisplay", nullptr,
+     [](SegmentFilter& f, const Variant& v) { f.ISegmentFilter_SegmentFilterDisplay(v.ToText()); }},
+    {"ISegmentFilter_SegmentNoneFilter", nullptr,
+     [](SegmentFilter& f, const Variant& v) { f.ISegmentFilter_SegmentNoneFilter(v.ToBool()); }},
+};
+
+}  // namespace
+
+SegmentFilter::SegmentFilter(MemberParts& members) { members.Add<SegmentFilter>(*this, kMembers); }
+
 }  // namespace varnel::framework

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/member_table.h"
 #include "host/report.h"
 
 namespace varnel::framework {
@@ -14,6 +15,9 @@ std::string SegmentClause(std::string_view column, std::string_view ids, bool al
 /// `ISegmentFilter`, once for all reports that have it.
 class SegmentFilter : public ISegmentFilter {
   public:
+    /// Adds its members, by the interface's names, to those of the report it is a part of.
+    explicit SegmentFilter(MemberParts& members);
+
     void ISegmentFilter_SegmentFilter(const std::string& ids) override { ids_ = ids; }
     void ISegmentFilter_SegmentFilterDisplay(const std::string& text) override { display_ = text; }
     void ISegmentFilter_SegmentNoneFilter(bool also_none) override { also_none_ = also_none; }

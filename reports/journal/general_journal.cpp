@@ -46,7 +46,9 @@ std::string SelectedDocumentsClause(const std::vector<std::string>& keys) {
 
 dsrGeneralJournal::dsrGeneralJournal()
     : ReportBase(GeneralJournalLayout(),
-                 {.title_text = 6173, .date_display = DateDisplay::kFromTo}) {
+                 {.title_text = 6173, .date_display = DateDisplay::kFromTo}),
+      SegmentFilter(Members()),
+      FilterableReport(Members()) {
     Handle("PageHeader_Format", &dsrGeneralJournal::PageHeader_Format);
     Handle("ghSeqNo_Format", &dsrGeneralJournal::ghSeqNo_Format);
     Handle("Detail_Format", &dsrGeneralJournal::Detail_Format);
@@ -85,12 +87,11 @@ void dsrGeneralJournal::ActiveReport_ReportStart() {
         entry_count_ = 0;
         foreign_used_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
-        QueryRunner query((Mark(), App()));
-        foreign_used_ = IReport_UseCurrency();
+        Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
         if (DisplayForeignCurrency()) MoveAmountColumns();
         const std::string statement = BuildStatement();
         const Variant parameters[] = {DateFrom(), DateTo()};
-        auto rows = (Mark(), query.Run(statement, parameters));
+        auto rows = (Mark(), RunQuery(App(), statement, parameters));
         Mark(), columns_.Resolve(rows->GetColumns());
         Data().Attach(std::move(rows));
         Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
@@ -132,7 +133,7 @@ void dsrGeneralJournal::MoveAmountColumns() {
     for (const auto* name : {"txtProject", "lblProjectCap"}) At(name).SetLeft(project_left);
     for (const auto* name : {"txtAccount", "lblAccountCap"})
         At(name).SetWidth(project_left - kGap - At(name).Place().left);
-    At("lblForeignCap").SetVisible(true);
+    At("lblForeignCap").SetVisible(foreign_used_);
 }
 
 void dsrGeneralJournal::PutAmount(Control& control, Currency amount) {
@@ -163,14 +164,14 @@ void dsrGeneralJournal::ghSeqNo_Format() {
     const Row& row = CurrentRow();
     text_.clear();
     row.AppendText(columns_.seq_no, text_);
-    txtSeqNo.SetValue(row.Integer(columns_.seq_no), text_);
+    Mark(), txtSeqNo.SetValue(row.Integer(columns_.seq_no), text_);
 
-    text_ = row.Text(columns_.description);
+    Mark(), text_ = row.Text(columns_.description);
     text_ += "  #Ref: ";
-    text_ += row.Text(columns_.reference);
+    Mark(), text_ += row.Text(columns_.reference);
     txtDescription.SetText(Trimmed(text_));
 
-    text_ = row.Text(columns_.source);
+    Mark(), text_ = row.Text(columns_.source);
     text_ += '|';
     row.AppendText(columns_.source_key, text_);
     for (Control* header : {&txtSeqNo, &txtDate, &txtDescription}) header->SetTag(text_);
@@ -179,7 +180,7 @@ void dsrGeneralJournal::ghSeqNo_Format() {
 
 void dsrGeneralJournal::ShowDate() {
     if (CurrentRow().IsNull(columns_.date)) return;
-    const Date date = CurrentRow().Day(columns_.date);
+    const Date date = (Mark(), CurrentRow().Day(columns_.date));
     text_.clear();
     Mark(), App().GetFormats().AppendShortDate(date, text_);
     txtDate.SetValue(date, text_);
@@ -193,18 +194,17 @@ bool dsrGeneralJournal::ShowsForeignAmount() const {
 
 void dsrGeneralJournal::ShowAccount() {
     const Row& row = CurrentRow();
+    const auto description = (Mark(), row.Text(columns_.account_description));
     text_.clear();
-    if (use_account_numbers_ && !row.IsNull(columns_.account_number)) {
-        row.AppendText(columns_.account_number, text_);
-        text_ += " - ";
-    }
-    text_ += row.Text(columns_.account_description);
+    if (use_account_numbers_) row.AppendText(columns_.account_number, text_);
+    if (!text_.empty() && !description.empty()) text_ += " - ";
+    text_ += description;
     txtAccount.SetText(text_);
 }
 
 void dsrGeneralJournal::ShowForeignAmount() {
     const Row& row = CurrentRow();
-    const Currency amount = row.Amount(columns_.foreign_amount);
+    const Currency amount = (Mark(), row.Amount(columns_.foreign_amount));
     text_.clear();
     Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, row.Integer(columns_.currency_id), text_);
     txtForeign.SetValue(amount, text_);
@@ -212,13 +212,22 @@ void dsrGeneralJournal::ShowForeignAmount() {
     txtForeignCode.SetVisible(true);
 }
 
+// Both or neither: a total that overflows must not part entry and report.
 void dsrGeneralJournal::AddToTotals(Currency amount) {
-    if (amount > Currency()) {
-        entry_.debit += amount;
-        report_.debit += amount;
-    } else {
-        entry_.credit -= amount;
-        report_.credit -= amount;
+    const auto side = amount > Currency() ? &Totals::debit : &Totals::credit;
+    const Currency entry_total = entry_.*side + amount.Abs();
+    report_.*side += amount.Abs();
+    entry_.*side = entry_total;
+}
+
+// A line whose amount cannot be read shows none, least of all that of the line before.
+Currency dsrGeneralJournal::ReadAmount() {
+    try {
+        return CurrentRow().Amount(columns_.amount);
+    } catch (...) {
+        txtDebit.Clear();
+        txtCredit.Clear();
+        throw;
     }
 }
 
@@ -233,13 +242,13 @@ void dsrGeneralJournal::Detail_Format() {
     if (row.IsNull(columns_.project_id))
         txtProject.Clear();
     else
-        txtProject.SetText(row.Text(columns_.project));
+        Mark(), txtProject.SetText(row.Text(columns_.project));
 
-    const Currency amount = row.Amount(columns_.amount);
+    const Currency amount = (Mark(), ReadAmount());
     if (!amount.IsZero()) {
         txtDebit.Clear();
         txtCredit.Clear();
-        AddToTotals(amount);
+        Mark(), AddToTotals(amount);
         PutAmount(amount > Currency() ? txtDebit : txtCredit, amount.Abs());
     }
     if (ShowsForeignAmount()) ShowForeignAmount();

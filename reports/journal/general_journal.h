@@ -40,6 +40,7 @@ class dsrGeneralJournal final : public framework::ReportBase,
     void ShowForeignAmount();
     void ShowDate();
     void AddToTotals(Currency amount);
+    Currency ReadAmount();
     /// Home-currency text and value in one.
     void PutAmount(Control& control, Currency amount);
     void PutTotals(Control& debit, Control& credit, const Totals& totals);

@@ -10,19 +10,19 @@ namespace {
 
 using namespace framework;
 
-constexpr Twips kSeqNoWidth = 780;
-constexpr Twips kDateLeft = 840;
+constexpr Twips kSeqNoWidth = 680;
+constexpr Twips kDateLeft = 740;
 constexpr Twips kDateWidth = 1'040;
-constexpr Twips kTextLeft = 1'940;
-constexpr Twips kAmountWidth = 1'380;
-constexpr Twips kCreditLeft = 9'420;
-constexpr Twips kDebitLeft = 7'980;
-constexpr Twips kProjectLeft = 7'100;
-constexpr Twips kProjectWidth = 820;
+constexpr Twips kTextLeft = 1'840;
+constexpr Twips kAmountWidth = 1'320;
+constexpr Twips kCreditLeft = 9'480;
+constexpr Twips kDebitLeft = 8'100;
+constexpr Twips kProjectLeft = 7'280;
+constexpr Twips kProjectWidth = 760;
 constexpr Twips kTextWidth = kProjectLeft - 60 - kTextLeft;
 // Only with foreign amounts.
-constexpr Twips kForeignLeft = 9'070;
-constexpr Twips kForeignWidth = 1'280;
+constexpr Twips kForeignLeft = 9'120;
+constexpr Twips kForeignWidth = 1'220;
 constexpr Twips kCodeLeft = 10'400;
 constexpr Twips kCodeWidth = 400;
 constexpr Twips kLine = 220;

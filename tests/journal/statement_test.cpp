@@ -53,6 +53,19 @@ TEST_P(JournalStatementTest, IsExactlyThis) {
     EXPECT_EQ(run.host->database.Commands()[0]->text, GetParam().statement);
 }
 
+TEST(JournalStatementByNameTest, FiltersAreReachedByNameToo) {
+    JournalRun run;
+    const auto report = run.report->IReport_ReportDesigner();
+    report->Put("ISegmentFilter_SegmentFilter", "3,7");
+    report->Put("ISegmentFilter_SegmentNoneFilter", true);
+    report->Put("IFilterableReport_Filter", "1=1|GLAcct.GLAcctId");
+    report->Put("IFilterableReport_FilterTool", ObjectRef(std::make_shared<PickingTool>()));
+    run({});
+    EXPECT_EQ(run.host->database.Commands()[0]->text, JOURNAL_ROWS
+              " AND (GLDet.ExSegmentId IN (3,7) OR GLDet.ExSegmentId IS NULL) AND (1=1)  "
+              "ORDER BY GLDet.SeqNo, GLAcct.GLAcctId");
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Variants, JournalStatementTest,
     testing::Values(
