@@ -104,15 +104,15 @@ Extent BandComposer::Measured(const Control& control, std::size_t index) {
     return extent;
 }
 
-/// Gives the height that the lines need. A single one stands where it would if it could not grow.
+/// Gives the height that the lines need. The first one stands where it would if the text could not
+/// grow, so that it lines up with its neighbours.
 Twips BandComposer::BreakLines(const Control& control, Lines& lines) {
     const Box& box = control.Place();
     lines.texts.clear();
     measurer_.BreakLines(control.Text(), control.Design().style, box.width, lines.texts);
     lines.pitch = measurer_.LineHeight(control.Design().style);
-    const bool single_line_box = box.height < 2 * lines.pitch;
-    lines.inset = single_line_box ? std::max(Twips{0}, (box.height - lines.pitch) / 2) : 0;
-    return 2 * lines.inset + static_cast<Twips>(lines.texts.size()) * lines.pitch;
+    lines.height = box.height < 2 * lines.pitch ? box.height : lines.pitch;
+    return lines.height + static_cast<Twips>(lines.texts.size() - 1) * lines.pitch;
 }
 
 Twips BandComposer::RunSubReport(const Control& control, ItemList& content) {
@@ -133,7 +133,7 @@ void BandComposer::Place(const Control& control, std::size_t index, ItemList& co
     if (!control.Design().can_grow || control.Text().empty())
         return PlaceSimple(control, shift, content);
     const Lines& lines = lines_[index];
-    Box line{box.left, box.top + shift + lines.inset, box.width, lines.pitch};
+    Box line{box.left, box.top + shift, box.width, lines.height};
     for (const auto text : lines.texts) {
         if (!text.empty()) content.Add(ItemOf(control, ItemKind::kText, line), text);
         line.top += lines.pitch;

@@ -25,7 +25,7 @@ class BandComposer {
     struct Lines {
         std::vector<std::string_view> texts;
         Twips pitch = 0;
-        Twips inset = 0;  // Of the first one from the top of its control.
+        Twips height = 0;  // Of the box of each line.
     };
 
     void Measure(const Section& section);

@@ -41,6 +41,13 @@ double LeftOf(const engine::Item& item, double width) {
     return item.align == Align::kCenter ? left + spare / 2 : left;
 }
 
+/// The baseline that sets a line of text well into its box, from the top of the page.
+double Baseline(const engine::Item& item) {
+    // By the box alone, so that texts of different sizes beside each other share their baseline.
+    constexpr double kAbove = 0.78;
+    return Points(item.box.top) + kAbove * Points(item.box.height);
+}
+
 }  // namespace
 
 void PdfPageWriter::Begin(const engine::DocumentInfo& info, int) {
@@ -75,16 +82,6 @@ void PdfPageWriter::End() {
 void PdfPageWriter::DrawRule(PdfPage& page, const engine::Item& item) {
     page.FillRect(Points(item.box.left), Points(item.box.top), Points(item.box.width),
                   Points(item.box.height), PrintColour(item.style.ink));
-}
-
-double PdfPageWriter::Baseline(const engine::Item& item) {
-    const FontMetrics& metrics = fonts_.Metrics(PrintFont(item.style));
-    const double size = Points(item.style.size);
-    const double line = (metrics.ascent - metrics.descent) * size / 1000;
-    const double spare = Points(item.box.height) - line;
-    // Centred, so that sizes beside each other line up; a box of several lines begins at its top.
-    const double above = spare < line ? spare / 2 : 0;
-    return Points(item.box.top) + above + metrics.ascent * size / 1000;
 }
 
 void PdfPageWriter::DrawText(PdfPage& page, const engine::Item& item, std::string_view text) {

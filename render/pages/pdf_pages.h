@@ -25,8 +25,6 @@ class PdfPageWriter final : public engine::PageSink {
   private:
     void DrawRule(PdfPage& page, const engine::Item& item);
     void DrawText(PdfPage& page, const engine::Item& item, std::string_view text);
-    /// The baseline that sets a line of text well into its box, from the top of the page.
-    double Baseline(const engine::Item& item);
 
     ByteSink& sink_;
     FontSet& fonts_;

@@ -147,13 +147,13 @@ TEST(Composing, ATextThatGrowsPrintsOneItemForEachLine) {
     EXPECT_EQ(band.height, 500);
 }
 
-TEST(Composing, LinesKeepTheSpaceThatASingleLineHasAround) {
+TEST(Composing, TheFirstLineStandsWhereASingleOneWould) {
     Layout layout = ParentLayout();
     Design(layout, "detail").controls[0].can_grow = true;
     Design(layout, "detail").controls[0].box = {0, 0, 300, 140};
     MicroReport report(layout, "line", "abcd");
-    EXPECT_EQ(BoxOf(DetailOf(report), "abc"), (Box{0, 20, 300, 100}));
-    EXPECT_EQ(BoxOf(DetailOf(report), "d"), (Box{0, 120, 300, 100}));
+    EXPECT_EQ(BoxOf(DetailOf(report), "abc"), (Box{0, 0, 300, 140}));
+    EXPECT_EQ(BoxOf(DetailOf(report), "d"), (Box{0, 100, 300, 140}));
 }
 
 TEST(Composing, FiguresAreWhatHasAValueOrStandsAtTheRight) {

@@ -84,6 +84,15 @@ TEST(PdfPages, SetTextInsideItsBox) {
     }
 }
 
+TEST(PdfPages, TextsOfDifferentSizesBesideEachOtherShareTheirBaseline) {
+    engine::Item small = TextItem({0, 1000, 5000, 220});
+    small.style.size = 160;
+    engine::Item large = small;
+    large.style.size = 180;
+    EXPECT_EQ(Operands(WriteItem(small, "1020"), "Td").at(1),
+              Operands(WriteItem(large, "1020"), "Td").at(1));
+}
+
 TEST(PdfPages, CondenseAFigureThatIsWiderThanItsBox) {
     const double width = Fonts().Width(FontStyle::kRegular, 8.5, "123,456,789.01");
     const std::string pdf =
