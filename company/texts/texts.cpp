@@ -1,5 +1,6 @@
 #include "company/texts/texts.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "company/texts/embedded_texts.h"
@@ -19,10 +20,10 @@ std::string_view TakeUntil(char mark, std::string_view& rest) {
 }
 
 [[noreturn]] void RaiseBadLine(std::size_t line) {
-    Raise(error_number::kInvalidArgument, "Texts",
-          "Line " + std::to_string(line) +
-              " of the texts needs a number from 1 to 32767 that no other line has, an English and "
-              "a French text, separated by tabs");
+    throw Error(error_number::kInvalidArgument, "Texts",
+                "Line " + std::to_string(line) +
+                    " of the texts needs a number from 1 to 32767 that no other line has, an "
+                    "English and a French text (either may be empty), separated by tabs");
 }
 
 }  // namespace
@@ -38,20 +39,25 @@ Texts::Texts(Language language, MissingText missing)
 
 Texts::Texts(Language language, MissingText missing, std::string_view file)
     : missing_(std::move(missing)) {
-    for (std::size_t number_of_line = 1; !file.empty(); ++number_of_line) {
-        auto line = TakeUntil('\n', file);
-        if (line.empty() || line.front() == '#') continue;
-        const auto key = TakeUntil('\t', line);
-        const auto english = TakeUntil('\t', line);
-        const auto french = TakeUntil('\t', line);
-        std::int16_t number = 0;
-        const auto parsed = std::from_chars(key.data(), key.data() + key.size(), number);
-        if (parsed.ec != std::errc{} || parsed.ptr != key.data() + key.size() || number <= 0 ||
-            english.empty() || french.empty())
-            RaiseBadLine(number_of_line);
-        const auto text = language == Language::kFrench ? french : english;
-        if (!texts_.emplace(number, text).second) RaiseBadLine(number_of_line);
+    for (std::size_t line_number = 1; !file.empty(); ++line_number) {
+        const auto line = TakeUntil('\n', file);
+        if (!line.empty() && line.front() != '#') Add(line, line_number, language);
     }
+}
+
+/// A cell without text is a text that is missing in that language alone.
+void Texts::Add(std::string_view line, std::size_t line_number, Language language) {
+    const auto tabs = std::ranges::count(line, '\t');
+    const auto key = TakeUntil('\t', line);
+    const auto english = TakeUntil('\t', line);
+    const auto french = TakeUntil('\t', line);
+    std::int16_t number = 0;
+    const auto parsed = std::from_chars(key.data(), key.data() + key.size(), number);
+    if (parsed.ec != std::errc{} || parsed.ptr != key.data() + key.size() || number <= 0 ||
+        tabs < 2 || !numbers_.insert(number).second)
+        RaiseBadLine(line_number);
+    const auto text = language == Language::kFrench ? french : english;
+    if (!text.empty()) texts_.emplace(number, text);
 }
 
 std::string Texts::Get(std::int16_t number) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -22,15 +23,18 @@ class Texts {
 
     /// `missing` may be empty; it is called once for each number that is asked for and not there.
     Texts(Language language, MissingText missing);
-    /// Reads texts from a file like texts.tsv instead of the embedded one. Raises error 5 naming
-    /// the line that is not well formed.
+    /// Reads texts from a file like texts.tsv instead of the embedded one; an empty cell is a text
+    /// that is not there in its language. Raises error 5 naming the line that is not well formed.
     Texts(Language language, MissingText missing, std::string_view file);
 
     /// The text, or the number in decimal when there is none.
     std::string Get(std::int16_t number);
 
   private:
+    void Add(std::string_view line, std::size_t line_number, Language language);
+
     std::map<std::int16_t, std::string> texts_;
+    std::set<std::int16_t> numbers_;  // Of every line, in both languages.
     MissingText missing_;
     std::set<std::int16_t> reported_;
 };

@@ -27,6 +27,24 @@ TEST(Texts, ReportAMissingNumberOnce) {
     EXPECT_EQ(texts.Get(777), "777");
 }
 
+TEST(Texts, FallBackToTheNumberInTheOneLanguageThatLacksAText) {
+    const std::string_view file = "7\tSeven\t\twhere\n8\t\tHuit\n";
+    const struct {
+        Language language;
+        const char *seven, *eight;
+        std::int16_t missing;
+    } cases[] = {{Language::kEnglish, "Seven", "8", 8}, {Language::kFrench, "7", "Huit", 7}};
+    for (const auto& [language, seven, eight, lacking] : cases) {
+        std::vector<std::int16_t> missing;
+        Texts texts(
+            language, [&](std::int16_t number) { missing.push_back(number); }, file);
+        EXPECT_EQ(texts.Get(7), seven);
+        EXPECT_EQ(texts.Get(8), eight);
+        texts.Get(lacking);
+        EXPECT_THAT(missing, testing::ElementsAre(lacking)) << "told once";
+    }
+}
+
 // A place or an accelerator that a translation lacks is a report that prints wrong in that
 // language.
 TEST(Texts, HaveTheSamePlacesInBothLanguages) {
@@ -40,7 +58,7 @@ TEST(Texts, HaveTheSamePlacesInBothLanguages) {
 
 TEST(Texts, NameTheLineThatIsNotWellFormed) {
     for (const char* line : {"12\tOnly English", "x\tEnglish\tFrench", "0\tA\tB", "99999\tA\tB",
-                             "1\tTwice\tDeux fois"}) {
+                             "1\tTwice\tDeux fois", "1\t\t"}) {
         const std::string file = std::string("# texts\n1\tA\tB\twhere\n") + line + "\n";
         EXPECT_THAT(ErrorOf([&] { Texts(Language::kEnglish, {}, file); }),
                     testing::HasSubstr("Line 3"))
