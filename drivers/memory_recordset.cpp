@@ -8,9 +8,9 @@ namespace {
 
 Row MakeRow(const MemoryRecordset::Values& values, std::size_t columns, std::size_t number) {
     if (values.size() != columns)
-        Raise(error_number::kInvalidArgument, "Recordset",
-              "Row " + std::to_string(number) + " has " + std::to_string(values.size()) +
-                  " values for " + std::to_string(columns) + " columns");
+        throw Error(error_number::kInvalidArgument, "Recordset",
+                    "Row " + std::to_string(number) + " has " + std::to_string(values.size()) +
+                        " values for " + std::to_string(columns) + " columns");
     Row row;
     row.Start(columns);
     for (const auto& value : values) row.Add(value);
@@ -28,13 +28,15 @@ MemoryRecordset::MemoryRecordset(std::vector<std::string> column_names,
 }
 
 const Row& MemoryRecordset::Current() const {
-    if (AtEnd()) Raise(error_number::kNoCurrentRow, "Recordset", "There is no row: it is the end");
+    if (AtEnd())
+        throw Error(error_number::kNoCurrentRow, "Recordset", "There is no row: it is the end");
     return rows_[position_];
 }
 
 void MemoryRecordset::MoveNext() {
     if (AtEnd())
-        Raise(error_number::kNoCurrentRow, "Recordset", "There is no next row: it is the end");
+        throw Error(error_number::kNoCurrentRow, "Recordset",
+                    "There is no next row: it is the end");
     ++position_;
 }
 

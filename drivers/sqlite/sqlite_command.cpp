@@ -8,8 +8,8 @@ namespace varnel::drivers {
 
 void SqliteCommand::SetTimeout(int seconds) {
     if (seconds < 0)
-        Raise(error_number::kInvalidArgument, "Command",
-              "A time limit of " + std::to_string(seconds) + " seconds; 0 is no limit");
+        throw Error(error_number::kInvalidArgument, "Command",
+                    "A time limit of " + std::to_string(seconds) + " seconds; 0 is no limit");
     timeout_ = seconds;
 }
 

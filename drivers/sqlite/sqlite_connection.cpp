@@ -31,8 +31,9 @@ void CheckFile(const std::string& path) {
 
 void SqliteConnection::Close::operator()(sqlite3* handle) const { sqlite3_close_v2(handle); }
 
-SqliteConnection::SqliteConnection(std::string path, std::chrono::milliseconds busy_wait)
-    : path_(std::move(path)) {
+SqliteConnection::SqliteConnection(std::string path, std::chrono::milliseconds busy_wait,
+                                   std::function<bool()> cancelled)
+    : path_(std::move(path)), cancelled_(std::move(cancelled)) {
     CheckFile(path_);
     Open();
     Check(sqlite3_busy_timeout(Handle(), static_cast<int>(busy_wait.count())));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -13,10 +14,14 @@ class SqliteConnection {
   public:
     /// Opens the file at `path`, which must exist and be an SQLite database; raises error 3709
     /// otherwise. A read waits as long as `busy_wait` for another program that is writing.
-    SqliteConnection(std::string path, std::chrono::milliseconds busy_wait);
+    SqliteConnection(std::string path, std::chrono::milliseconds busy_wait,
+                     std::function<bool()> cancelled);
 
     sqlite3* Handle() const { return handle_.get(); }
     const std::string& Path() const { return path_; }
+    /// Whether queries can be cancelled, and whether they are.
+    bool CanBeCancelled() const { return cancelled_ != nullptr; }
+    bool Cancelled() const { return cancelled_ && cancelled_(); }
 
     /// A sentence for the error that the last call met.
     std::string LastError() const;
@@ -30,6 +35,7 @@ class SqliteConnection {
     void Check(int code) const;
 
     std::string path_;
+    std::function<bool()> cancelled_;
     std::string refusal_;  // Written by the authorizer.
     std::unique_ptr<sqlite3, Close> handle_;
 };

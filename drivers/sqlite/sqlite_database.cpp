@@ -11,12 +11,14 @@ constexpr std::size_t kMostOpen = 4;
 
 }  // namespace
 
-SqliteConnections::SqliteConnections(std::chrono::milliseconds busy_wait) : busy_wait_(busy_wait) {}
+SqliteConnections::SqliteConnections(std::chrono::milliseconds busy_wait,
+                                     std::function<bool()> cancelled)
+    : busy_wait_(busy_wait), cancelled_(std::move(cancelled)) {}
 
 std::shared_ptr<const SqliteConnection> SqliteConnections::At(const std::string& path) {
     for (const auto& connection : open_)
         if (connection->Path() == path) return connection;
-    auto connection = std::make_shared<const SqliteConnection>(path, busy_wait_);
+    auto connection = std::make_shared<const SqliteConnection>(path, busy_wait_, cancelled_);
     if (open_.size() == kMostOpen) open_.erase(open_.begin());
     open_.push_back(connection);
     return connection;

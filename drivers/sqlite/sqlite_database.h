@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,9 +19,12 @@ class SqliteConnection;
 /// with error 3709, and sum() over amounts is exact.
 class SqliteConnections {
   public:
-    /// A read waits that long for another program that is writing to the file.
+    /// A read waits as long as `busy_wait` for another program that is writing to the file.
+    /// `cancelled`, which may be empty, is asked often while a query is at work: when it says yes
+    /// the query ends with error 3709.
     explicit SqliteConnections(
-        std::chrono::milliseconds busy_wait = std::chrono::milliseconds(5'000));
+        std::chrono::milliseconds busy_wait = std::chrono::milliseconds(5'000),
+        std::function<bool()> cancelled = {});
 
     /// The connection to the database file at `path`, opened if it is not open. The last few stay
     /// open; a row set keeps its own alive whatever happens here. Raises error 3709 of source
@@ -29,6 +33,7 @@ class SqliteConnections {
 
   private:
     std::chrono::milliseconds busy_wait_;
+    std::function<bool()> cancelled_;
     std::vector<std::shared_ptr<const SqliteConnection>> open_;  // The newest last.
 };
 

@@ -45,7 +45,7 @@ void RaiseSqlite(const std::string& description) {
 }
 
 void RaiseSqlite(const std::string& description, std::string_view statement) {
-    RaiseSqlite(description + " Statement: " + std::string(statement));
+    RaiseSqlite(description + "\nStatement: " + std::string(statement));
 }
 
 std::string DescribeSqliteError(int code, std::string_view message, const std::string& path) {

@@ -8,7 +8,7 @@ namespace varnel::drivers {
 /// Raises error 3709 of source "SQLite".
 [[noreturn]] void RaiseSqlite(const std::string& description);
 
-/// The same for a statement, which ends the description.
+/// The same for a statement, which ends the description on a line of its own.
 [[noreturn]] void RaiseSqlite(const std::string& description, std::string_view statement);
 
 /// SQLite's message for a result code, made a sentence, with what to do about it where that is

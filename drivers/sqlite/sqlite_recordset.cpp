@@ -10,13 +10,15 @@ SqliteRecordset::SqliteRecordset(SqliteStatement statement)
 }
 
 const Row& SqliteRecordset::Current() const {
-    if (at_end_) Raise(error_number::kNoCurrentRow, "Recordset", "There is no row: it is the end");
+    if (at_end_)
+        throw Error(error_number::kNoCurrentRow, "Recordset", "There is no row: it is the end");
     return row_;
 }
 
 void SqliteRecordset::MoveNext() {
     if (at_end_)
-        Raise(error_number::kNoCurrentRow, "Recordset", "There is no next row: it is the end");
+        throw Error(error_number::kNoCurrentRow, "Recordset",
+                    "There is no next row: it is the end");
     Advance();
 }
 

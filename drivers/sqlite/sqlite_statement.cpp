@@ -18,24 +18,32 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kInstructionsBetweenLooks = 10'000;
 
-int HasPassed(void* deadline) { return Clock::now() >= *static_cast<Clock::time_point*>(deadline); }
-
-/// Interrupts what the connection does while this lives, once the time is up.
-class TimeLimit {
+/// Interrupts what a connection does while this lives, once it is cancelled or the time is up.
+class Watch {
   public:
-    TimeLimit(sqlite3* database, int seconds) : database_(seconds > 0 ? database : nullptr) {
-        if (database_ == nullptr) return;
-        deadline_ = Clock::now() + std::chrono::seconds(seconds);
-        sqlite3_progress_handler(database_, kInstructionsBetweenLooks, HasPassed, &deadline_);
+    Watch(const SqliteConnection& connection, int seconds)
+        : connection_(connection), has_deadline_(seconds > 0) {
+        if (!Watches()) return;
+        if (has_deadline_) deadline_ = Clock::now() + std::chrono::seconds(seconds);
+        sqlite3_progress_handler(connection_.Handle(), kInstructionsBetweenLooks, Ends, this);
     }
-    ~TimeLimit() {
-        if (database_ != nullptr) sqlite3_progress_handler(database_, 0, nullptr, nullptr);
+    ~Watch() {
+        if (Watches()) sqlite3_progress_handler(connection_.Handle(), 0, nullptr, nullptr);
     }
-    TimeLimit(const TimeLimit&) = delete;
-    TimeLimit& operator=(const TimeLimit&) = delete;
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
 
   private:
-    sqlite3* database_;
+    bool Watches() const { return has_deadline_ || connection_.CanBeCancelled(); }
+
+    static int Ends(void* watch) {
+        const auto& self = *static_cast<const Watch*>(watch);
+        if (self.connection_.Cancelled()) return 1;
+        return self.has_deadline_ && Clock::now() >= self.deadline_ ? 1 : 0;
+    }
+
+    const SqliteConnection& connection_;
+    bool has_deadline_;
     Clock::time_point deadline_;
 };
 
@@ -118,7 +126,7 @@ Columns SqliteStatement::ReadColumns() const {
 }
 
 bool SqliteStatement::Step() {
-    const TimeLimit limit(connection_->Handle(), timeout_);
+    const Watch watch(*connection_, timeout_);
     const int code = sqlite3_step(handle_.get());
     if (code == SQLITE_ROW) return true;
     if (code != SQLITE_DONE) FailStep(code);
@@ -126,6 +134,8 @@ bool SqliteStatement::Step() {
 }
 
 void SqliteStatement::FailStep(int code) const {
+    if (code == SQLITE_INTERRUPT && connection_->Cancelled())
+        RaiseSqlite("The query was cancelled.", text_);
     if (code == SQLITE_INTERRUPT)
         RaiseSqlite("The query was stopped after " +
                         Count(static_cast<std::size_t>(timeout_), "second") +

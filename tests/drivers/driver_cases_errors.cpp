@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <functional>
+
 #include "tests/drivers/driver_cases.h"
 
 namespace varnel::drivers {
@@ -14,7 +16,8 @@ void AFailureCarriesTheStatement(DriverFixture& database) {
     EXPECT_EQ(error.Number(), error_number::kDatabase);
     EXPECT_THAT(error.what(), HasSubstr("Absent"));
     EXPECT_THAT(error.what(), HasSubstr("company database?"));
-    EXPECT_TRUE(std::string(error.what()).ends_with(text)) << error.what();
+    EXPECT_TRUE(std::string(error.what()).ends_with("company database?\nStatement: " + text))
+        << error.what();
 }
 
 void AFailureAmongTheRowsCarriesTheStatement(DriverFixture& database) {
@@ -70,6 +73,25 @@ void ACommandNeedsAConnection(DriverFixture& database) {
     EXPECT_THROW(command->Execute(Command::kOptionsUnspecified), Error);
 }
 
+/// The line is that of the report's statement that asked, which the driver does not know.
+void AnErrorCarriesNoLine(DriverFixture& database) {
+    const auto no_rows = database.Query("SELECT 1 WHERE 1 = 0");
+    const std::function<void()> failures[] = {
+        [&] { database.Query("SELECT Missing"); },
+        [&] { no_rows->Current(); },
+        [&] { no_rows->MoveNext(); },
+        [&] { database.NewCommand()->SetTimeout(-1); },
+    };
+    for (const auto& fail : failures) {
+        try {
+            fail();
+            ADD_FAILURE() << "no error";
+        } catch (const Error& error) {
+            EXPECT_EQ(error.Line(), 0U) << error.what();
+        }
+    }
+}
+
 }  // namespace
 
 std::vector<DriverCase> ErrorCases() {
@@ -81,6 +103,7 @@ std::vector<DriverCase> ErrorCases() {
         {"a_query_may_not_write", AQueryMayNotWrite},
         {"a_time_limit_stops_a_query", ATimeLimitStopsAQuery},
         {"a_command_needs_a_connection", ACommandNeedsAConnection},
+        {"an_error_carries_no_line", AnErrorCarriesNoLine},
     };
 }
 

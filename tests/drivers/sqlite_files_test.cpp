@@ -75,6 +75,23 @@ TEST(SqliteFiles, AConnectionIsSharedAndOutlivesTheCache) {
     EXPECT_EQ(command->Execute(Command::kOptionsUnspecified)->Current().Integer({0}), 0);
 }
 
+TEST(SqliteConnections, CancelAQueryThatHasNoRowYet) {
+    TemporaryFolder folder;
+    RunScript(folder.File("a.db"), "");
+    int asked = 0;
+    SqliteConnections connections(std::chrono::seconds(5), [&] { return ++asked > 3; });
+    const auto command = NewSqliteCommand(connections);
+    command->SetActiveConnection(folder.File("a.db"));
+    command->SetText(CountTo(2'000'000'000) + "SELECT COUNT(*) FROM n");
+    try {
+        command->Execute(Command::kOptionsUnspecified);
+        FAIL() << "finished";
+    } catch (const Error& error) {
+        EXPECT_TRUE(std::string(error.what()).starts_with("The query was cancelled.\n"))
+            << error.what();
+    }
+}
+
 }  // namespace
 
 }  // namespace varnel::drivers
