@@ -6,6 +6,7 @@
 #include "company/scripted_dialogs.h"
 #include "company/services/setting_names.h"
 #include "company/sqlite_company_database.h"
+#include "host/error.h"
 
 namespace varnel::company {
 
@@ -30,6 +31,19 @@ Date SessionDateOf(const HostOptions& options, Settings& settings) {
     return set ? *set : Today();
 }
 
+/// Without it no report could show an amount.
+void RequireHomeCurrency(CurrencyInfo& info, const std::string& database_name) {
+    try {
+        info.GetCurrencies().Item(info.CieHomeCurrencyId());
+    } catch (const Error& error) {
+        throw Error(error_number::kDatabase, "Company",
+                    database_name + " has no home currency: set " +
+                        std::string(setting::kHomeCurrencyId) +
+                        " in CompanySetting to the InCurrencyId of a WorldCurrency (" +
+                        error.Description() + ")");
+    }
+}
+
 }  // namespace
 
 CompanyHost::CompanyHost(std::unique_ptr<CompanyDatabase> database, const HostOptions& options)
@@ -51,12 +65,15 @@ std::shared_ptr<CompanyFilterTool> CompanyHost::NewFilterTool() {
 std::shared_ptr<CompanyHost> OpenCompany(std::unique_ptr<CompanyDatabase> database,
                                          const std::string& name, const HostOptions& options) {
     RequireCompanyTables(*database, name);
-    return std::make_shared<CompanyHost>(std::move(database), options);
+    auto host = std::make_shared<CompanyHost>(std::move(database), options);
+    RequireHomeCurrency(host->CurrentCompany().GetCurrencyInfo(), name);
+    return host;
 }
 
 std::shared_ptr<CompanyHost> OpenCompany(const std::string& path, const HostOptions& options) {
-    return OpenCompany(std::make_unique<SqliteCompanyDatabase>(path, options.database_type), path,
-                       options);
+    return OpenCompany(
+        std::make_unique<SqliteCompanyDatabase>(path, options.database_type, options.cancelled),
+        path, options);
 }
 
 }  // namespace varnel::company

@@ -27,6 +27,9 @@ struct HostOptions {
     HostMessages::Sink message_sink{};
     /// Called once for each text number that has no text; null stays silent.
     Texts::MissingText missing_text{};
+    /// Asked often while a query is at work; when it says yes the query ends with an error. Null
+    /// lets every query end by itself.
+    std::function<bool()> cancelled{};
     /// Shows the reports' dialogs; null is a service that leaves every choice as it stands and
     /// clicks OK.
     std::shared_ptr<DialogService> dialogs{};
@@ -65,14 +68,14 @@ class CompanyHost final : public Application, public Context {
 };
 
 /// Opens the company database in the SQLite file at `path`. Raises an `Error` naming the file when
-/// it cannot be read or lacks a table or a column.
+/// it cannot be read or lacks a table, a column or its home currency.
 ///
 /// The host is not made the running one: a program that wants `RunningHost()` calls
 /// `SetRunningHost(host)`, and keeps the host alive.
 std::shared_ptr<CompanyHost> OpenCompany(const std::string& path, const HostOptions& options = {});
 
-/// The same over any database; `name` stands for it in messages. `options.database_type` makes no
-/// difference: the database knows.
+/// The same over any database; `name` stands for it in messages. `options.database_type` and
+/// `options.cancelled` make no difference: they are the database's own.
 std::shared_ptr<CompanyHost> OpenCompany(std::unique_ptr<CompanyDatabase> database,
                                          const std::string& name, const HostOptions& options = {});
 

@@ -42,8 +42,8 @@ constexpr std::array kRequiredTables{
 };
 
 [[noreturn]] void RaiseNotACompany(const std::string& database_name, const std::string& fault) {
-    Raise(error_number::kDatabase, "Company",
-          database_name + " is not a company database of this version: " + fault);
+    throw Error(error_number::kDatabase, "Company",
+                database_name + " is not a company database of this version: " + fault);
 }
 
 std::shared_ptr<Recordset> NoRowsOf(CompanyDatabase& database, const std::string& table,

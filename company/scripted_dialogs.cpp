@@ -16,8 +16,8 @@ std::string WithoutAccelerator(std::string caption) {
 }
 
 [[noreturn]] void RaiseAbout(const Form& form, const std::string& fault) {
-    Raise(error_number::kInvalidArgument, "Dialogs",
-          "The dialog \"" + WithoutAccelerator(form.Caption()) + "\" " + fault);
+    throw Error(error_number::kInvalidArgument, "Dialogs",
+                "The dialog \"" + WithoutAccelerator(form.Caption()) + "\" " + fault);
 }
 
 [[noreturn]] void RaiseNoBox(Form& form, const std::string& name) {

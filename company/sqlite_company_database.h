@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -12,9 +13,12 @@ namespace varnel::company {
 class SqliteCompanyDatabase final : public CompanyDatabase {
   public:
     /// Nothing is opened before the first query. `database_type` is what reports are told; 1, the
-    /// desktop engine, when it is not given.
-    explicit SqliteCompanyDatabase(std::string path, std::optional<int> database_type = {})
-        : path_(std::move(path)), database_type_(database_type.value_or(kDesktopEngine)) {}
+    /// desktop engine, when it is not given. A query ends when `cancelled` says yes.
+    explicit SqliteCompanyDatabase(std::string path, std::optional<int> database_type = {},
+                                   std::function<bool()> cancelled = {})
+        : path_(std::move(path)),
+          database_type_(database_type.value_or(kDesktopEngine)),
+          connections_(kBusyWait, std::move(cancelled)) {}
 
     std::string ConnectionString() override { return path_; }
     int DatabaseType() override { return database_type_; }
@@ -22,6 +26,7 @@ class SqliteCompanyDatabase final : public CompanyDatabase {
 
   private:
     static constexpr int kDesktopEngine = 1;
+    static constexpr std::chrono::seconds kBusyWait{5};
 
     std::string path_;
     int database_type_;

@@ -43,9 +43,9 @@ void Books::PickSegmentAndProject(Entry& entry) {
 
 void Books::Post(const Entry& entry) {
     if (!entry.Total().IsZero()) {
-        Raise(error_number::kOther, "demo company",
-              "the entry \"" + entry.description + "\" of " + entry.date.ToIso() +
-                  " is out of balance by " + entry.Total().ToText());
+        throw Error(error_number::kOther, "demo company",
+                    "the entry \"" + entry.description + "\" of " + entry.date.ToIso() +
+                        " is out of balance by " + entry.Total().ToText());
     }
     ++entries_;
     for (const Line& line : entry.lines) {

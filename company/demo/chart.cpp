@@ -17,8 +17,8 @@ AccountIndex Account(std::string_view number) {
         }
     }
     if (low == kChart.size() || number != kChart[low].number) {
-        Raise(error_number::kSubscriptOutOfRange, "demo company",
-              "no account " + std::string(number) + " in the chart");
+        throw Error(error_number::kSubscriptOutOfRange, "demo company",
+                    "no account " + std::string(number) + " in the chart");
     }
     return low;
 }

@@ -1,5 +1,7 @@
 #include "company/filter/filter_words.h"
 
+#include <algorithm>
+#include <array>
 #include <vector>
 
 #include "company/texts/captions.h"
@@ -41,14 +43,59 @@ std::size_t ReadColumn(const Tokens& tokens, std::size_t i, Language language,
     return caption.empty() || is_function ? 0 : length;
 }
 
+struct Phrase {
+    std::array<std::string_view, 3> sql;  // The last ones may be empty.
+    std::string_view english, french;
+};
+
+/// A longer phrase stands before its beginnings.
+constexpr Phrase kPhrases[] = {
+    {{"IS", "NOT", "NULL"}, "is not empty", "n'est pas vide"},
+    {{"IS", "NULL"}, "is empty", "est vide"},
+    {{"NOT", "IN"}, "not in", "pas dans"},
+    {{"NOT", "LIKE"}, "not like", "pas comme"},
+    {{"NOT", "BETWEEN"}, "not between", "pas entre"},
+    {{"AND"}, "and", "et"},
+    {{"OR"}, "or", "ou"},
+    {{"NOT"}, "not", "non"},
+    {{"IN"}, "in", "dans"},
+    {{"LIKE"}, "like", "comme"},
+    {{"BETWEEN"}, "between", "entre"},
+};
+
+/// How many tokens at `i` are the phrase; 0 when it does not stand there.
+std::size_t LengthOf(const Phrase& phrase, const Tokens& tokens, std::size_t i) {
+    std::size_t length = 0;
+    for (const auto word : phrase.sql) {
+        if (word.empty()) break;
+        const SqlToken& token = tokens[std::min(i + length, tokens.size() - 1)];
+        if (token.kind != SqlTokenKind::kWord || !SameName(token.text, word)) return 0;
+        ++length;
+    }
+    return length;
+}
+
+std::size_t ReadPhrase(const Tokens& tokens, std::size_t i, Language language,
+                       std::string_view& words) {
+    for (const auto& phrase : kPhrases) {
+        const std::size_t length = LengthOf(phrase, tokens, i);
+        if (length == 0) continue;
+        words = language == Language::kFrench ? phrase.french : phrase.english;
+        return length;
+    }
+    return 0;
+}
+
 std::string Words(const Tokens& tokens, std::size_t from, std::size_t to, Language language) {
     std::string words;
     while (from < to) {
         if (!words.empty()) words += tokens[from].blank;
+        std::string_view piece = tokens[from].text;
+        std::size_t length = ReadPhrase(tokens, from, language, piece);
         std::string_view caption;
-        const std::size_t length = ReadColumn(tokens, from, language, caption);
-        words += length == 0 ? tokens[from].text : caption;
-        from += length == 0 ? 1 : length;
+        if (length == 0) length = ReadColumn(tokens, from, language, caption);
+        words += caption.empty() ? piece : caption;
+        from += std::max(length, std::size_t{1});
     }
     return words;
 }

@@ -7,8 +7,9 @@
 
 namespace varnel::company {
 
-/// Criteria as a person reads them: columns become their captions, everything else stays as
-/// written. "GLDet.DetDate > '2025-01-01'" reads "Date > '2025-01-01'".
+/// Criteria as a person reads them: columns become their captions, AND, OR, NOT, IN, BETWEEN, LIKE
+/// and IS NULL words of the language, everything else stays as written.
+/// "DetDate > '2025-01-01' AND DetRef IS NULL" reads "Date > '2025-01-01' and Reference is empty".
 std::string DescribeCriteria(std::string_view criteria, Language language);
 
 /// An ordering as a person reads it: "GLAcct.GLAcctId, DetDate DESC" reads

@@ -16,9 +16,9 @@ constexpr std::u16string_view kNarrowNoBreakSpace = u"\u202F";
 constexpr std::u16string_view kNoBreakSpace = u"\u00A0";
 
 [[noreturn]] void RaiseUnknownLocale(std::string_view locale) {
-    Raise(error_number::kInvalidArgument, "Formats",
-          "There is no locale \"" + std::string(locale) +
-              "\"; name a language and a country, for example en-CA or fr-CA");
+    throw Error(error_number::kInvalidArgument, "Formats",
+                "There is no locale \"" + std::string(locale) +
+                    "\"; name a language and a country, for example en-CA or fr-CA");
 }
 
 std::string ToUtf8(std::u16string_view text) {

@@ -17,9 +17,9 @@ std::uint64_t Magnitude(std::int64_t value) {
 
 void RequireDecimals(int decimals, int most) {
     if (decimals < 0 || decimals > most)
-        Raise(error_number::kInvalidArgument, "Formats",
-              "A number is shown with 0 to " + std::to_string(most) + " decimals, not " +
-                  std::to_string(decimals));
+        throw Error(error_number::kInvalidArgument, "Formats",
+                    "A number is shown with 0 to " + std::to_string(most) + " decimals, not " +
+                        std::to_string(decimals));
 }
 
 }  // namespace

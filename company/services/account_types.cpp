@@ -23,9 +23,9 @@ const std::map<std::int32_t, CompanyAccountTypes::TypeInfo>& CompanyAccountTypes
 const CompanyAccountTypes::TypeInfo& CompanyAccountTypes::At(std::int32_t account_type) {
     const auto found = All().find(account_type);
     if (found == All().end())
-        Raise(error_number::kInvalidArgument, "AccountTypes",
-              "There is no account type " + std::to_string(account_type) +
-                  "; add it to AcctTypeInfo");
+        throw Error(error_number::kInvalidArgument, "AccountTypes",
+                    "There is no account type " + std::to_string(account_type) +
+                        "; add it to AcctTypeInfo");
     return found->second;
 }
 

@@ -23,8 +23,8 @@ const std::unordered_map<std::int32_t, CompanyAccounts::Account>& CompanyAccount
 std::int32_t CompanyAccounts::CurrencyOf(std::int32_t account_id) {
     const auto found = All().find(account_id);
     if (found == All().end())
-        Raise(error_number::kInvalidArgument, "Accounts",
-              "There is no account with the id " + std::to_string(account_id));
+        throw Error(error_number::kInvalidArgument, "Accounts",
+                    "There is no account with the id " + std::to_string(account_id));
     const std::int32_t own = found->second.currency_id;
     return own != 0 ? own : settings_.Id(setting::kHomeCurrencyId);
 }

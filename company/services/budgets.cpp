@@ -18,9 +18,9 @@ const CompanyBudgets::Periods& CompanyBudgets::All() {
         const std::int32_t account_id = row.Integer(Column{0});
         const Period period{row.Day(Column{1}), row.Day(Column{2}), row.Amount(Column{3})};
         if (period.to < period.from)
-            Raise(error_number::kInvalidArgument, "Budgets",
-                  "The budget of the account with the id " + std::to_string(account_id) + " from " +
-                      period.from.ToIso() + " ends before it begins");
+            throw Error(error_number::kInvalidArgument, "Budgets",
+                        "The budget of the account with the id " + std::to_string(account_id) +
+                            " from " + period.from.ToIso() + " ends before it begins");
         periods[account_id].push_back(period);
     }
     return periods_.emplace(std::move(periods));

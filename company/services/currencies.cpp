@@ -21,9 +21,9 @@ CurrencyRecord ReadRecord(const Row& row) {
     record.ar_account_id = row.Integer(Column{4});
     record.ap_account_id = row.Integer(Column{5});
     if (record.decimals < 0 || record.decimals > Currency::kDecimals)
-        Raise(error_number::kInvalidArgument, "Currencies",
-              "The currency " + record.code + " has " + std::to_string(record.decimals) +
-                  " decimals; 0 to 4 are possible");
+        throw Error(error_number::kInvalidArgument, "Currencies",
+                    "The currency " + record.code + " has " + std::to_string(record.decimals) +
+                        " decimals; 0 to 4 are possible");
     return record;
 }
 
@@ -45,8 +45,8 @@ const CurrencyRecord& CompanyCurrencies::Item(std::int32_t currency_id) {
     const auto& records = All();
     const auto place = places_.find(currency_id);
     if (place == places_.end())
-        Raise(error_number::kInvalidArgument, "Currencies",
-              "The company has no currency with the id " + std::to_string(currency_id));
+        throw Error(error_number::kInvalidArgument, "Currencies",
+                    "The company has no currency with the id " + std::to_string(currency_id));
     return records[place->second];
 }
 

@@ -14,9 +14,9 @@ std::int32_t CompanyCurrencyInfo::UnrealizedGainLossAcctId() {
 }
 
 void CompanyCurrencyInfo::RaiseNoRate(const std::string& codes, const std::string& date) {
-    Raise(error_number::kInvalidArgument, "CurrencyInfo",
-          "There is no exchange rate for " + codes + " on or before " + date +
-              "; enter one in the company's rate table");
+    throw Error(error_number::kInvalidArgument, "CurrencyInfo",
+                "There is no exchange rate for " + codes + " on or before " + date +
+                    "; enter one in the company's rate table");
 }
 
 void CompanyCurrencyInfo::RequireRates(const RateCollection& rates, const std::string& date) {

@@ -13,8 +13,8 @@ auto Converted(std::string_view name, const std::string& text, Convert convert) 
     try {
         return convert(Variant(text));
     } catch (const Error& error) {
-        Raise(error.Number(), "Settings",
-              "The company's setting " + std::string(name) + ": " + error.Description());
+        throw Error(error.Number(), "Settings",
+                    "The company's setting " + std::string(name) + ": " + error.Description());
     }
 }
 
@@ -55,8 +55,9 @@ std::optional<Date> Settings::FindDate(std::string_view name) {
 std::int32_t Settings::Id(std::string_view name) {
     const auto text = Find(name);
     if (!text)
-        Raise(error_number::kInvalidArgument, "Settings",
-              "The company has no setting " + std::string(name) + "; add it to CompanySetting");
+        throw Error(
+            error_number::kInvalidArgument, "Settings",
+            "The company has no setting " + std::string(name) + "; add it to CompanySetting");
     return Converted(name, *text, [](const Variant& value) { return value.ToInteger32(); });
 }
 

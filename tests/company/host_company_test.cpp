@@ -1,5 +1,7 @@
 // What the host over a database does beyond what every host does.
 
+#include <functional>
+
 #include "tests/company/host_small_company.h"
 
 namespace varnel::company {
@@ -35,6 +37,34 @@ TEST(OpenCompany, NamesASettingThatCannotBeRead) {
                 AllOf(HasSubstr("SessionDate"), HasSubstr("30/04/2025")));
     EXPECT_THAT(OpeningError("INSERT INTO CompanySetting VALUES ('Language', 'xx');"),
                 HasSubstr("\"xx\""));
+}
+
+TEST(OpenCompany, NeedsAHomeCurrencyThatThereIs) {
+    for (const char* script :
+         {"DELETE FROM CompanySetting WHERE SettingName = 'HomeCurrencyId';",
+          "UPDATE CompanySetting SET SettingValue = '3' WHERE SettingName = 'HomeCurrencyId';",
+          "UPDATE CompanySetting SET SettingValue = 'CAD' WHERE SettingName = 'HomeCurrencyId';",
+          "DELETE FROM WorldCurrency;"}) {
+        const CompanyFile file(std::string(kSmallCompany) + script);
+        EXPECT_THAT(ErrorOf([&] { OpenCompany(file.Path()); }),
+                    AllOf(HasSubstr("HomeCurrencyId"), HasSubstr(file.Path())))
+            << script;
+    }
+}
+
+TEST(OpenCompany, EndsItsQueriesWhenItIsCancelled) {
+    const CompanyFile file(kSmallCompany);
+    bool cancelled = false;
+    HostOptions options;
+    options.cancelled = [&] { return cancelled; };
+    const auto host = OpenCompany(file.Path(), options);
+    cancelled = true;
+    EXPECT_THAT(ErrorOf([&] {
+                    host->NewFilterTool()->ResolveAccounts(
+                        "(WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n)"
+                        " SELECT max(x) FROM n) > 0");
+                }),
+                HasSubstr("cancelled"));
 }
 
 TEST(OpenCompany, TakesOptionsBeforeSettings) {
@@ -92,12 +122,6 @@ TEST_F(SmallCompany, WritesTheRatesOfTheLegendInItsLanguage) {
     EXPECT_EQ(info.GetCurrencies().GetCurrenciesLegend(rates), "JPY 0,0095; USD 1,4000");
 }
 
-TEST_F(SmallCompany, NeedsAHomeCurrency) {
-    const auto host = Open("DELETE FROM CompanySetting WHERE SettingName = 'HomeCurrencyId';");
-    EXPECT_THAT(ErrorOf([&] { host->CurrentCompany().GetCurrencyInfo().CieHomeCurrencyId(); }),
-                HasSubstr("HomeCurrencyId"));
-}
-
 TEST_F(SmallCompany, HasNoControlAccountsWhenNothingHasThatRole) {
     const auto host = Open(
         "DELETE FROM GLAccountParam; UPDATE WorldCurrency SET "
@@ -143,6 +167,28 @@ TEST_F(SmallCompany, RefusesABudgetThatEndsBeforeItBegins) {
                     host->CurrentCompany().Budgets().GetAcctBudgetRange(50, kOpenStart, kOpenEnd);
                 }),
                 AllOf(HasSubstr("40"), HasSubstr("2025-05-31")));
+}
+
+// The line is that of the report's statement that asked, which the host does not know.
+TEST_F(SmallCompany, RaisesErrorsWithoutALine) {
+    const auto host = Open(
+        "UPDATE CompanySetting SET SettingValue = 'soon' "
+        "WHERE SettingName = 'ItemAdjustStartDate';");
+    auto& company = host->CurrentCompany();
+    const std::function<void()> failures[] = {
+        [&] { company.GetCurrencyInfo().GetCurrencies().Item(77); },
+        [&] { company.GetAccountTypes().Class(77); },
+        [&] { company.Accounts().CurrencyOf(99); },
+        [&] { company.ItemAdjustmentStart(); },
+    };
+    for (const auto& fail : failures) {
+        try {
+            fail();
+            ADD_FAILURE() << "no error";
+        } catch (const Error& error) {
+            EXPECT_EQ(error.Line(), 0U) << error.what();
+        }
+    }
 }
 
 TEST_F(SmallCompany, ListsItsReconciliations) {

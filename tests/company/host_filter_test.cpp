@@ -1,3 +1,4 @@
+#include "company/filter/filter_fault.h"
 #include "company/filter/filter_words.h"
 #include "tests/company/host_small_company.h"
 
@@ -9,16 +10,41 @@ TEST(FilterWords, PutCaptionsInPlaceOfColumns) {
         const char *criteria, *words;
     } cases[] = {
         {"", ""},
-        {"GLAcct.GLAcctId LIKE '4%'", "Account LIKE '4%'"},
+        {"GLAcct.GLAcctId LIKE '4%'", "Account like '4%'"},
         {"(GLDet.DetDate >= '2025-01-01' AND DetAmnt>100)",
-         "(Date >= '2025-01-01' AND Amount>100)"},
+         "(Date >= '2025-01-01' and Amount>100)"},
         {"ProjInfo.Descr = 'GLAcctId'", "Project description = 'GLAcctId'"},
-        {"\"ProjInfo\".\"ProjId\" IN ('P7')", "Project IN ('P7')"},
+        {"\"ProjInfo\".\"ProjId\" IN ('P7')", "Project in ('P7')"},
         {"Name(Other.Column) <> 0", "Name(Other.Column) <> 0"},
     };
     for (const auto& [criteria, words] : cases)
         EXPECT_EQ(DescribeCriteria(criteria, Language::kEnglish), words);
     EXPECT_EQ(DescribeCriteria("DetAmnt < 0", Language::kFrench), "Montant < 0");
+}
+
+TEST(FilterWords, SpeakTheLanguageOfTheCriteriasReader) {
+    const struct {
+        const char *criteria, *english, *french;
+    } cases[] = {
+        {"DetAmnt > 500 AND DetRef = 'AND' or not (DetAmnt < 0)",
+         "Amount > 500 and Reference = 'AND' or not (Amount < 0)",
+         "Montant > 500 et Référence = 'AND' ou non (Montant < 0)"},
+        {"SeqNo IN (1) AND SeqNo not  in (2)", "Entry in (1) and Entry not in (2)",
+         "Écriture dans (1) et Écriture pas dans (2)"},
+        {"SeqNo NOT BETWEEN 1 AND 2 OR SeqNo BETWEEN 3 AND 4",
+         "Entry not between 1 and 2 or Entry between 3 and 4",
+         "Écriture pas entre 1 et 2 ou Écriture entre 3 et 4"},
+        {"DetRef LIKE 'a%' OR DetRef NOT LIKE 'b%'",
+         "Reference like 'a%' or Reference not like 'b%'",
+         "Référence comme 'a%' ou Référence pas comme 'b%'"},
+        {"DetRef IS NULL OR DetRef IS NOT NULL", "Reference is empty or Reference is not empty",
+         "Référence est vide ou Référence n'est pas vide"},
+        {"\"AND\" = 1 OR DetRef IS", "\"AND\" = 1 or Reference IS", "\"AND\" = 1 ou Référence IS"},
+    };
+    for (const auto& [criteria, english, french] : cases) {
+        EXPECT_EQ(DescribeCriteria(criteria, Language::kEnglish), english);
+        EXPECT_EQ(DescribeCriteria(criteria, Language::kFrench), french);
+    }
 }
 
 TEST(FilterWords, PutAnOrderingInWords) {
@@ -28,6 +54,39 @@ TEST(FilterWords, PutAnOrderingInWords) {
     EXPECT_EQ(DescribeOrder("COALESCE(DetRef, ''), Source", Language::kEnglish),
               "COALESCE(Reference, ''), Source");
     EXPECT_EQ(DescribeOrder("", Language::kEnglish), "");
+}
+
+TEST(FilterFault, LetsWholeCriteriaAndOrderingsPass) {
+    for (const char* filter :
+         {"", "|", "DetAmnt > 500|DetDate DESC", "(a = 1 OR (b IN (2, 3)))|COALESCE(c, ')')",
+          "DetDesc = 'it''s; (what?) -- /* this' AND \"a)\" = [;?] AND `(` = x'00'",
+          "a - -1 / 2 * 3 > 1e-5"})
+        EXPECT_EQ(FindFilterFault(filter), "") << filter;
+}
+
+TEST(FilterFault, TellsWhatWouldLeaveTheFilterAndWhere) {
+    const struct {
+        const char *filter, *fault;
+    } cases[] = {
+        {"1=1) OR (1=1", "in the criteria, at character 4, the parenthesis closes none"},
+        {"a = 'é' AND (b IN (1)", "in the criteria, at character 13, the parenthesis is never"},
+        {"a = 1|b)", "in the ordering, at character 8, the parenthesis closes none"},
+        {"(a = 1|b)", "in the criteria, at character 1, the parenthesis is never"},
+        {"a = 1 -- b", "in the criteria, at character 7, a comment"},
+        {"a = 1 /* b", "in the criteria, at character 7, a comment"},
+        {"|a/**/, b", "in the ordering, at character 3, a comment"},
+        {"a = 1; DROP TABLE b", "in the criteria, at character 6, a semicolon"},
+        {"a = ?", "in the criteria, at character 5, a parameter"},
+        {"|:a", "in the ordering, at character 2, a parameter"},
+        {"a = 'b''", "in the criteria, at character 5, a quoted text or name"},
+        {"[a = 1", "in the criteria, at character 1, a quoted text or name"},
+        {"a = x'00", "in the criteria, at character 5, a quoted text or name"},
+        {"a|\"b", "in the ordering, at character 3, a quoted text or name"},
+        {"DetDesc = 'a|b'", "in the criteria, at character 11, a quoted text or name"},
+        {"a || b = 'c'", "there is more than one bar"},
+    };
+    for (const auto& [filter, fault] : cases)
+        EXPECT_THAT(FindFilterFault(filter), testing::StartsWith(fault)) << filter;
 }
 
 class FilterToolOfACompany : public testing::Test {
