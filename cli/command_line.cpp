@@ -64,6 +64,13 @@ void RefuseExtras(const CLI::App& app) {
     throw UsageError("unexpected argument: " + extras.front() + SeeHelp(app));
 }
 
+/// The one mismatch that options do not tell of themselves is that of no value: "--from: 1 …".
+std::string PlainWords(const CLI::ParseError& error) {
+    const std::string text = error.what();
+    if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::ArgumentMismatch)) return text;
+    return text.substr(0, text.find(':')) + ": the value is missing";
+}
+
 int Run(int argc, char** argv, Console& console) {
     CLI::App program("Financial reports over a company database", "varnel");
     const Actions actions = Describe(program);
@@ -74,7 +81,7 @@ int Run(int argc, char** argv, Console& console) {
         return kDone;
     } catch (const CLI::ParseError& error) {
         const auto parsed = program.get_subcommands();
-        throw UsageError(error.what() + SeeHelp(parsed.empty() ? program : *parsed.front()));
+        throw UsageError(PlainWords(error) + SeeHelp(parsed.empty() ? program : *parsed.front()));
     }
     const auto parsed = program.get_subcommands();
     RefuseExtras(program);

@@ -12,6 +12,7 @@ namespace {
 
 std::string_view WayOut(const std::error_code& code) {
     if (code == std::errc::no_space_on_device) return "; make room there or write elsewhere";
+    if (code == std::errc::file_too_large) return "; raise the limit on file sizes (ulimit -f)";
     if (code == std::errc::permission_denied || code == std::errc::read_only_file_system)
         return "; change the permissions of the file or folder, or write elsewhere";
     if (code == std::errc::broken_pipe) return "; the program that reads it has ended";

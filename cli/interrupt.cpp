@@ -38,6 +38,7 @@ void CatchSignals() {
         // A program started by nohup, or in the background of a script, keeps ignoring it.
         if (former.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
     }
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 int StopSignal() { return stop_signal; }

@@ -5,7 +5,8 @@
 namespace varnel::cli {
 
 /// From now on SIGINT, SIGTERM and SIGHUP ask the running work to stop. A second one ends the
-/// program at once, without its unfinished file.
+/// program at once, without its unfinished file. A write beyond the limit on file sizes fails
+/// instead of ending the program.
 void CatchSignals();
 
 /// The signal that asked to stop; 0 when none did.

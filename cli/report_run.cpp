@@ -9,6 +9,7 @@
 #include "cli/configure_report.h"
 #include "cli/errors.h"
 #include "cli/formats.h"
+#include "cli/interrupt.h"
 #include "cli/message_log.h"
 #include "cli/nearest_name.h"
 #include "cli/output_file.h"
@@ -52,9 +53,13 @@ void CheckFiles(const RunRequest& request, const OutputFormat& format) {
 std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
                                                const RunSettings& settings, MessageLog& log) {
     company::HostOptions options;
-    options.language = request.language;
+    options.language = settings.language;
     options.session_date = settings.session_date;
-    options.message_sink = [&log](const std::string& text) { log.Add(text); };
+    // After a signal queries end in errors that are no news.
+    options.message_sink = [&log](const std::string& text) {
+        if (StopSignal() == 0) log.Add(text);
+    };
+    options.cancelled = [] { return StopSignal() != 0; };
     options.missing_text = [&log](std::int16_t number) { log.AddMissingText(number); };
     auto host = company::OpenCompany(request.company, options);
     SetRunningHost(host);
@@ -83,12 +88,20 @@ OutputLayout LayoutOf(const RunRequest& request, const RunSettings& settings) {
 
 /// Tells of the messages that were shown, last of all.
 int Conclude(const MessageLog& log, bool written, Console& console) {
+    if (!written) ThrowIfInterrupted();
     if (log.Count() == 0) return kDone;
     std::string text = "the report showed " + GroupedCount(log.Count()) +
                        (log.Count() == 1 ? " message" : " messages");
     if (!written) text += " and read no row; nothing was written";
     console.Say(text);
     return kMessagesShown;
+}
+
+/// A statement that a filter spoils is long: what to look at in it is what the user wrote.
+void PointAtFilter(const std::string& filter, Console& console) {
+    if (filter.empty() || StopSignal() != 0) return;
+    console.Say("in --filter \"" + filter +
+                "\", look at the names of columns, the operators and the quotes");
 }
 
 }  // namespace
@@ -106,15 +119,19 @@ int RunReport(const RunRequest& request, Console& console) {
     const auto report = MakeReport(entry, entry.arguments(settings, *host));
     if (report == nullptr) return Conclude(log, false, console);
     ConfigureReport(*report, host, request, settings);
+    if (log.Count() > 0) return Conclude(log, false, console);
 
     OutputFile output(request.output.empty() ? "-" : request.output);
     RunMonitor monitor(console, host->Messages());
-    const auto info = InfoOf(*report, *host, request.language);
+    const auto info = InfoOf(*report, *host, settings.language);
     const auto result = format.write(*report->IReport_ReportDesigner(), info,
                                      LayoutOf(request, settings), output, monitor);
     if (result.cancelled) throw Interrupted();
     const bool written = !monitor.StartFailed(result);
-    if (written) output.Commit();
+    if (written)
+        output.Commit();
+    else
+        PointAtFilter(request.filter, console);
     return Conclude(log, written, console);
 }
 

@@ -1,10 +1,10 @@
 #include "cli/run_settings.h"
 
-#include <algorithm>
 #include <charconv>
 
 #include "cli/errors.h"
-#include "cli/nearest_name.h"
+#include "company/filter/filter_fault.h"
+#include "host/object.h"
 
 namespace varnel::cli {
 
@@ -43,35 +43,65 @@ std::vector<std::int32_t> ReadIds(std::string_view option, std::string_view list
     return ids;
 }
 
+struct MemberWithOption {
+    std::string_view member, option;
+};
+
+/// What the options set they check, too.
+constexpr MemberWithOption kMembersWithOption[] = {
+    {"IReport_Application", "--company"},
+    {"IReport_DateFrom", "--from"},
+    {"IReport_DateTo", "--to"},
+    {"IReport_DisplayForeignCurrency", "--foreign"},
+    {"IFilterableReport_Filter", "--filter"},
+    {"IFilterableReport_FilterTool", "--filter"},
+    {"ISegmentFilter_SegmentFilter", "--segments"},
+    {"ISegmentFilter_SegmentFilterDisplay", "--segments"},
+    {"ISegmentFilter_SegmentNoneFilter", "--no-segment"},
+};
+
 RunSettings::Property ReadProperty(const std::string& text) {
     const auto equals = text.find('=');
     if (equals == 0 || equals == std::string::npos)
         throw UsageError("--property: \"" + text + "\" is no property; write Name=value");
-    return {text.substr(0, equals), text.substr(equals + 1)};
+    const std::string name = text.substr(0, equals);
+    for (const auto& [member, option] : kMembersWithOption)
+        if (SameName(member, name))
+            throw UsageError("--property " + name + ": use " + std::string(option) + " instead");
+    return {name, text.substr(equals + 1)};
 }
 
-/// Refuses a value that is none of the names.
-void RequireChoice(std::string_view thing, std::string_view value,
-                   std::span<const std::string_view> names) {
-    if (std::ranges::find(names, value) != names.end()) return;
+/// The name, in its own case, that the value stands for in any case.
+std::string_view ReadChoice(std::string_view thing, std::string_view value,
+                            std::span<const std::string_view> names) {
     std::string list;
-    for (const auto name : names) list += (list.empty() ? "" : " or ") + std::string(name);
+    for (const auto name : names) {
+        if (SameName(name, value)) return name;
+        list += (list.empty() ? "" : " or ") + std::string(name);
+    }
     throw UsageError("there is no " + std::string(thing) + " " + std::string(value) + ": use " +
                      list);
 }
 
 engine::PageSetup ReadPage(const std::string& paper, bool landscape) {
     static constexpr std::string_view kPapers[] = {"letter", "a4"};
-    if (!paper.empty()) RequireChoice("paper", paper, kPapers);
-    const auto page = paper == "a4" ? engine::PageSetup::A4() : engine::PageSetup::Letter();
+    const bool a4 = !paper.empty() && ReadChoice("paper", paper, kPapers) == "a4";
+    const auto page = a4 ? engine::PageSetup::A4() : engine::PageSetup::Letter();
     return landscape ? page.Landscape() : page;
+}
+
+/// Reports splice a filter into their statements as it stands, so it must be whole by itself.
+void CheckFilter(const std::string& filter) {
+    const auto fault = company::FindFilterFault(filter);
+    if (!fault.empty()) throw UsageError("--filter \"" + filter + "\": " + fault);
 }
 
 }  // namespace
 
-void CheckLanguage(std::string_view language) {
+std::string ReadLanguage(std::string_view language) {
     static constexpr std::string_view kLanguages[] = {"en-CA", "fr-CA"};
-    if (!language.empty()) RequireChoice("language", language, kLanguages);
+    if (language.empty()) return {};
+    return std::string(ReadChoice("language", language, kLanguages));
 }
 
 RunSettings ReadSettings(const RunRequest& request) {
@@ -86,7 +116,8 @@ RunSettings ReadSettings(const RunRequest& request) {
         settings.session_date = ReadDate("--session-date", request.session_date, Date());
     for (const auto& property : request.properties)
         settings.properties.push_back(ReadProperty(property));
-    CheckLanguage(request.language);
+    CheckFilter(request.filter);
+    settings.language = ReadLanguage(request.language);
     settings.page = ReadPage(request.paper, request.landscape);
     return settings;
 }

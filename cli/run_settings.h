@@ -24,13 +24,15 @@ struct RunSettings {
     std::vector<std::int32_t> segments;
     std::optional<Date> session_date;
     std::vector<Property> properties;
+    std::string language;
     engine::PageSetup page;
 };
 
 /// A UsageError that names the option for each value that is not well formed.
 RunSettings ReadSettings(const RunRequest& request);
 
-/// The languages that --lang takes. A UsageError for another one; empty is the company's.
-void CheckLanguage(std::string_view language);
+/// A language of --lang, in any case, as a locale. A UsageError for another one; empty is the
+/// company's and stays empty.
+std::string ReadLanguage(std::string_view language);
 
 }  // namespace varnel::cli

@@ -15,8 +15,4 @@ constexpr Command kCommands[] = {
 
 std::span<const Command> Commands() { return kCommands; }
 
-std::string RefuseEmpty(const std::string& value) {
-    return value.empty() ? "the value is empty" : std::string();
-}
-
 }  // namespace varnel::cli

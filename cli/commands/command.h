@@ -30,7 +30,4 @@ Command::Action DescribeReports(CLI::App& app);
 Command::Action DescribeRun(CLI::App& app);
 Command::Action DescribeCompletion(CLI::App& app);
 
-/// For options whose value must not be empty: the fault, or nothing.
-std::string RefuseEmpty(const std::string& value);
-
 }  // namespace varnel::cli

@@ -1,9 +1,10 @@
 #include <CLI/CLI.hpp>
+#include <charconv>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 
-#include "cli/commands/command.h"
+#include "cli/commands/arguments.h"
 #include "cli/errors.h"
 #include "cli/interrupt.h"
 #include "company/demo/demo_company.h"
@@ -46,15 +47,25 @@ int MakeDemo(const DemoRequest& request, Console& console) {
     return kDone;
 }
 
+template <class Integer>
+void AddNumber(CLI::App& app, const Argument& argument, Integer& target) {
+    AddValue(app, argument, [&target](const std::string& value) {
+        const auto* end = value.data() + value.size();
+        const auto read = std::from_chars(value.data(), end, target);
+        const bool whole = read.ec == std::errc{} && read.ptr == end;
+        return whole ? std::string() : value + " is no number; write it in digits, as 12000";
+    });
+}
+
 }  // namespace
 
 Command::Action DescribeDemo(CLI::App& app) {
     auto request = std::make_shared<DemoRequest>();
     app.add_option("FILE", request->file, "The database file to make")->type_name("");
-    app.add_option("--lines", request->options.lines, "Ledger lines, about")->type_name("N");
-    app.add_option("--seed", request->options.seed, "Another number makes another company")
-        ->type_name("N");
-    app.add_flag("--force", request->options.overwrite, "Replace a file that is there");
+    auto& options = request->options;
+    AddNumber(app, {"--lines", "N", "Ledger lines, about"}, options.lines);
+    AddNumber(app, {"--seed", "N", "Another number makes another company"}, options.seed);
+    AddFlag(app, {"--force", "", "Replace a file that is there"}, options.overwrite);
     return [request](Console& console) { return MakeDemo(*request, console); };
 }
 

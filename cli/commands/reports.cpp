@@ -2,7 +2,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "cli/commands/command.h"
+#include "cli/commands/arguments.h"
 #include "cli/errors.h"
 #include "cli/report_table.h"
 #include "cli/run_options.h"
@@ -23,8 +23,8 @@ std::string OptionList(IReport& report) {
     return list;
 }
 
-int ListReports(const std::string& language, Console& console) {
-    CheckLanguage(language);
+int ListReports(const std::string& asked_language, Console& console) {
+    const std::string language = ReadLanguage(asked_language);
     company::Texts texts(company::LanguageOf(language), [&](std::int16_t number) {
         console.Say("there is no text " + std::to_string(number) + " in this language");
     });
@@ -41,7 +41,7 @@ int ListReports(const std::string& language, Console& console) {
 
 Command::Action DescribeReports(CLI::App& app) {
     auto language = std::make_shared<std::string>("en-CA");
-    app.add_option("--lang", *language, "Language of the titles")->type_name("en-CA|fr-CA");
+    AddText(app, {"--lang", "en-CA|fr-CA", "Language of the titles"}, *language);
     return [language](Console& console) { return ListReports(*language, console); };
 }
 

@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
-#include "cli/commands/command.h"
+#include "cli/commands/arguments.h"
 #include "cli/report_run.h"
 #include "cli/run_options.h"
 
@@ -21,18 +21,18 @@ constexpr const char* kFooter =
     "  varnel run general-journal --company shop.db -O csv -o - | head";
 
 void AddOption(CLI::App& app, const RunOption& option, RunRequest& request) {
-    const std::string names(option.names);
-    const std::string help(option.help);
-    const std::string value(option.value);
+    const Argument argument{std::string(option.names), std::string(option.value),
+                            std::string(option.help)};
     if (const auto* flag = std::get_if<bool RunRequest::*>(&option.target)) {
-        app.add_flag(names, request.**flag, help);
+        AddFlag(app, argument, request.**flag);
     } else if (const auto* text = std::get_if<std::string RunRequest::*>(&option.target)) {
-        app.add_option(names, request.**text, help)
-            ->type_name(value)
-            ->check(CLI::Validator(RefuseEmpty, ""));
+        AddText(app, argument, request.**text);
     } else {
         auto& list = request.*std::get<std::vector<std::string> RunRequest::*>(option.target);
-        app.add_option(names, list, help)->type_name(value)->expected(1)->take_all();
+        app.add_option(argument.names, list, argument.help)
+            ->type_name(argument.value)
+            ->expected(1)
+            ->take_all();
     }
 }
 

@@ -15,7 +15,7 @@ REFUSED = [
     (["run", "general-journal", "--compny", "x"], "no option --compny; did you mean --company?"),
     ([*JOURNAL, "--frm=2025-01-01"], "no option --frm; did you mean --from?"),
     ([*JOURNAL, "more"], "unexpected argument: more"),
-    ([*JOURNAL, "--from"], "--from: 1 required DATE missing"),
+    ([*JOURNAL, "--from"], "--from: the value is missing"),
     ([*JOURNAL, "--from", ""], "--from: the value is empty"),
     ([*JOURNAL, "--from", "2025-02-29"], "--from: 2025-02-29 is no date"),
     ([*JOURNAL, "--to", "31/03/2025"], "--to: 31/03/2025 is no date"),
@@ -28,7 +28,18 @@ REFUSED = [
     ([*JOURNAL, "--segments", "1,99"], "there is no segment 99; there are:\n  1  RET - "),
     ([*JOURNAL, "--property", "Colour=red"],
      '--property Colour: dsrGeneralJournal has no member "Colour"'),
-    ([*JOURNAL, "--property", "IReport_DateFrom=soon"], "--property IReport_DateFrom: "),
+    ([*JOURNAL, "--property", "IReport_DateFrom=2025-01-01"],
+     "--property IReport_DateFrom: use --from instead"),
+    ([*JOURNAL, "--property", "ireport_dateto=2025-01-01"], "use --to instead"),
+    ([*JOURNAL, "--property", "IReport_Application=1"], "use --company instead"),
+    ([*JOURNAL, "--property", "IReport_DisplayForeignCurrency=1"], "use --foreign instead"),
+    ([*JOURNAL, "--property", "IFilterableReport_Filter=1=0"], "use --filter instead"),
+    ([*JOURNAL, "--property", "ISegmentFilter_SegmentFilter=1"], "use --segments instead"),
+    ([*JOURNAL, "--property", "ISegmentFilter_SegmentNoneFilter=1"], "use --no-segment instead"),
+    ([*JOURNAL, "--filter", "1=1) OR (1=1"], '--filter "1=1) OR (1=1": in the criteria, at character 4, '),
+    ([*JOURNAL, "--filter", "1 = 1); DELETE FROM GLDet; --"], "at character 6, the parenthesis"),
+    ([*JOURNAL, "--filter", "1=1|DetDate; --"], "in the ordering, at character 12, a semicolon"),
+    ([*JOURNAL, "--filter", "DetRef = '"], "a quoted text or name begins and never ends"),
     ([*JOURNAL, "--property", "Colour"], '"Colour" is no property; write Name=value'),
     ([*JOURNAL, "--lang", "de"], "there is no language de: use en-CA or fr-CA"),
     ([*JOURNAL, "--paper", "a5"], "there is no paper a5: use letter or a4"),
@@ -37,9 +48,23 @@ REFUSED = [
     ([*JOURNAL, "-O", "csv", "-o", "./shop.db"], "./shop.db is the company itself"),
     (["demo"], "say where the demo company goes"),
     (["demo", "new.db", "--lines", "10"], "from 1,000 to 100,000,000 ledger lines"),
-    (["demo", "new.db", "--lines", "many"], "--lines = many"),
+    (["demo", "new.db", "--lines", "many"], "--lines: many is no number; write it in digits"),
     (["completion", "zsh"], "there is no shell zsh"),
     (["reports", "--lang", "de"], "there is no language de"),
+]
+
+
+# What is wrong with an option is told in words, and with the help of its command.
+HINTED = [
+    ([*JOURNAL, "--from", ""], "--from: the value is empty", "run"),
+    ([*JOURNAL, "--company", "x"], "--company: it is given more than once", "run"),
+    ([*JOURNAL, "--lang"], "--lang: the value is missing", "run"),
+    ([*JOURNAL, "--foreign=maybe"], "--foreign: it takes no value; leave out =maybe", "run"),
+    (["demo", "new.db", "--lines", "abc"], "--lines: abc is no number", "demo"),
+    (["demo", "new.db", "--seed", "-1"], "--seed: -1 is no number", "demo"),
+    (["demo", "new.db", "--lines", "1000", "--lines", "2000"], "--lines: it is given more", "demo"),
+    (["demo", "new.db", "--force=x"], "--force: it takes no value; leave out =x", "demo"),
+    (["reports", "--lang", ""], "--lang: the value is empty", "reports"),
 ]
 
 
@@ -48,6 +73,13 @@ class Arguments(VarnelTest):
         for arguments, message in REFUSED:
             with self.subTest(arguments=arguments):
                 self.assert_refused(USAGE, message, *arguments)
+
+    def test_a_malformed_option_is_told_in_words_with_the_help_of_its_command(self):
+        for arguments, message, command in HINTED:
+            with self.subTest(arguments=arguments):
+                self.assert_refused(USAGE, message, *arguments)
+                self.assertEqual(f'  "varnel {command} --help" tells what there is',
+                                 self.run_varnel(*arguments)[2].splitlines()[-1])
 
     def test_every_command_has_help(self):
         for command in ([], ["demo"], ["reports"], ["run"], ["completion"]):

@@ -34,6 +34,10 @@ class Companies(VarnelTest):
         self.damage("no_remarks.db", "ALTER TABLE GLDet RENAME COLUMN Remarks TO Notes")
         self.refuse_company("no_remarks.db", "table GLDet has no column Remarks")
 
+    def test_a_company_without_home_currency_is_refused(self):
+        self.damage("homeless.db", "DELETE FROM CompanySetting WHERE SettingName = 'HomeCurrencyId'")
+        self.refuse_company("homeless.db", "homeless.db has no home currency: set HomeCurrencyId")
+
     def test_demo_replaces_a_file_only_by_force(self):
         (self.folder / "mine.db").write_text("mine")
         self.assert_refused(FAILED, "mine.db exists already", "demo", "mine.db")

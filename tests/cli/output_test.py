@@ -1,6 +1,7 @@
 import csv
 import json
 import os
+import resource
 import sqlite3
 import threading
 import unittest
@@ -57,12 +58,12 @@ class Output(VarnelTest):
         self.assertEqual(120, max(len(line) for line in text.splitlines()))
 
     def test_paper_and_its_turn_reach_the_pdf(self):
-        for arguments, box in ((["--paper", "a4"], b"595.3 841.9"), ([], b"612 792"),
+        for arguments, box in ((["--paper", "A4"], b"595.3 841.9"), ([], b"612 792"),
                                (["--landscape"], b"792 612")):
             self.assertIn(box, self.write("-O", "pdf", *arguments))
 
     def test_segments_and_language_reach_the_page(self):
-        text = self.write("--segments", "1", "--no-segment", "--lang", "fr-CA").decode()
+        text = self.write("--segments", "1", "--no-segment", "--lang", "FR-ca").decode()
         self.assertIn("Journal général", text)
         self.assertIn("RET - Boutique, rue des Érables, sans segment", text)
 
@@ -100,6 +101,16 @@ class Output(VarnelTest):
             self.assertEqual(FAILED, code)
             self.assertIn("cannot write standard output: No space left", errors)
             self.assertEqual(FAILED, self.run_varnel("reports", stdout=full)[0])
+
+    def test_a_limit_on_file_sizes_is_told_and_leaves_nothing(self):
+        def limit():
+            resource.setrlimit(resource.RLIMIT_FSIZE, (4096, 4096))
+
+        before = set(self.folder.iterdir())
+        code, _, errors = self.run_varnel(*JANUARY, "-o", "big.pdf", preexec_fn=limit)
+        self.assertEqual(FAILED, code)
+        self.assertIn("File too large; raise the limit on file sizes", errors)
+        self.assertEqual(before, set(self.folder.iterdir()))
 
     def test_a_place_that_cannot_be_written_is_told(self):
         self.assert_refused(FAILED, "there is no folder nowhere", *JANUARY, "-o", "nowhere/a.csv")
