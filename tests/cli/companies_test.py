@@ -35,7 +35,8 @@ class Companies(VarnelTest):
         self.refuse_company("no_remarks.db", "table GLDet has no column Remarks")
 
     def test_a_company_without_home_currency_is_refused(self):
-        self.damage("homeless.db", "DELETE FROM CompanySetting WHERE SettingName = 'HomeCurrencyId'")
+        self.damage("homeless.db",
+                    "DELETE FROM CompanySetting WHERE SettingName = 'HomeCurrencyId'")
         self.refuse_company("homeless.db", "homeless.db has no home currency: set HomeCurrencyId")
 
     def test_demo_replaces_a_file_only_by_force(self):
