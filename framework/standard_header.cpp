@@ -49,7 +49,7 @@ std::vector<ControlLayout> PageHeaderControls(std::vector<ControlLayout> column_
          .stretch = Stretch::kShift},
         {.name = kFilterSubReport,
          .kind = ControlKind::kSubReport,
-         .box = {0, kBlockHeight, 10'800, 0},
+         .box = {0, kBlockHeight + 50, 10'800, 0},
          .stretch = Stretch::kWiden},
     };
     controls.insert(controls.end(), column_controls.begin(), column_controls.end());
