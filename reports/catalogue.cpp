@@ -1,5 +1,7 @@
 #include "framework/catalogue.h"
 
+#include "accounts/cgl_acct.h"
+#include "accounts/cgl_accts.h"
 #include "reports/journal/general_journal.h"
 
 namespace varnel::framework {
@@ -9,6 +11,11 @@ namespace {
 template <class Report>
 std::shared_ptr<IReport> Make() {
     return std::make_shared<Report>();
+}
+
+template <class Class>
+ObjectRef MakeObject() {
+    return std::make_shared<Class>();
 }
 
 constexpr CatalogueEntry kReports[] = {
@@ -30,8 +37,8 @@ constexpr CatalogueEntry kReports[] = {
 };
 
 constexpr PublicClass kClasses[] = {
-    {"Varnel.CGLAcct", nullptr},
-    {"Varnel.CGLAccts", nullptr},
+    {"Varnel.CGLAcct", MakeObject<CGLAcct>},
+    {"Varnel.CGLAccts", MakeObject<CGLAccts>},
     {"Varnel.CGLAcctHelper", nullptr},
 };
 

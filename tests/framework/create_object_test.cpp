@@ -24,8 +24,8 @@ TEST(CreateObjectTest, SaysWhatItCannotCreateAndWhatThereIs) {
     EXPECT_EQ(DescriptionOf([] { CreateObject("Varnel.Nothing"); }),
               "There is no class \"Varnel.Nothing\"; the public classes are Varnel.clsReport, "
               "Varnel.CGLAcct, Varnel.CGLAccts and Varnel.CGLAcctHelper");
-    EXPECT_EQ(DescriptionOf([] { CreateObject("varnel.cglaccts"); }),
-              "The class Varnel.CGLAccts is not part of this version");
+    EXPECT_EQ(DescriptionOf([] { CreateObject("varnel.cglaccthelper"); }),
+              "The class Varnel.CGLAcctHelper is not part of this version");
 }
 
 TEST(CreateObjectTest, TheEntryPointForForeignCodeReturnsNumberAndMessageInsteadOfRaising) {

@@ -55,7 +55,7 @@ std::span<framework::CatalogueEntry> RecordedCatalogue() {
 std::span<framework::PublicClass> RecordedClasses() {
     static framework::PublicClass classes[] = {
         {"Varnel.CGLAcct", [] { return ObjectRef(std::make_shared<MadeAccount>()); }},
-        {"Varnel.CGLAccts", nullptr}};
+        {"Varnel.CGLAcctHelper", nullptr}};
     return classes;
 }
 
