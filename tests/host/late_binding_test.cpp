@@ -16,30 +16,33 @@ using test::ErrorOf;
 class Counter : public Object {
   public:
     std::string_view ObjectName() const override { return "Counter"; }
-    Variant Get(std::string_view name) override {
-        return GetMember<Counter>(kMembers, *this, name);
-    }
-    void Put(std::string_view name, const Variant& value) override {
-        PutMember<Counter>(kMembers, *this, name, value);
-    }
-    Variant Call(std::string_view name, std::span<const Variant> arguments) override {
-        return CallMember<Counter>(kMembers, *this, name, arguments);
-    }
+    Variant Get(std::string_view name) override;
+    void Put(std::string_view name, const Variant& value) override;
+    Variant Call(std::string_view name, std::span<const Variant> arguments) override;
 
-  private:
-    std::int32_t count_ = 0;
-
-    static constexpr Member<Counter> kMembers[] = {
-        {"Count", [](Counter& c) -> Variant { return c.count_; },
-         [](Counter& c, const Variant& v) { c.count_ = v.ToInteger32(); }},
-        {"IsZero", [](Counter& c) -> Variant { return c.count_ == 0; }},
-        {"Add", nullptr, nullptr,
-         [](Counter& c, std::span<const Variant> arguments) -> Variant {
-             for (const auto& argument : arguments) c.count_ += argument.ToInteger32();
-             return c.count_;
-         }},
-    };
+    std::int32_t count = 0;
 };
+
+constexpr Member<Counter> kMembers[] = {
+    {"Count", [](Counter& c) -> Variant { return c.count; },
+     [](Counter& c, const Variant& v) { c.count = v.ToInteger32(); }},
+    {"IsZero", [](Counter& c) -> Variant { return c.count == 0; }},
+    {"Add", nullptr, nullptr,
+     [](Counter& c, std::span<const Variant> arguments) -> Variant {
+         for (const auto& argument : arguments) c.count += argument.ToInteger32();
+         return c.count;
+     }},
+};
+
+Variant Counter::Get(std::string_view name) { return GetMember<Counter>(kMembers, *this, name); }
+
+void Counter::Put(std::string_view name, const Variant& value) {
+    PutMember<Counter>(kMembers, *this, name, value);
+}
+
+Variant Counter::Call(std::string_view name, std::span<const Variant> arguments) {
+    return CallMember<Counter>(kMembers, *this, name, arguments);
+}
 
 TEST(LateBindingTest, MembersAreReachedByNameWhateverTheCase) {
     Counter counter;

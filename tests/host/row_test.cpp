@@ -57,13 +57,14 @@ void PrintTo(const ReadingCase& reading, std::ostream* out) { *out << reading.na
 class RowReadingTest : public testing::TestWithParam<ReadingCase> {};
 
 TEST_P(RowReadingTest, IsWhatTheReaderAsksForOrAnError) {
-    const auto& [name, row, integer, amount, rate, day, text, plain] = GetParam();
-    EXPECT_EQ(Outcome([&] { return std::to_string(row.Integer(At(0))); }), integer);
-    EXPECT_EQ(Outcome([&] { return row.Amount(At(0)).ToText(0); }), amount);
-    EXPECT_EQ(Outcome([&] { return row.ExchangeRate(At(0)).ToText(0); }), rate);
-    EXPECT_EQ(Outcome([&] { return row.Day(At(0)).ToIso(); }), day);
-    EXPECT_EQ(Outcome([&] { return std::string(row.Text(At(0))); }), text);
-    EXPECT_EQ(Plain(row), plain);
+    const ReadingCase& expected = GetParam();
+    const Row& row = expected.row;
+    EXPECT_EQ(Outcome([&] { return std::to_string(row.Integer(At(0))); }), expected.integer);
+    EXPECT_EQ(Outcome([&] { return row.Amount(At(0)).ToText(0); }), expected.amount);
+    EXPECT_EQ(Outcome([&] { return row.ExchangeRate(At(0)).ToText(0); }), expected.rate);
+    EXPECT_EQ(Outcome([&] { return row.Day(At(0)).ToIso(); }), expected.day);
+    EXPECT_EQ(Outcome([&] { return std::string(row.Text(At(0))); }), expected.text);
+    EXPECT_EQ(Plain(row), expected.plain);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -47,12 +47,14 @@ std::string Outcome(Read&& read) {
 class VariantConversionTest : public testing::TestWithParam<ConversionCase> {};
 
 TEST_P(VariantConversionTest, GivesTheValueOrAnErrorNeverAGuess) {
-    const auto& [name, value, truth, integer, amount, date, text] = GetParam();
-    EXPECT_EQ(Outcome([&] { return std::string(value.ToBool() ? "True" : "False"); }), truth);
-    EXPECT_EQ(Outcome([&] { return std::to_string(value.ToInteger32()); }), integer);
-    EXPECT_EQ(Outcome([&] { return value.ToCurrency().ToText(0); }), amount);
-    EXPECT_EQ(Outcome([&] { return value.ToDate().ToIso(); }), date);
-    EXPECT_EQ(Outcome([&] { return value.ToText(); }), text);
+    const ConversionCase& expected = GetParam();
+    const Variant& value = expected.value;
+    EXPECT_EQ(Outcome([&] { return std::string(value.ToBool() ? "True" : "False"); }),
+              expected.truth);
+    EXPECT_EQ(Outcome([&] { return std::to_string(value.ToInteger32()); }), expected.integer);
+    EXPECT_EQ(Outcome([&] { return value.ToCurrency().ToText(0); }), expected.amount);
+    EXPECT_EQ(Outcome([&] { return value.ToDate().ToIso(); }), expected.date);
+    EXPECT_EQ(Outcome([&] { return value.ToText(); }), expected.text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
