@@ -66,7 +66,7 @@ void RefuseExtras(const CLI::App& app) {
 
 /// The one mismatch that options do not tell of themselves is that of no value: "--from: 1 …".
 std::string PlainWords(const CLI::ParseError& error) {
-    const std::string text = error.what();
+    std::string text = error.what();
     if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::ArgumentMismatch)) return text;
     return text.substr(0, text.find(':')) + ": the value is missing";
 }

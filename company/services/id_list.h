@@ -12,6 +12,6 @@ inline void AppendId(std::int32_t id, std::string& list) {
 }
 
 /// "-1", an id that nothing has, for an empty list, so that IN ( ) stays valid.
-inline std::string ListOrNone(std::string list) { return list.empty() ? "-1" : list; }
+inline std::string ListOrNone(const std::string& list) { return list.empty() ? "-1" : list; }
 
 }  // namespace varnel::company

@@ -46,7 +46,7 @@ std::filesystem::path FolderFromEnvironment() {
 }
 
 std::filesystem::path RequireFile(const FontFile& font, const std::filesystem::path& folder) {
-    const auto path = (folder.empty() ? std::filesystem::path(font.folder) : folder) / font.name;
+    auto path = (folder.empty() ? std::filesystem::path(font.folder) : folder) / font.name;
     std::error_code error;
     if (std::filesystem::is_regular_file(path, error)) return path;
     throw std::runtime_error("font file " + path.string() + " is missing: install the package " +
