@@ -117,7 +117,9 @@ Twips BandComposer::BreakLines(const Control& control, Lines& lines) {
 
 Twips BandComposer::RunSubReport(const Control& control, ItemList& content) {
     content.Clear();
-    auto report = control.SubReport();  // A handler may take it away while it runs.
+    // Held, as a handler may take it away while it runs.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const auto report = control.SubReport();
     if (!control.Visible() || report == nullptr) return 0;
     if (inner_ == nullptr) inner_ = std::make_unique<BandComposer>(measurer_, control_, depth_ + 1);
     BandStack stack(*inner_, control.Place().width, inner_band_, content);

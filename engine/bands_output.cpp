@@ -19,7 +19,9 @@ void BandsOutput::Pass(const Part& part) {
 void BandsOutput::RunSubReports(const Section& section) {
     for (const auto& control : section.Controls()) {
         if (control.Design().kind != ControlKind::kSubReport || !control.Visible()) continue;
-        auto report = control.SubReport();  // A handler may take it away while it runs.
+        // Held, as a handler may take it away while it runs.
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+        const auto report = control.SubReport();
         if (report == nullptr) continue;
         BandsOutput inner(info_, sink_, control_, depth_ + 1);
         RunReport(*report, inner, control_, depth_ + 1);
