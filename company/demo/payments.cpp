@@ -105,6 +105,18 @@ std::vector<OpenItem> TakePayables(Books& books, Date date, int& currency) {
     return {};
 }
 
+/// Money that comes in, at the day's rate, without what it settles yet.
+Payment FromCustomer(const Books& books, const char* source, int type, int currency, Date date) {
+    return {.entry = {.date = date, .source = source},
+            .type = type,
+            .direction = 1,
+            .currency = currency,
+            .rate = books.rates.ForDocument(currency, date),
+            .control = ReceivableAccount(currency),
+            .discount_account = "4210",
+            .settled = {}};
+}
+
 }  // namespace
 
 bool MakeCustomerPayment(Books& books, Date date) {
@@ -112,14 +124,7 @@ bool MakeCustomerPayment(Books& books, Date date) {
     const auto most = static_cast<std::size_t>(books.random.Between(1, 2));
     const auto taken = TakeReceivables(books, date, most, currency);
     if (taken.empty()) return false;
-    Payment payment{.entry = {.date = date, .source = "PMT"},
-                    .type = 1,
-                    .direction = 1,
-                    .currency = currency,
-                    .rate = books.rates.ForDocument(currency, date),
-                    .control = ReceivableAccount(currency),
-                    .discount_account = "4210",
-                    .settled = {}};
+    Payment payment = FromCustomer(books, "PMT", 1, currency, date);
     payment.entry.description = std::string("Payment received – ") + taken.front().name;
     if (books.random.Chance(750)) {
         payment.entry.reference = std::to_string(books.random.Between(100, 9'999));
@@ -140,14 +145,7 @@ bool MakeDeposit(Books& books, Date date) {
     for (std::int64_t more = books.random.Between(1, 3); more > 0; --more) {
         for (const OpenItem& item : items.TakeDue(date, 1, kNoLimit)) taken.push_back(item);
     }
-    Payment payment{.entry = {.date = date, .source = "DEP"},
-                    .type = 3,
-                    .direction = 1,
-                    .currency = currency,
-                    .rate = books.rates.ForDocument(currency, date),
-                    .control = ReceivableAccount(currency),
-                    .discount_account = "4210",
-                    .settled = {}};
+    Payment payment = FromCustomer(books, "DEP", 3, currency, date);
     payment.entry.description =
         "Deposit of " + std::to_string(taken.size()) + (taken.size() == 1 ? " cheque" : " cheques");
     payment.entry.reference = "D" + date.ToIso();
