@@ -1,0 +1,128 @@
+#include "framework/gl_config.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/dialogs/captions.h"
+#include "tests/support/error_of.h"
+#include "tests/support/memory_host.h"
+
+namespace varnel::framework {
+namespace {
+
+using test::CaptionsOf;
+using test::MemoryHost;
+using testing::ElementsAre;
+using testing::MatchesRegex;
+
+const CheckBox& Comments(frmGLConfig& form) { return *form.CheckBoxes()[1]; }
+const Button& Ok(frmGLConfig& form) { return *form.Buttons()[0]; }
+
+TEST(GLConfig, ItsTwoOptionsAreIndependentAndThereIsNoOther) {
+    frmGLConfig form;
+    form.Properties(2, true);
+    form.Properties(3, true);
+    EXPECT_FALSE(form.Properties(1));
+    EXPECT_TRUE(form.Properties(2));
+    EXPECT_FALSE(form.Properties(3));
+    EXPECT_FALSE(form.Properties(0));
+    form.Properties(2, false);
+    EXPECT_FALSE(form.Properties(2));
+}
+
+TEST(GLConfig, LateBoundOnlyTrueChecksABox) {
+    frmGLConfig form;
+    const auto checked_by = [&](const Variant& value) {
+        form.Call("Properties", std::vector<Variant>{1, value});
+        return form.Call("properties", std::vector<Variant>{1}).ToInteger16();
+    };
+    EXPECT_EQ(checked_by(true), -1);
+    EXPECT_EQ(checked_by(1), 0);
+    EXPECT_EQ(checked_by(-1), -1);
+    EXPECT_EQ(checked_by(false), 0);
+    EXPECT_EQ(test::DescriptionOf([&] { form.Call("Properties", {}); }),
+              "Properties needs 1 arguments or more");
+    EXPECT_EQ(test::ErrorOf([&] { form.Get("Colour"); }), error_number::kUnknownMember);
+}
+
+TEST(GLConfig, WithoutOption2TheFormIsShorterByItsBoxAnd120AndOkMovesUp) {
+    frmGLConfig form;
+    EXPECT_FALSE(Comments(form).visible);
+    const Twips short_height = form.InnerHeight();
+    EXPECT_EQ(Ok(form).box.Bottom(), short_height - 60);
+
+    form.ShowProperty(2, true);
+    EXPECT_TRUE(Comments(form).visible);
+    EXPECT_EQ(form.InnerHeight(), short_height + Comments(form).box.height + 120);
+    EXPECT_EQ(Ok(form).box.Bottom(), form.InnerHeight() - 60);
+    EXPECT_GT(Ok(form).box.top, Comments(form).box.Bottom());
+
+    form.ShowProperty(2, false);
+    EXPECT_EQ(form.InnerHeight(), short_height);
+    EXPECT_GT(Ok(form).box.top, form.CheckBoxes()[0]->box.Bottom());
+}
+
+TEST(GLConfig, Option1AloneDoesNotChangeTheHeight) {
+    frmGLConfig form;
+    const Twips height = form.InnerHeight();
+    form.ShowProperty(1, false);
+    EXPECT_FALSE(form.CheckBoxes()[0]->visible);
+    EXPECT_EQ(form.InnerHeight(), height);
+}
+
+TEST(GLConfig, CaptionsAreFrenchUntilTheHostTranslatesThem) {
+    frmGLConfig form;
+    EXPECT_THAT(
+        CaptionsOf(form),
+        ElementsAre("Filtre avancé", "Afficher les comptes dont le solde est à zero",
+                    "Afficher les commentaires provenant du détail du journal général", "OK"));
+    auto host = std::make_shared<MemoryHost>();
+    const auto prepare = [&](company::Language language) {
+        test::TranslateInto(language, *host, {1449, 5885, 9581, 1323});
+        form.Call("PrepareInvConfigDialog", std::vector<Variant>{ObjectRef(host), 1});
+        return CaptionsOf(form);
+    };
+    EXPECT_THAT(prepare(company::Language::kEnglish),
+                ElementsAre("Advanced filter", "Show accounts with a &zero balance",
+                            "Show &comments from the journal detail", "&OK"));
+    EXPECT_THAT(
+        prepare(company::Language::kFrench),
+        ElementsAre("Filtre avancé", "Afficher les comptes dont le solde est à &zéro",
+                    "Afficher les &commentaires provenant du détail du journal général", "&OK"));
+}
+
+TEST(GLConfig, OkAndTheCloseBoxBothKeepTheChoice) {
+    MemoryHost host;
+    for (const bool ok : {true, false}) {
+        host.use_dialog = [&](Form& form) {
+            EXPECT_TRUE(form.Shown());
+            auto& box = *form.CheckBoxes()[0];
+            box.checked = !box.checked;
+            ok ? form.Click(*form.Buttons()[0]) : form.CloseBox();
+            EXPECT_FALSE(form.Shown());
+        };
+        EXPECT_TRUE(AskIncludeZeroBalance(host, false));
+        EXPECT_FALSE(AskIncludeZeroBalance(host, true));
+    }
+}
+
+TEST(GLConfig, ConfirmingWithoutAChangeGivesTheValueThatWasSet) {
+    MemoryHost host;
+    host.use_dialog = [](Form& form) { form.Click(*form.Buttons()[0]); };
+    for (const bool current : {true, false})
+        EXPECT_EQ(AskIncludeZeroBalance(host, current), current);
+}
+
+TEST(GLConfig, AFailureIsShownWithObjectAndProcedureAndTheDialogGoesOn) {
+    auto host = std::make_shared<MemoryHost>();
+    host->calls.FailAt(1);
+    frmGLConfig form;
+    form.PrepareInvConfigDialog(host, 1);
+    EXPECT_THAT(host->message_boxes,
+                ElementsAre(MatchesRegex("Host call 1, GetText, failed\r\nin "
+                                         "Varnel.frmGLConfig.TranslateForm at line [1-9][0-9]*")));
+    EXPECT_TRUE(form.Shown());
+}
+
+}  // namespace
+}  // namespace varnel::framework
