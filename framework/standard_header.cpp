@@ -7,7 +7,7 @@ namespace varnel::framework {
 
 namespace {
 
-constexpr Twips kBlockHeight = 900;
+constexpr Twips kFilterGap = 50;
 constexpr Twips kRightLeft = 7'800;
 constexpr Twips kRightWidth = 3'000;
 constexpr std::int16_t kPageText = 30044;
@@ -18,7 +18,7 @@ std::vector<ControlLayout> PageHeaderControls(std::vector<ControlLayout> column_
     std::vector<ControlLayout> controls = {
         {.name = kHeaderBlock,
          .kind = ControlKind::kBlock,
-         .box = {0, 0, 10'800, kBlockHeight},
+         .box = {0, 0, 10'800, kHeaderBlockHeight},
          .stretch = Stretch::kWiden},
         {.name = "hdrCompany",
          .kind = ControlKind::kLabel,
@@ -49,11 +49,17 @@ std::vector<ControlLayout> PageHeaderControls(std::vector<ControlLayout> column_
          .stretch = Stretch::kShift},
         {.name = kFilterSubReport,
          .kind = ControlKind::kSubReport,
-         .box = {0, kBlockHeight + 50, 10'800, 0},
+         .box = {0, kHeaderBlockHeight + kFilterGap, 10'800, 0},
          .stretch = Stretch::kWiden},
     };
     controls.insert(controls.end(), column_controls.begin(), column_controls.end());
     return controls;
+}
+
+void SetHeaderBlockHeight(Surface& surface, Twips height) {
+    Control& block = surface.At(kHeaderBlock);
+    block.SetHeight(height);
+    surface.At(kFilterSubReport).SetTop(block.Place().Bottom() + kFilterGap);
 }
 
 void FillStandardHeader(Surface& surface, Application& application, const std::string& title) {

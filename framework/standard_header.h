@@ -23,6 +23,13 @@ inline constexpr std::string_view kPeriodLabel = "lblDateFromDateTo";
 inline constexpr std::string_view kFilterSubReport = "dsrFilterAndSortByInfoSubreport";
 inline constexpr std::string_view kCaptionRule = "linCaptions";
 
+/// Height of the block in the design.
+inline constexpr Twips kHeaderBlockHeight = 900;
+
+/// Makes the block higher, for a report with a line of its own in it, and moves the filter-and-sort
+/// sub-report under it.
+void SetHeaderBlockHeight(Surface& surface, Twips height);
+
 /// Puts in company, title, run date and the page-number text.
 void FillStandardHeader(Surface& surface, Application& application, const std::string& title);
 

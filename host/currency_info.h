@@ -62,7 +62,8 @@ class CurrencyInfo {
     virtual void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
                                         std::span<const std::string> filter);
     /// One foreign amount in home currency: at the rate of `rates` when it revalues, else at the
-    /// line's booked rate.
+    /// line's booked rate. Rounded once, to the cent, so that it agrees with rows that a report
+    /// revalues by itself.
     virtual Currency EvaluateValueWithExchangeRate(Rate booked_rate, std::int32_t currency_id,
                                                    Currency foreign_amount, IExchangeRates& rates);
     virtual Currencies& GetCurrencies();

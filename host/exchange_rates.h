@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -10,27 +11,33 @@
 
 namespace varnel {
 
-/// Exchange rates by currency. The key is the decimal text of the currency's internal id.
+/// Exchange rates by currency. The key is the decimal text of the currency's internal id; a row
+/// loop asks by the id itself.
 class RateCollection : public Object {
   public:
     std::string_view ObjectName() const override { return "ExchangeRates"; }
     /// Error 5 naming the key when there is no such rate: a missing rate is never 0.
     Rate Item(std::string_view key) const;
-    bool Has(std::string_view key) const { return rates_.find(key) != rates_.end(); }
-    void Set(std::string key, Rate rate) { rates_[std::move(key)] = rate; }
+    Rate Item(std::int32_t currency_id) const;
+    bool Has(std::string_view key) const;
+    bool Has(std::int32_t currency_id) const { return rates_.contains(currency_id); }
+    /// Replaces the rate that the key has. Error 5 for a key that is not the decimal text of an id.
+    void Set(std::string_view key, Rate rate);
+    void Set(std::int32_t currency_id, Rate rate) { rates_[currency_id] = rate; }
 
   private:
-    std::map<std::string, Rate, std::less<>> rates_;
+    std::map<std::int32_t, Rate> rates_;
 };
 
 /// What a report that can revalue foreign balances offers.
 class IExchangeRates {
   public:
     virtual ~IExchangeRates() = default;
-    virtual std::shared_ptr<RateCollection> IExchangeRates_ExchangeRates() = 0;
+    /// Null when the host has given none.
+    virtual const std::shared_ptr<RateCollection>& IExchangeRates_ExchangeRates() = 0;
     virtual void IExchangeRates_ExchangeRates(std::shared_ptr<RateCollection> rates) = 0;
     /// The date of the rates as text, for display.
-    virtual std::string IExchangeRates_ExchangeRatesDate() = 0;
+    virtual const std::string& IExchangeRates_ExchangeRatesDate() = 0;
     virtual void IExchangeRates_ExchangeRatesDate(const std::string& date) = 0;
     virtual bool IExchangeRates_Reevaluate() = 0;
     virtual void IExchangeRates_Reevaluate(bool reevaluate) = 0;

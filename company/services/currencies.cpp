@@ -65,12 +65,11 @@ bool CompanyCurrencies::ForeignUsed() {
 
 std::string CompanyCurrencies::GetCurrenciesLegend(IExchangeRates& rates) {
     std::string legend;
-    const auto collection = rates.IExchangeRates_ExchangeRates();
+    const auto& collection = rates.IExchangeRates_ExchangeRates();
     if (!collection) return legend;
     for (const auto& record : All()) {
-        const std::string key = std::to_string(record.id);
-        if (record.id == HomeId() || !collection->Has(key)) continue;
-        std::string rate = collection->Item(key).ToText();
+        if (record.id == HomeId() || !collection->Has(record.id)) continue;
+        std::string rate = collection->Item(record.id).ToText();
         rate.replace(rate.find('.'), 1, decimal_mark_);
         legend += (legend.empty() ? "" : "; ") + record.code + " " + rate;
     }

@@ -9,6 +9,12 @@
 
 namespace varnel::company {
 
+namespace {
+
+constexpr int kCents = 2;
+
+}  // namespace
+
 std::int32_t CompanyCurrencyInfo::UnrealizedGainLossAcctId() {
     return params_.Find(account_param::kUnrealizedGainLoss, kCompanySection);
 }
@@ -22,7 +28,7 @@ void CompanyCurrencyInfo::RaiseNoRate(const std::string& codes, const std::strin
 void CompanyCurrencyInfo::RequireRates(const RateCollection& rates, const std::string& date) {
     std::string missing;
     for (const auto& record : currencies_.All())
-        if (record.id != currencies_.HomeId() && !rates.Has(std::to_string(record.id)))
+        if (record.id != currencies_.HomeId() && !rates.Has(record.id))
             missing += (missing.empty() ? "" : ", ") + record.code;
     if (!missing.empty()) RaiseNoRate(missing, date);
 }
@@ -37,8 +43,7 @@ void CompanyCurrencyInfo::ConfigureExchangeRates(IExchangeRates& target, Date da
     Date newest = kOpenStart;
     if (foreign_used) {
         for (const auto& [currency_id, rate_date, rate] : RatesAt(database_, date)) {
-            std::string key = std::to_string(currency_id);
-            if (!rates->Has(key)) rates->Set(std::move(key), rate);
+            if (!rates->Has(currency_id)) rates->Set(currency_id, rate);
             newest = std::max(newest, rate_date);
         }
     }
@@ -56,12 +61,11 @@ Currency CompanyCurrencyInfo::EvaluateValueWithExchangeRate(Rate booked_rate,
                                                             IExchangeRates& rates) {
     if (currency_id == currencies_.HomeId() || !currencies_.ForeignUsed()) return foreign_amount;
     if (!rates.IExchangeRates_Reevaluate())
-        return Multiply(foreign_amount, booked_rate, Currency::kDecimals);
-    const auto collection = rates.IExchangeRates_ExchangeRates();
-    const std::string key = std::to_string(currency_id);
-    if (!collection || !collection->Has(key))
+        return RoundProduct(foreign_amount, booked_rate, kCents);
+    const auto& collection = rates.IExchangeRates_ExchangeRates();
+    if (!collection || !collection->Has(currency_id))
         RaiseNoRate(currencies_.Item(currency_id).code, rates.IExchangeRates_ExchangeRatesDate());
-    return Multiply(foreign_amount, collection->Item(key), Currency::kDecimals);
+    return RoundProduct(foreign_amount, collection->Item(currency_id), kCents);
 }
 
 void CompanyCurrencyInfo::FormatWorldCurrency(Currency amount, std::int32_t currency_id,

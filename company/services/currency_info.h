@@ -26,7 +26,7 @@ class CompanyCurrencyInfo final : public CurrencyInfo {
     /// there is was set. `filter` makes no difference here.
     void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
                                 std::span<const std::string> filter) override;
-    /// Rounded to four decimals. The amount itself in home currency and in a company of one
+    /// Rounded once, to the cent. The amount itself in home currency and in a company of one
     /// currency. Error 5 naming currency and date when `rates` revalues and has no rate.
     Currency EvaluateValueWithExchangeRate(Rate booked_rate, std::int32_t currency_id,
                                            Currency foreign_amount, IExchangeRates& rates) override;

@@ -127,7 +127,7 @@ TEST_P(EveryHost, EvaluatesAtTheRateOfTheDayOnlyWhenRevaluing) {
     EXPECT_EQ(Evaluated(2, "-10.01", rates), "-14.5400") << "-14.5400255";
     EXPECT_EQ(Evaluated(1, "-10.01", rates), "-10.0100") << "home currency";
     rates.reevaluate = false;
-    EXPECT_EQ(Evaluated(2, "-10.01", rates), "-13.0130") << "the booked rate";
+    EXPECT_EQ(Evaluated(2, "-10.01", rates), "-13.0100") << "the booked rate, to the cent";
 }
 
 TEST_P(EveryHost, ListsControlAccountsOnce) {

@@ -52,9 +52,9 @@ inline std::string NameOf(const testing::TestParamInfo<HostKind>& kind) { return
 class Rates final : public IExchangeRates {
   public:
     using Collection = std::shared_ptr<RateCollection>;
-    Collection IExchangeRates_ExchangeRates() override { return rates; }
+    const Collection& IExchangeRates_ExchangeRates() override { return rates; }
     void IExchangeRates_ExchangeRates(Collection value) override { rates = std::move(value); }
-    std::string IExchangeRates_ExchangeRatesDate() override { return date; }
+    const std::string& IExchangeRates_ExchangeRatesDate() override { return date; }
     void IExchangeRates_ExchangeRatesDate(const std::string& value) override { date = value; }
     bool IExchangeRates_Reevaluate() override { return reevaluate; }
     void IExchangeRates_Reevaluate(bool value) override { reevaluate = value; }

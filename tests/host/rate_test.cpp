@@ -75,6 +75,18 @@ TEST(RateTest, AMissingExchangeRateIsAnErrorNeverZero) {
     std::string description;
     EXPECT_EQ(ErrorOf([&] { rates.Item("3"); }, &description), error_number::kInvalidArgument);
     EXPECT_EQ(description, "There is no exchange rate for currency 3");
+    EXPECT_EQ(rates.Item(2), Rate::Parse("1.35"));
+    EXPECT_EQ(ErrorOf([&] { rates.Item(3); }), error_number::kInvalidArgument);
+}
+
+TEST(RateTest, TheKeyOfAnExchangeRateIsTheDecimalTextOfAnId) {
+    RateCollection rates;
+    rates.Set("12", Rate::Parse("1.35"));
+    for (const char* key : {"012", " 12", "12 ", "+12", "USD", ""}) {
+        EXPECT_FALSE(rates.Has(key)) << key;
+        EXPECT_EQ(ErrorOf([&] { rates.Item(key); }), error_number::kInvalidArgument) << key;
+        EXPECT_EQ(ErrorOf([&] { rates.Set(key, Rate()); }), error_number::kInvalidArgument) << key;
+    }
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ void MemoryCurrencyInfo::ConfigureExchangeRates(IExchangeRates& target, Date dat
         const auto& noted = rate_table[record.id];
         const auto after = noted.upper_bound(date);
         if (after != noted.begin())
-            rates->Set(std::to_string(record.id), std::prev(after)->second);
+            rates->Set(record.id, std::prev(after)->second);
         else if (record.id != home_id)
             missing = record.code;
     }
@@ -54,12 +54,11 @@ Currency MemoryCurrencyInfo::EvaluateValueWithExchangeRate(Rate booked_rate,
                                                            IExchangeRates& rates) {
     calls_.Note("EvaluateValueWithExchangeRate");
     if (currency_id == home_id || records.size() == 1) return foreign_amount;
-    if (!rates.IExchangeRates_Reevaluate()) return Multiply(foreign_amount, booked_rate, 4);
-    const auto collection = rates.IExchangeRates_ExchangeRates();
-    const std::string key = std::to_string(currency_id);
-    if (!collection || !collection->Has(key))
+    if (!rates.IExchangeRates_Reevaluate()) return Multiply(foreign_amount, booked_rate, 2);
+    const auto& collection = rates.IExchangeRates_ExchangeRates();
+    if (!collection || !collection->Has(currency_id))
         RaiseNoRate(At(currency_id).code, rates.IExchangeRates_ExchangeRatesDate());
-    return Multiply(foreign_amount, collection->Item(key), 4);
+    return Multiply(foreign_amount, collection->Item(currency_id), 2);
 }
 
 void MemoryCurrencyInfo::FormatWorldCurrency(Currency amount, std::int32_t currency_id,
@@ -91,11 +90,11 @@ const CurrencyRecord& MemoryCurrencyInfo::Item(std::int32_t currency_id) {
 std::string MemoryCurrencyInfo::GetCurrenciesLegend(IExchangeRates& rates) {
     calls_.Note("GetCurrenciesLegend");
     std::string legend;
-    const auto collection = rates.IExchangeRates_ExchangeRates();
+    const auto& collection = rates.IExchangeRates_ExchangeRates();
     for (const auto& record : records) {
-        const std::string key = std::to_string(record.id);
-        if (record.id == home_id || !collection || !collection->Has(key)) continue;
-        legend += (legend.empty() ? "" : "; ") + record.code + " " + collection->Item(key).ToText();
+        if (record.id == home_id || !collection || !collection->Has(record.id)) continue;
+        legend +=
+            (legend.empty() ? "" : "; ") + record.code + " " + collection->Item(record.id).ToText();
     }
     return legend;
 }

@@ -1,0 +1,48 @@
+#include "framework/exchange_rates_note.h"
+
+#include "framework/standard_header.h"
+#include "framework/styles.h"
+#include "framework/texts.h"
+
+namespace varnel::framework {
+
+namespace {
+
+constexpr std::int16_t kRatesText = 5914;
+constexpr std::string_view kPlace = "{0}";
+constexpr Twips kNoteHeight = 220;
+
+ControlLayout Note() {
+    return {.name = kExchangeRatesNote,
+            .kind = ControlKind::kLabel,
+            .box = {0, kHeaderBlockHeight, 10'800, kNoteHeight},
+            .style = kQuiet,
+            .can_grow = true,
+            .stretch = Stretch::kWiden};
+}
+
+}  // namespace
+
+std::vector<ControlLayout> PageHeaderControlsWithRates(std::vector<ControlLayout> column_controls) {
+    column_controls.insert(column_controls.begin(), Note());
+    return PageHeaderControls(std::move(column_controls));
+}
+
+std::string ExchangeRatesText(Application& application, std::string_view what) {
+    std::string text = PlainText(application, kRatesText);
+    const auto place = text.find(kPlace);
+    return place == std::string::npos ? text : text.replace(place, kPlace.size(), what);
+}
+
+void ShowExchangeRatesNote(Application& application, Surface& surface, IExchangeRates& rates) {
+    Control& note = surface.At(kExchangeRatesNote);
+    auto& info = application.CurrentContext().CurrentCompany().GetCurrencyInfo();
+    const bool shown = info.CieIsForeignCurrencyUsed();
+    SetHeaderBlockHeight(surface, kHeaderBlockHeight + (shown ? kNoteHeight : 0));
+    note.SetVisible(shown);
+    note.SetText(
+        shown ? ExchangeRatesText(application, info.GetCurrencies().GetCurrenciesLegend(rates))
+              : std::string());
+}
+
+}  // namespace varnel::framework
