@@ -6,7 +6,9 @@
 #include <filesystem>
 #include <memory>
 
+#include "cli/configure_options.h"
 #include "cli/configure_report.h"
+#include "cli/dialogs/terminal_ability.h"
 #include "cli/errors.h"
 #include "cli/formats.h"
 #include "cli/interrupt.h"
@@ -50,17 +52,27 @@ void CheckFiles(const RunRequest& request, const OutputFormat& format) {
         throw UsageError("-o: " + request.output + " is the company itself; choose another file");
 }
 
+void CheckTerminal(const RunRequest& request) {
+    if (request.configure && !TerminalShowsDialogs())
+        throw UsageError(
+            "--configure needs a terminal to show the dialog on; "
+            "without one set its check boxes by --option NAME=YES|NO");
+}
+
 std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
-                                               const RunSettings& settings, MessageLog& log) {
+                                               const RunSettings& settings, MessageLog& log,
+                                               std::shared_ptr<DialogService> dialogs) {
     company::HostOptions options;
     options.language = settings.language;
     options.session_date = settings.session_date;
+    options.rates = settings.rates;
     // After a signal queries end in errors that are no news.
     options.message_sink = [&log](const std::string& text) {
         if (StopSignal() == 0) log.Add(text);
     };
     options.cancelled = [] { return StopSignal() != 0; };
     options.missing_text = [&log](std::int16_t number) { log.AddMissingText(number); };
+    options.dialogs = std::move(dialogs);
     auto host = company::OpenCompany(request.company, options);
     SetRunningHost(host);
     return host;
@@ -112,13 +124,17 @@ int RunReport(const RunRequest& request, Console& console) {
     const OutputFormat& format = ChooseFormat(request);
     RefuseOtherOptions(entry, request);
     CheckFiles(request, format);
+    CheckTerminal(request);
     if (IsShownOnTerminal(request)) console.SwitchProgressOff();
 
     MessageLog log(console);
-    const auto host = OpenHost(request, settings, log);
+    const auto dialogs = std::make_shared<RunDialogs>();
+    const auto host = OpenHost(request, settings, log, dialogs);
     const auto report = MakeReport(entry, entry.arguments(settings, *host));
     if (report == nullptr) return Conclude(log, false, console);
     ConfigureReport(*report, host, request, settings);
+    if (log.Count() == 0) ConfigureOptions(*report, *dialogs, settings, request.configure);
+    ThrowIfInterrupted();
     if (log.Count() > 0) return Conclude(log, false, console);
 
     OutputFile output(request.output.empty() ? "-" : request.output);

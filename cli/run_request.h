@@ -15,7 +15,11 @@ struct RunRequest {
     bool no_segment = false;
     std::string filter;
     bool foreign = false;
+    std::vector<std::string> rates;  // "USD=1.3725"
+    std::string rates_file;
     std::vector<std::string> properties;  // "Name=value"
+    std::vector<std::string> options;     // "name=value", of the report's dialog.
+    bool configure = false;
     std::string session_date;
     std::string language;
     std::string paper;

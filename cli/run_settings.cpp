@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "cli/errors.h"
+#include "cli/given_rates.h"
 #include "company/filter/filter_fault.h"
 #include "host/object.h"
 
@@ -71,6 +72,19 @@ RunSettings::Property ReadProperty(const std::string& text) {
     return {name, text.substr(equals + 1)};
 }
 
+std::pair<std::string, std::string> ReadOption(const std::string& text) {
+    const auto equals = text.rfind('=');
+    if (equals == 0 || equals == std::string::npos)
+        throw UsageError("--option: \"" + text + "\" is no option; write name=yes or name=no");
+    const std::string name = text.substr(0, equals);
+    const std::string value = text.substr(equals + 1);
+    for (const auto* yes : {"yes", "true", "1"})
+        if (SameName(value, yes)) return {name, "True"};
+    for (const auto* no : {"no", "false", "0"})
+        if (SameName(value, no)) return {name, "False"};
+    throw UsageError("--option " + name + ": \"" + value + "\" is neither yes nor no");
+}
+
 /// The name, in its own case, that the value stands for in any case.
 std::string_view ReadChoice(std::string_view thing, std::string_view value,
                             std::span<const std::string_view> names) {
@@ -114,8 +128,10 @@ RunSettings ReadSettings(const RunRequest& request) {
     settings.segments = ReadIds("--segments", request.segments);
     if (!request.session_date.empty())
         settings.session_date = ReadDate("--session-date", request.session_date, Date());
+    settings.rates = ReadRates(request.rates, request.rates_file);
     for (const auto& property : request.properties)
         settings.properties.push_back(ReadProperty(property));
+    for (const auto& option : request.options) settings.options.push_back(ReadOption(option));
     CheckFilter(request.filter);
     settings.language = ReadLanguage(request.language);
     settings.page = ReadPage(request.paper, request.landscape);

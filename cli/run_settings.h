@@ -4,9 +4,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cli/run_request.h"
+#include "company/services/given_rates.h"
 #include "engine/document.h"
 #include "host/date.h"
 
@@ -23,7 +25,10 @@ struct RunSettings {
     Date to = kOpenEnd;
     std::vector<std::int32_t> segments;
     std::optional<Date> session_date;
+    std::vector<company::GivenRate> rates;
     std::vector<Property> properties;
+    /// Check boxes of the report's dialog, with "True" or "False".
+    std::vector<std::pair<std::string, std::string>> options;
     std::string language;
     engine::PageSetup page;
 };

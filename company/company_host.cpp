@@ -67,6 +67,7 @@ std::shared_ptr<CompanyHost> OpenCompany(std::unique_ptr<CompanyDatabase> databa
     RequireCompanyTables(*database, name);
     auto host = std::make_shared<CompanyHost>(std::move(database), options);
     RequireHomeCurrency(host->CurrentCompany().GetCurrencyInfo(), name);
+    host->CurrentCompany().UseRates(options.rates);
     return host;
 }
 

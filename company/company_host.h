@@ -27,6 +27,8 @@ struct HostOptions {
     HostMessages::Sink message_sink{};
     /// Called once for each text number that has no text; null stays silent.
     Texts::MissingText missing_text{};
+    /// Exchange rates to take instead of the company's table.
+    std::vector<GivenRate> rates{};
     /// Asked often while a query is at work; when it says yes the query ends with an error. Null
     /// lets every query end by itself.
     std::function<bool()> cancelled{};
@@ -47,7 +49,7 @@ class CompanyHost final : public Application, public Context {
     HostMessages& Messages() override { return messages_; }
     DialogService& Dialogs() override { return *dialogs_; }
 
-    Company& CurrentCompany() override { return company_; }
+    DatabaseCompany& CurrentCompany() override { return company_; }
     CompanyDatabase& Database() override { return *database_; }
 
     varnel::company::Language Language() const { return language_; }

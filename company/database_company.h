@@ -22,6 +22,9 @@ class DatabaseCompany final : public Company {
     DatabaseCompany(CompanyDatabase& database, Settings& settings, Texts& texts, Language language,
                     LocaleFormats& formats);
 
+    /// Exchange rates to take instead of the company's table.
+    void UseRates(std::span<const GivenRate> rates) { currency_info_.UseRates(rates); }
+
     std::string Name() override;
     std::string GetSetting(std::string_view name, std::string_view default_text,
                            const ObjectRef& scope, std::int32_t index) override;

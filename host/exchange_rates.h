@@ -24,6 +24,10 @@ class RateCollection : public Object {
     /// Replaces the rate that the key has. Error 5 for a key that is not the decimal text of an id.
     void Set(std::string_view key, Rate rate);
     void Set(std::int32_t currency_id, Rate rate) { rates_[currency_id] = rate; }
+    /// Takes the rates of `other` for currencies that have none here.
+    void AddMissing(const RateCollection& other) {
+        rates_.insert(other.rates_.begin(), other.rates_.end());
+    }
 
   private:
     std::map<std::int32_t, Rate> rates_;

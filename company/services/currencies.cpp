@@ -50,6 +50,16 @@ const CurrencyRecord& CompanyCurrencies::Item(std::int32_t currency_id) {
     return records[place->second];
 }
 
+const CurrencyRecord& CompanyCurrencies::ItemByCode(std::string_view code) {
+    std::string codes;
+    for (const auto& record : All()) {
+        if (SameName(record.code, code)) return record;
+        codes += (codes.empty() ? "" : ", ") + record.code;
+    }
+    throw Error(error_number::kInvalidArgument, "Currencies",
+                "The company has no currency " + std::string(code) + "; it has " + codes);
+}
+
 std::int32_t CompanyCurrencies::HomeId() {
     if (!home_id_) home_id_ = settings_.Id(setting::kHomeCurrencyId);
     return *home_id_;

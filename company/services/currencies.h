@@ -27,6 +27,8 @@ class CompanyCurrencies final : public Currencies {
     std::string GetCurrenciesLegend(IExchangeRates& rates) override;
     std::string GetAllARAPGLAccountUsed() override;
 
+    /// Error 5 naming the code and the currencies that there are. Case does not matter.
+    const CurrencyRecord& ItemByCode(std::string_view code);
     std::int32_t HomeId();
     bool ForeignUsed();
     /// By code.

@@ -22,7 +22,7 @@ std::int32_t CompanyCurrencyInfo::UnrealizedGainLossAcctId() {
 void CompanyCurrencyInfo::RaiseNoRate(const std::string& codes, const std::string& date) {
     throw Error(error_number::kInvalidArgument, "CurrencyInfo",
                 "There is no exchange rate for " + codes + " on or before " + date +
-                    "; enter one in the company's rate table");
+                    "; enter one in the company's rate table or give one");
 }
 
 void CompanyCurrencyInfo::RequireRates(const RateCollection& rates, const std::string& date) {
@@ -33,12 +33,43 @@ void CompanyCurrencyInfo::RequireRates(const RateCollection& rates, const std::s
     if (!missing.empty()) RaiseNoRate(missing, date);
 }
 
+std::int32_t CompanyCurrencyInfo::ForeignId(const GivenRate& given) {
+    const CurrencyRecord& record = currencies_.ItemByCode(given.currency_code);
+    if (record.id == currencies_.HomeId())
+        throw Error(error_number::kInvalidArgument, "CurrencyInfo",
+                    record.code + " is the company's own currency and has no exchange rate");
+    return record.id;
+}
+
+void CompanyCurrencyInfo::UseRates(std::span<const GivenRate> rates) {
+    RateCollection taken;
+    for (const auto& given : rates) {
+        const std::int32_t id = ForeignId(given);
+        if (taken.Has(id))
+            throw Error(error_number::kInvalidArgument, "CurrencyInfo",
+                        "The exchange rate of " + given.currency_code + " is given twice");
+        taken.Set(id, given.rate);
+    }
+    given_ = std::move(taken);
+}
+
+std::shared_ptr<RateCollection> CompanyCurrencyInfo::RatesOf(std::span<const std::string> filter) {
+    auto rates = std::make_shared<RateCollection>();
+    for (const auto& piece : filter) {
+        if (piece.empty()) continue;
+        const GivenRate given = ParseGivenRate(piece);
+        rates->Set(ForeignId(given), given.rate);
+    }
+    return rates;
+}
+
 void CompanyCurrencyInfo::ConfigureExchangeRates(IExchangeRates& target, Date date,
                                                  bool use_rate_table,
-                                                 std::span<const std::string> /*filter*/) {
-    const auto given = target.IExchangeRates_ExchangeRates();
-    const auto rates = given && !use_rate_table ? std::make_shared<RateCollection>(*given)
-                                                : std::make_shared<RateCollection>();
+                                                 std::span<const std::string> filter) {
+    const auto rates = RatesOf(filter);
+    rates->AddMissing(given_);
+    const auto& kept = target.IExchangeRates_ExchangeRates();
+    if (kept && !use_rate_table) rates->AddMissing(*kept);
     const bool foreign_used = currencies_.ForeignUsed();
     Date newest = kOpenStart;
     if (foreign_used) {

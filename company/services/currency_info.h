@@ -2,6 +2,7 @@
 
 #include "company/services/account_params.h"
 #include "company/services/currencies.h"
+#include "company/services/given_rates.h"
 #include "host/application.h"
 #include "host/currency_info.h"
 
@@ -14,16 +15,21 @@ class CompanyCurrencyInfo final : public CurrencyInfo {
                         AccountParams& params, Formats& formats)
         : database_(database), currencies_(currencies), params_(params), formats_(formats) {}
 
+    /// Takes these rates instead of the company's table from now on. Error 5 for a currency that
+    /// the company does not have, for its own and for one given twice.
+    void UseRates(std::span<const GivenRate> rates);
+
     std::int32_t CieHomeCurrencyId() override { return currencies_.HomeId(); }
     bool CieIsForeignCurrencyUsed() override { return currencies_.ForeignUsed(); }
     std::int32_t UnrealizedGainLossAcctId() override;
 
     /// Sets the latest rate on or before the date for every foreign currency, the text of the date
     /// (with an open end: of the newest rate) and the switch, which is on when the company works in
-    /// more than one currency. Without `use_rate_table` rates that `target` has already stay.
+    /// more than one currency. Without `use_rate_table` rates that `target` has already stay. Rates
+    /// that the user gave come before the table's; pieces of `filter`, as "USD=1.3725", before all.
     ///
     /// A foreign currency without any rate raises error 5 naming currency and date, after all that
-    /// there is was set. `filter` makes no difference here.
+    /// there is was set; so does a piece of `filter` that is no rate, before anything is.
     void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
                                 std::span<const std::string> filter) override;
     /// Rounded once, to the cent. The amount itself in home currency and in a company of one
@@ -34,6 +40,8 @@ class CompanyCurrencyInfo final : public CurrencyInfo {
     Currencies& GetCurrencies() override { return currencies_; }
 
   private:
+    std::shared_ptr<RateCollection> RatesOf(std::span<const std::string> filter);
+    std::int32_t ForeignId(const GivenRate& given);
     void RequireRates(const RateCollection& rates, const std::string& date);
     [[noreturn]] void RaiseNoRate(const std::string& codes, const std::string& date);
 
@@ -41,6 +49,7 @@ class CompanyCurrencyInfo final : public CurrencyInfo {
     CompanyCurrencies& currencies_;
     AccountParams& params_;
     Formats& formats_;
+    RateCollection given_;
 };
 
 }  // namespace varnel::company

@@ -108,6 +108,36 @@ TEST_F(SmallCompany, KeepsGivenRatesWhenItsTableIsNotWanted) {
     EXPECT_EQ(rates.rates->Item("4"), Rate::Parse("0.0095"));
 }
 
+TEST_F(SmallCompany, TakesRatesThatAreGivenBeforeThoseOfItsTable) {
+    const CompanyFile file(kSmallCompany);
+    HostOptions options;
+    options.rates = {ParseGivenRate("usd=1.3725"), ParseGivenRate("JPY 0.01")};
+    const auto host = OpenCompany(file.Path(), options);
+    auto& info = host->CurrentCompany().GetCurrencyInfo();
+    Rates rates;
+    const std::string filter[] = {"JPY = 0.0125", ""};
+    info.ConfigureExchangeRates(rates, Day("2025-03-31"), true, filter);
+    EXPECT_EQ(info.GetCurrencies().GetCurrenciesLegend(rates), "JPY 0.0125; USD 1.3725");
+    info.ConfigureExchangeRates(rates, Day("1990-01-01"), true, {});
+    EXPECT_EQ(info.GetCurrencies().GetCurrenciesLegend(rates), "JPY 0.0100; USD 1.3725");
+}
+
+TEST_F(SmallCompany, RefusesRatesThatItCannotTake) {
+    const CompanyFile file(kSmallCompany);
+    const auto error = [&](std::vector<GivenRate> rates) {
+        HostOptions options;
+        options.rates = std::move(rates);
+        return ErrorOf([&] { OpenCompany(file.Path(), options); });
+    };
+    const Rate rate = Rate::Parse("1.5");
+    EXPECT_THAT(error({{"GBP", rate}}), AllOf(HasSubstr("GBP"), HasSubstr("CAD, JPY, USD")));
+    EXPECT_THAT(error({{"CAD", rate}}), HasSubstr("own currency"));
+    EXPECT_THAT(error({{"USD", rate}, {"usd", rate}}), HasSubstr("twice"));
+    for (const char* text : {"", "USD", "=1.2", "USD=", "USD=0", "USD=-1", "USD=1,3725", "USD 1 2"})
+        EXPECT_THAT(ErrorOf([&] { ParseGivenRate(text); }),
+                    HasSubstr("\"" + std::string(text) + "\" is no exchange rate"));
+}
+
 TEST_F(SmallCompany, DatesTheRatesOfAnOpenEndByTheNewest) {
     Rates rates;
     Open("")->CurrentCompany().GetCurrencyInfo().ConfigureExchangeRates(rates, kOpenEnd, true, {});
