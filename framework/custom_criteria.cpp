@@ -31,6 +31,16 @@ constexpr Member<FilterableReport> kMembers[] = {
 
 }  // namespace
 
+std::vector<std::string> FilterableReport::FilterPieces() const {
+    std::vector<std::string> pieces;
+    if (filter_.empty()) return pieces;
+    std::size_t from = 0;
+    for (std::size_t bar; (bar = filter_.find('|', from)) != std::string::npos; from = bar + 1)
+        pieces.push_back(filter_.substr(from, bar - from));
+    pieces.push_back(filter_.substr(from));
+    return pieces;
+}
+
 FilterableReport::FilterableReport(MemberParts& members) {
     members.Add<FilterableReport>(*this, kMembers);
 }

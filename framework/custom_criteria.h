@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/member_table.h"
 #include "host/report.h"
@@ -34,6 +35,9 @@ class FilterableReport : public IFilterableReport {
 
   protected:
     CustomCriteria Criteria() const { return CustomCriteria::Split(filter_); }
+    /// All that stands between the bars of the filter, for reports that hand it on to the host; none
+    /// without a filter.
+    std::vector<std::string> FilterPieces() const;
     /// Null when the host has given none.
     FilterTool* Tool() const { return tool_.get(); }
 
