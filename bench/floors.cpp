@@ -15,10 +15,7 @@
 
 namespace varnel::bench {
 
-namespace {
-
-// The journal's statement for all dates, as SQLite takes it.
-constexpr const char* kStatement =
+const char* const kJournalStatement =
     "SELECT GLDet.InGLDetId, GLDet.ExCurrencyId, GLDet.SeqNo, GLDet.DetAmnt, GLDet.ForeignAmnt, "
     "GLDet.DetDate, GLDet.DetDesc, GLDet.DetRef, GLDet.Source, GLDet.ExSrcKeyVal, GLDet.Remarks, "
     "GLDet.ExProjId, GLAcct.GLAcctId, GLAcct.Descr, ProjInfo.ProjId, WorldCurrency.InCurrencyId, "
@@ -29,6 +26,8 @@ constexpr const char* kStatement =
     "ON WorldCurrency.InCurrencyId = GLDet.ExCurrencyId WHERE GLDet.Source IN('GJ','BKT','BRC') "
     "AND GLDet.DetDate BETWEEN '1899-12-31' AND '9999-12-31' "
     "ORDER BY GLDet.DetDate, GLDet.SeqNo, GLDet.InGLDetId";
+
+namespace {
 
 constexpr int kLinesPerPage = 50;
 constexpr int kCells = 7;
@@ -48,9 +47,9 @@ Database Open(const std::string& company) {
     return {raw, sqlite3_close};
 }
 
-Statement Prepare(sqlite3* database, const char* text) {
+Statement Prepare(sqlite3* database, const std::string& text) {
     sqlite3_stmt* raw = nullptr;
-    if (sqlite3_prepare_v2(database, text, -1, &raw, nullptr) != SQLITE_OK)
+    if (sqlite3_prepare_v2(database, text.c_str(), -1, &raw, nullptr) != SQLITE_OK)
         throw std::runtime_error(sqlite3_errmsg(database));
     return {raw, sqlite3_finalize};
 }
@@ -62,40 +61,45 @@ std::string_view CellText(sqlite3_stmt* row, int column) {
                                  text, static_cast<std::size_t>(sqlite3_column_bytes(row, column)));
 }
 
-template <class OnLine>
-void ForEachLine(const std::string& company, OnLine on_line) {
+template <class OnRow>
+void ForEachRow(const std::string& company, const std::string& statement, OnRow on_row) {
     const auto database = Open(company);
-    const auto rows = Prepare(database.get(), kStatement);
-    while (sqlite3_step(rows.get()) == SQLITE_ROW) on_line(rows.get());
+    const auto rows = Prepare(database.get(), statement);
+    while (sqlite3_step(rows.get()) == SQLITE_ROW) on_row(rows.get());
+}
+
+/// Something that depends on every byte of the cell.
+std::int64_t Look(sqlite3_stmt* row, int column) {
+    switch (sqlite3_column_type(row, column)) {
+        case SQLITE_INTEGER:
+            return sqlite3_column_int64(row, column);
+        case SQLITE_FLOAT:
+            return sqlite3_column_double(row, column) > 0 ? 1 : 0;
+        default:
+            return static_cast<std::int64_t>(CellText(row, column).size());
+    }
 }
 
 }  // namespace
 
-std::int64_t CountJournalLines(const std::string& company) {
-    const auto database = Open(company);
-    const auto count =
-        Prepare(database.get(), "SELECT COUNT(*) FROM GLDet WHERE Source IN('GJ','BKT','BRC')");
-    sqlite3_step(count.get());
-    return sqlite3_column_int64(count.get(), 0);
+std::int64_t ReadRows(const std::string& company, const std::string& statement) {
+    std::int64_t rows = 0;
+    std::int64_t seen = 0;
+    ForEachRow(company, statement, [&](sqlite3_stmt* row) {
+        const int columns = sqlite3_column_count(row);
+        for (int column = 0; column < columns; ++column) seen += Look(row, column);
+        ++rows;
+    });
+    if (seen == 0) throw std::runtime_error("nothing to read in " + company);
+    return rows;
 }
 
-void ReadJournal(const std::string& company) {
-    std::int64_t seen = 0;
-    ForEachLine(company, [&](sqlite3_stmt* row) {
-        for (int column = 0; column < 18; ++column) {
-            switch (sqlite3_column_type(row, column)) {
-                case SQLITE_INTEGER:
-                    seen += sqlite3_column_int64(row, column);
-                    break;
-                case SQLITE_FLOAT:
-                    seen += sqlite3_column_double(row, column) > 0;
-                    break;
-                default:
-                    seen += static_cast<std::int64_t>(CellText(row, column).size());
-            }
-        }
+std::string ReadCell(const std::string& company, const std::string& statement) {
+    std::string cell;
+    ForEachRow(company, statement, [&](sqlite3_stmt* row) {
+        if (cell.empty()) cell = CellText(row, 0);
     });
-    if (seen == 0) throw std::runtime_error("the journal is empty");
+    return cell;
 }
 
 void WriteJournalPages(const std::string& company, const std::string& file) {
@@ -105,7 +109,7 @@ void WriteJournalPages(const std::string& company, const std::string& file) {
     int line = kLinesPerPage;
     bool page_open = false;
     render::PdfPage* page = nullptr;
-    ForEachLine(company, [&](sqlite3_stmt* row) {
+    ForEachRow(company, kJournalStatement, [&](sqlite3_stmt* row) {
         if (line == kLinesPerPage) {
             if (page_open) writer.EndPage();
             page = &writer.BeginPage(kPageWidth, kPageHeight);
@@ -127,7 +131,7 @@ void WriteJournalPagesWithCairo(const std::string& company, const std::string& f
     cairo_select_font_face(drawing, "Open Sans", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
     cairo_set_font_size(drawing, 8.5);
     int line = 0;
-    ForEachLine(company, [&](sqlite3_stmt* row) {
+    ForEachRow(company, kJournalStatement, [&](sqlite3_stmt* row) {
         const double y = 60 + 13.5 * line++;
         for (int cell = 0; cell < kCells; ++cell) {
             cairo_move_to(drawing, kLefts[cell], y);

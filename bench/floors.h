@@ -5,13 +5,17 @@
 
 namespace varnel::bench {
 
-/// Lines that the general journal of the whole company prints.
-std::int64_t CountJournalLines(const std::string& company);
+/// The general journal's statement for all dates, as SQLite takes it.
+extern const char* const kJournalStatement;
 
-/// Steps through the journal's statement with the bare database library and reads every column.
-void ReadJournal(const std::string& company);
+/// Steps through the statement with the bare database library and reads every column. Returns the
+/// number of rows; error when there is none.
+std::int64_t ReadRows(const std::string& company, const std::string& statement);
 
-/// Reads likewise and puts each line's cells into pages of 50 lines with our own PDF writer: no
+/// The first column of the statement's first row.
+std::string ReadCell(const std::string& company, const std::string& statement);
+
+/// Reads the journal and puts each line's cells into pages of 50 lines with our own PDF writer: no
 /// engine.
 void WriteJournalPages(const std::string& company, const std::string& file);
 

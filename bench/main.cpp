@@ -1,9 +1,10 @@
-// Times the general journal against its floors, each in a process of its own and in the same run.
+// Times the reports against their floors, each in a process of its own and in the same run.
 //
 //   varnel_bench VARNEL FOLDER [LINES…]
 //
 // VARNEL is the command's file, FOLDER keeps the demo companies between runs, LINES are numbers of
-// journal lines (10000 100000 1000000). Prints one table a size.
+// lines (10000 100000 1000000): of the journal for the general journal, of the ledger for the other
+// reports. Prints one table a size and report.
 
 #include <cinttypes>
 #include <cstdio>
@@ -13,6 +14,7 @@
 
 #include "bench/floors.h"
 #include "bench/measure.h"
+#include "bench/reports.h"
 #include "company/demo/demo_company.h"
 
 namespace {
@@ -21,6 +23,8 @@ using namespace varnel::bench;
 
 struct Subject {
     std::string varnel;
+    std::string report;
+    std::vector<std::string> options;
     std::string company;
     std::string folder;
     int runs;
@@ -29,13 +33,24 @@ struct Subject {
 // About four lines in ten of a demo company are the journal's.
 constexpr double kJournalShare = 0.40;
 
-std::string CompanyWith(const std::string& folder, std::int64_t journal_lines) {
-    const std::string file = folder + "/journal-" + std::to_string(journal_lines) + ".db";
+std::string CompanyWith(const std::string& file, double ledger_lines) {
     varnel::company::DemoOptions options;
-    options.lines = static_cast<std::int64_t>(static_cast<double>(journal_lines) / kJournalShare);
+    options.lines = static_cast<std::int64_t>(ledger_lines);
     if (!std::filesystem::exists(file)) varnel::company::CreateDemoCompany(file, options);
     return file;
 }
+
+std::string JournalCompany(const std::string& folder, std::int64_t journal_lines) {
+    return CompanyWith(folder + "/journal-" + std::to_string(journal_lines) + ".db",
+                       static_cast<double>(journal_lines) / kJournalShare);
+}
+
+std::string LedgerCompany(const std::string& folder, std::int64_t lines) {
+    return CompanyWith(folder + "/ledger-" + std::to_string(lines) + ".db",
+                       static_cast<double>(lines));
+}
+
+int RunsFor(std::int64_t lines) { return lines > 500'000 ? 3 : 5; }
 
 void PrintRow(const char* name, const Cost& cost, double floor_seconds) {
     std::printf("  %-28s %8.3f s %8.1f MiB", name, cost.seconds, cost.peak_mebibytes);
@@ -45,13 +60,15 @@ void PrintRow(const char* name, const Cost& cost, double floor_seconds) {
 }
 
 Cost RunReport(const Subject& subject, const std::string& format, const std::string& output) {
-    return MeasureProgram({subject.varnel, "run", "general-journal", "--company", subject.company,
-                           "-O", format, "-o", output, "--session-date", "2026-11-01"},
-                          subject.runs);
+    std::vector<std::string> arguments = {
+        subject.varnel, "run", subject.report, "--company",      subject.company, "-O",
+        format,         "-o",  output,         "--session-date", "2026-11-01"};
+    arguments.insert(arguments.end(), subject.options.begin(), subject.options.end());
+    return MeasureProgram(arguments, subject.runs);
 }
 
-void MeasureFormats(const Subject& subject) {
-    const auto read = MeasureFunction([&] { ReadJournal(subject.company); }, subject.runs);
+void MeasureFormats(const Subject& subject, const std::string& statement) {
+    const auto read = MeasureFunction([&] { ReadRows(subject.company, statement); }, subject.runs);
     PrintRow("floor: bare reading", read, 0);
     for (const char* format : {"csv", "txt", "jsonl"})
         PrintRow(format, RunReport(subject, format, "/dev/null"), read.seconds);
@@ -68,15 +85,34 @@ void MeasurePages(const Subject& subject) {
     PrintRow("pdf", RunReport(subject, "pdf", file), pages.seconds);
 }
 
-void MeasureSize(const std::string& varnel, const std::string& folder, std::int64_t lines) {
-    const std::string company = CompanyWith(folder, lines);
-    const std::int64_t printed = CountJournalLines(company);
-    std::printf("general journal, %" PRId64 " lines\n", printed);
-    const Subject subject{varnel, company, folder, printed > 500'000 ? 3 : 5};
-    MeasureFormats(subject);
+void MeasureJournal(const std::string& varnel, const std::string& folder, std::int64_t lines) {
+    const std::string company = JournalCompany(folder, lines);
+    const std::int64_t printed = ReadRows(company, kJournalStatement);
+    std::printf("general-journal, %" PRId64 " lines\n", printed);
+    const Subject subject{varnel, "general-journal", {}, company, folder, RunsFor(printed)};
+    MeasureFormats(subject, kJournalStatement);
     MeasurePages(subject);
     const auto start = RunReport(subject, "csv", "-");
     std::printf("  %-28s %8.3f s\n\n", "csv: start to first byte", start.first_byte);
+}
+
+void MeasureReport(const ReportCase& report, const std::string& varnel, const std::string& folder,
+                   std::int64_t lines) {
+    const std::string company = LedgerCompany(folder, lines);
+    const std::string statement = report.statement(company);
+    const std::int64_t rows = ReadRows(company, statement);
+    std::printf("%s, %" PRId64 " rows of a ledger of %" PRId64 " lines\n", report.name.data(), rows,
+                lines);
+    const Subject subject{
+        varnel, std::string(report.name), report.options(company), company, folder, RunsFor(lines)};
+    MeasureFormats(subject, statement);
+    PrintRow("pdf", RunReport(subject, "pdf", folder + "/pages.pdf"), 0);
+    std::printf("\n");
+}
+
+void MeasureSize(const std::string& varnel, const std::string& folder, std::int64_t lines) {
+    MeasureJournal(varnel, folder, lines);
+    for (const auto& report : ReportCases()) MeasureReport(report, varnel, folder, lines);
 }
 
 }  // namespace

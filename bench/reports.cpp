@@ -1,0 +1,86 @@
+#include "bench/reports.h"
+
+#include "bench/floors.h"
+
+namespace varnel::bench {
+
+namespace {
+
+using Options = std::vector<std::string>;
+
+Options NoOptions(const std::string&) { return {}; }
+
+std::string ControlAccounts(const std::string& company) {
+    return ReadCell(
+        company,
+        "SELECT group_concat(Id) FROM (SELECT ARGLAccountId AS Id FROM WorldCurrency UNION SELECT "
+        "APGLAccountId FROM WorldCurrency UNION SELECT ExAcctId FROM GLAccountParam WHERE ParamName "
+        "IN ('CustGLAR', 'SuppGLAP')) WHERE Id > 0");
+}
+
+std::string UnrealizedExchange(const std::string& company) {
+    return "SELECT GLAcct.InGLAcctId, GLAcct.GLAcctId, GLDet.ExCurrencyId, GLDet.DetDate, "
+           "GLDet.SeqNo, GLDet.DetDesc, GLDet.ExChangeRate, SUM(ForeignAmnt) As AcctBalForeign, "
+           "SUM(DetAmnt) As AcctBalHome, WorldCurrency.CurrencyCode, WorldCurrency.Descr "
+           "FROM (GLAcct INNER JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId) LEFT JOIN "
+           "WorldCurrency on GLDet.ExCurrencyID = WorldCurrency.InCurrencyId WHERE ((ChqAcct <> 0 "
+           "AND GLAcct.ExCurrencyId <> 1) OR InGLAcctId IN ( " +
+           ControlAccounts(company) +
+           ") OR InGLAcctId IN ( -1)) AND GLDet.ExCurrencyId <> 1 AND GLDet.DetDate <= "
+           "'9999-12-31' GROUP BY WorldCurrency.CurrencyCode, WorldCurrency.Descr, "
+           "GLAcct.GLAcctId, GLAcct.InGLAcctId, GLDet.ExCurrencyId, GLDet.DetDate, GLDet.SeqNo, "
+           "GLDet.ExChangeRate, GLDet.DetDesc ORDER BY WorldCurrency.CurrencyCode, "
+           "GLAcct.GLAcctId, GLDet.DetDate, GLDet.SeqNo";
+}
+
+/// The account that has most lines in foreign currency, and that currency: "1043|2".
+std::string BusiestForeignAccount(const std::string& company, const std::string& columns) {
+    return ReadCell(company, "SELECT " + columns +
+                                 " FROM GLDet INNER JOIN GLAcct ON InGLAcctId = ExAcctId INNER "
+                                 "JOIN WorldCurrency ON InCurrencyId = GLDet.ExCurrencyId WHERE "
+                                 "GLDet.ExCurrencyId <> 1 GROUP BY ExAcctId, GLDet.ExCurrencyId "
+                                 "ORDER BY COUNT(*) DESC LIMIT 1");
+}
+
+Options BusiestAccountOptions(const std::string& company) {
+    return {"--account", BusiestForeignAccount(company, "GLAcct.GLAcctId"), "--currency",
+            BusiestForeignAccount(company, "CurrencyCode")};
+}
+
+std::string UnrealizedExchangeDetail(const std::string& company) {
+    return "SELECT GLAcct.InGLAcctId, GLDet.ExCurrencyId, GLDet.DetDate, ForeignAmnt As "
+           "AcctBalForeign, DetAmnt As AcctBalHome, GLDet.DetDesc, GLDet.Source, "
+           "GLDet.ExSrcKeyVal, WorldCurrency.CurrencyCode, WorldCurrency.Descr FROM (GLAcct INNER "
+           "JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId) LEFT JOIN WorldCurrency on "
+           "GLDet.ExCurrencyID = WorldCurrency.InCurrencyId WHERE " +
+           BusiestForeignAccount(company,
+                                 "'GLDet.ExCurrencyId = ' || GLDet.ExCurrencyId || ' AND "
+                                 "InGLAcctId  = ' || ExAcctId") +
+           " AND GLDet.DetDate BETWEEN '1899-12-31' AND '9999-12-31'  ORDER BY DetDate, SeqNo ";
+}
+
+std::string RealizedExchange(const std::string&) {
+    return "SELECT CurrPmtDet_View.PmtAmnt, CurrPmtDet_View.PmtDisc, "
+           "CurrPmtDet_View.ExchangeRate, CurrPmtDet_View.PmtRate, CurrPmtDet_View.CurrPmtType, "
+           "CurrPmtDet_View.Source, CurrPmtDet_View.InInvoiId, CurrPmtDet_View.InPmtId, "
+           "CurrPmtDet_View.ExCurrencyId, CurrPmtDet_View.ExGLAcctId, CurrPmtDet_View.PmtDate, "
+           "CurrPmtDet_View.Name, CurrPmtDet_View.InvoiId, CurrPmtDet_View.ChqNo, "
+           "WorldCurrency.CurrencyCode, WorldCurrency.Descr, (WorldCurrency.CurrencyCode || ' - ' "
+           "|| WorldCurrency.Descr) AS FullCurrencyDescr FROM CurrPmtDet_View LEFT JOIN "
+           "WorldCurrency ON WorldCurrency.InCurrencyId = CurrPmtDet_View.ExCurrencyId WHERE "
+           "CurrPmtDet_View.PmtDate BETWEEN '1899-12-31' AND '9999-12-31' AND "
+           "CurrPmtDet_View.ExCurrencyId <> 1 ORDER BY  ExCurrencyId, CurrPmtType, "
+           "CurrPmtDet_View.PmtDate, CurrPmtDet_View.ChqNo ";
+}
+
+constexpr ReportCase kCases[] = {
+    {"unrealized-exchange", NoOptions, UnrealizedExchange},
+    {"unrealized-exchange-detail", BusiestAccountOptions, UnrealizedExchangeDetail},
+    {"realized-exchange", NoOptions, RealizedExchange},
+};
+
+}  // namespace
+
+std::span<const ReportCase> ReportCases() { return kCases; }
+
+}  // namespace varnel::bench
