@@ -35,8 +35,6 @@ class FilterableReport : public IFilterableReport {
 
   protected:
     CustomCriteria Criteria() const { return CustomCriteria::Split(filter_); }
-    /// All texts between the "|" of the filter; none for an empty filter.
-    std::vector<std::string> FilterPieces() const;
     /// All that stands between the bars of the filter, for reports that hand it on to the host;
     /// none without a filter.
     std::vector<std::string> FilterPieces() const;

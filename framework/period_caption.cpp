@@ -7,6 +7,7 @@ namespace varnel::framework {
 namespace {
 
 constexpr std::int16_t kAllDates = 1376;
+constexpr std::int16_t kAsAt = 1776;
 constexpr std::int16_t kFrom = 3012;
 constexpr std::int16_t kTo = 3013;
 
@@ -16,6 +17,11 @@ std::string JournalPeriodCaption(Application& application, Date from, Date to) {
     if (from == kOpenStart || to == kOpenEnd) return PlainText(application, kAllDates);
     return PlainText(application, kFrom) + " " + ShortDate(application, from) + " " +
            PlainText(application, kTo) + " " + ShortDate(application, to);
+}
+
+std::string ClosingDateCaption(Application& application, Date to) {
+    if (to == kOpenEnd) return PlainText(application, kAllDates);
+    return PlainText(application, kAsAt) + " " + ShortDate(application, to);
 }
 
 }  // namespace varnel::framework

@@ -10,4 +10,8 @@ namespace varnel::framework {
 /// date; text 1376 when either limit is open.
 std::string JournalPeriodCaption(Application& application, Date from, Date to);
 
+/// The closing date of a report that shows balances: text 1776 and the date; text 1376 with an open
+/// end.
+std::string ClosingDateCaption(Application& application, Date to);
+
 }  // namespace varnel::framework

@@ -31,5 +31,12 @@ INSTANTIATE_TEST_SUITE_P(
                     PeriodCase{"1900-01-01", "9999-12-30", "From 1900-01-01 to 9999-12-30"},
                     PeriodCase{"1899-12-30", "2025-03-31", "From 1899-12-30 to 2025-03-31"}));
 
+TEST(ClosingDateCaptionTest, SaysAsAtWhichDateOrAllDatesWithAnOpenEnd) {
+    test::MemoryHost host;
+    host.texts = {{1776, "As &at"}, {1376, "All dates"}};
+    EXPECT_EQ(ClosingDateCaption(host, Date::ParseIso("2025-03-31")), "As at 2025-03-31");
+    EXPECT_EQ(ClosingDateCaption(host, kOpenEnd), "All dates");
+}
+
 }  // namespace
 }  // namespace varnel::framework
