@@ -34,10 +34,11 @@ std::string ExchangeRatesText(Application& application, std::string_view what) {
     return place == std::string::npos ? text : text.replace(place, kPlace.size(), what);
 }
 
-void ShowExchangeRatesNote(Application& application, Surface& surface, IExchangeRates& rates) {
+void ShowExchangeRatesNote(Application& application, Surface& surface, IExchangeRates& rates,
+                           bool wanted) {
     Control& note = surface.At(kExchangeRatesNote);
     auto& info = application.CurrentContext().CurrentCompany().GetCurrencyInfo();
-    const bool shown = info.CieIsForeignCurrencyUsed();
+    const bool shown = wanted && info.CieIsForeignCurrencyUsed();
     SetHeaderBlockHeight(surface, kHeaderBlockHeight + (shown ? kNoteHeight : 0));
     note.SetVisible(shown);
     note.SetText(

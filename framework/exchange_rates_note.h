@@ -13,13 +13,14 @@ namespace varnel::framework {
 /// PageHeaderControls with a line under the period for the rates that a report revalues at.
 std::vector<ControlLayout> PageHeaderControlsWithRates(std::vector<ControlLayout> column_controls);
 
-inline constexpr std::string_view kExchangeRatesNote = "lblExchangeRates";
+inline constexpr std::string_view kExchangeRatesNote = "txtExchangeRate";
 
 /// "Exchange rates (" + `what` + ")" in the user's language.
 std::string ExchangeRatesText(Application& application, std::string_view what);
 
-/// Puts the legend of the rates into the page header, or takes the line away in a company of one
-/// currency. Comes before ReplacePageHeaderControls.
-void ShowExchangeRatesNote(Application& application, Surface& surface, IExchangeRates& rates);
+/// Puts the legend of the rates into the page header, or takes the line away when it is not wanted
+/// and in a company of one currency. Comes before ReplacePageHeaderControls.
+void ShowExchangeRatesNote(Application& application, Surface& surface, IExchangeRates& rates,
+                           bool wanted = true);
 
 }  // namespace varnel::framework

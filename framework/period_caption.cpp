@@ -19,6 +19,12 @@ std::string JournalPeriodCaption(Application& application, Date from, Date to) {
            PlainText(application, kTo) + " " + ShortDate(application, to);
 }
 
+std::string TrialPeriodCaption(Application& application, Date from, Date to) {
+    if (to == kOpenEnd) return PlainText(application, kAllDates);
+    return PlainText(application, kTo) + " " + ShortDate(application, from) + " " +
+           PlainText(application, kFrom) + " " + ShortDate(application, to);
+}
+
 std::string ClosingDateCaption(Application& application, Date to) {
     if (to == kOpenEnd) return PlainText(application, kAllDates);
     return PlainText(application, kAsAt) + " " + ShortDate(application, to);

@@ -49,7 +49,16 @@ void ReportBase::IReport_DateFrom(Date date) {
 }
 
 void ReportBase::IReport_DateTo(Date date) {
-    Guard("IReport_DateTo", [&] { date_to_ = date; });
+    Guard("IReport_DateTo", [&] {
+        date_to_ = date;
+        fiscal_year_start_.reset();
+        if (facts_.by_fiscal_year && AppRef() != nullptr)
+            Mark(), fiscal_year_start_ = CurrentCompany().FiscalYearStart(date);
+    });
+}
+
+Date ReportBase::FiscalYearStart() {
+    return fiscal_year_start_ ? *fiscal_year_start_ : CurrentCompany().FiscalYearStart(date_to_);
 }
 
 DateDisplay ReportBase::IReport_DateDisplayOptions() { return facts_.date_display; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "framework/designed_report.h"
@@ -15,6 +16,8 @@ class ReportBase : public DesignedReport, public IReport {
     struct Facts {
         std::int16_t title_text = 0;
         DateDisplay date_display = DateDisplay::kFromTo;
+        /// Whether the report asks for the start of the fiscal year.
+        bool by_fiscal_year = false;
     };
 
     ReportBase(const Layout& layout, const Facts& facts);
@@ -35,6 +38,9 @@ class ReportBase : public DesignedReport, public IReport {
   protected:
     Date DateFrom() const { return date_from_; }
     Date DateTo() const { return date_to_; }
+    /// Start of the fiscal year of the last date: as the host gave it when that date was set, if it
+    /// could be asked then, else as it gives it now.
+    Date FiscalYearStart();
     bool DisplayForeignCurrency() const { return display_foreign_; }
     std::int32_t HomeCurrencyId() const { return home_currency_id_; }
     Company& CurrentCompany() { return App().CurrentContext().CurrentCompany(); }
@@ -45,6 +51,7 @@ class ReportBase : public DesignedReport, public IReport {
     Facts facts_;
     Date date_from_;
     Date date_to_;
+    std::optional<Date> fiscal_year_start_;
     bool display_foreign_ = false;
     std::int32_t home_currency_id_ = 0;
 };

@@ -98,13 +98,13 @@ TEST_F(Revaluing, ShowsItsRatesUnderThePeriodOnlyWhereThereAreSeveralCurrencies)
     Section& header = surface.SectionAt("PageHeader");
     ShowExchangeRatesNote(host, surface, rates);
     ReplacePageHeaderControls(header);
-    EXPECT_EQ(surface.At("lblExchangeRates").Text(), "Exchange rates (USD 1.3725)");
+    EXPECT_EQ(surface.At("txtExchangeRate").Text(), "Exchange rates (USD 1.3725)");
     EXPECT_EQ(surface.At("lblFirst").Place().top, 1'210);
 
     info.records.pop_back();
     ShowExchangeRatesNote(host, surface, rates);
     ReplacePageHeaderControls(header);
-    EXPECT_FALSE(surface.At("lblExchangeRates").Visible());
+    EXPECT_FALSE(surface.At("txtExchangeRate").Visible());
     EXPECT_EQ(surface.At("lblFirst").Place().top, 990);
 }
 

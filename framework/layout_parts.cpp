@@ -1,0 +1,58 @@
+#include "framework/layout_parts.h"
+
+#include "framework/standard_header.h"
+
+namespace varnel::framework {
+
+namespace {
+
+constexpr Twips kCaptionTop = kHeaderBlockHeight + kCaptionGap;
+
+}  // namespace
+
+ControlLayout ColumnCaption(std::string_view name, const ColumnPlace& place, std::int16_t text) {
+    return {.name = name,
+            .kind = ControlKind::kLabel,
+            .box = {place.left, kCaptionTop, place.width, kCaptionHeight},
+            .style = kCaption,
+            .align = place.align,
+            .caption = text,
+            .stretch = place.stretch};
+}
+
+ControlLayout CaptionRule() {
+    return {.name = kCaptionRule,
+            .kind = ControlKind::kLine,
+            .box = {0, kCaptionTop + kCaptionHeight - kThin, 10'800, kThin},
+            .style = kHairline,
+            .stretch = Stretch::kWiden};
+}
+
+ControlLayout ColumnText(std::string_view name, const ColumnPlace& place, Twips top,
+                         const TextStyle& style, std::string_view column) {
+    return {.name = name,
+            .box = {place.left, top, place.width, kLineHeight},
+            .style = style,
+            .align = place.align,
+            .column = column,
+            .stretch = place.stretch};
+}
+
+ControlLayout ColumnLabel(std::string_view name, const ColumnPlace& place, Twips top,
+                          const TextStyle& style, std::int16_t text) {
+    auto label = ColumnText(name, place, top, style);
+    label.kind = ControlKind::kLabel;
+    label.caption = text;
+    return label;
+}
+
+ControlLayout TotalRule(std::string_view name, const ColumnPlace& place, Twips top,
+                        Twips thickness) {
+    return {.name = name,
+            .kind = ControlKind::kLine,
+            .box = {place.left, top, place.width, thickness},
+            .style = kTotalLine,
+            .stretch = Stretch::kShift};
+}
+
+}  // namespace varnel::framework

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/company.h"
+#include "host/exchange_rates.h"
+
+namespace varnel::reports {
+
+/// An account as a trial balance reads it from the chart.
+struct TrialAccount {
+    std::int32_t id = 0;
+    std::int32_t type = 0;
+    /// The home currency when it has none of its own.
+    std::int32_t currency_id = 0;
+};
+
+/// What trial balances and the GIFI report say an account's balance is, debit positive. Income
+/// statement accounts count from the start of the year, all others from the beginning; retained
+/// earnings carry the results of the years before; with revaluation foreign accounts count at the
+/// rate of the day, and the unrealized account carries the difference.
+class AccountAmounts {
+  public:
+    struct Period {
+        /// From when income statement accounts count.
+        Date year_start;
+        Date to = kOpenEnd;
+        /// Parenthesised condition on GLDet; empty takes all lines.
+        std::string segment_clause;
+        /// Comma-separated project ids; empty takes all lines.
+        std::string project_ids;
+    };
+    struct SpecialAccounts {
+        std::int32_t retained_earnings = 0;
+        std::int32_t current_earnings = 0;
+        std::int32_t unrealized = 0;
+    };
+
+    /// Company and rates must outlive it.
+    AccountAmounts(Company& company, IExchangeRates& rates, const SpecialAccounts& special,
+                   const Period& period);
+
+    bool IsRetainedEarnings(const TrialAccount& account) const {
+        return account.id == special_.retained_earnings;
+    }
+    bool IsUnrealized(const TrialAccount& account) const {
+        return account.id == special_.unrealized;
+    }
+    /// The account's balance as it prints. Of the unrealized account, with revaluation, it is minus
+    /// the difference that the accounts asked for before it have made.
+    Currency Amount(const TrialAccount& account);
+    /// The same without that exception: what the ledger says, revalued where the account is
+    /// foreign.
+    Currency BalanceOf(const TrialAccount& account);
+    /// The sum of the foreign amounts of its lines.
+    Currency ForeignBalance(const TrialAccount& account);
+
+    /// Revalued minus booked, over all accounts asked for so far and what was added.
+    Currency Difference() const { return difference_; }
+    void AddDifference(Currency difference) { difference_ += difference; }
+
+    /// The drill-down key of an account's line: its id, "GLUnrealized|" and the id, or nothing for
+    /// earnings.
+    std::string Key(const TrialAccount& account) const;
+
+  private:
+    BalanceScope ScopeFrom(Date from) const;
+    /// From the year start or from the beginning, by the account's type.
+    BalanceScope ScopeOf(const TrialAccount& account);
+    Currency Revalued(const TrialAccount& account);
+
+    Company& company_;
+    IExchangeRates& rates_;
+    SpecialAccounts special_;
+    Period period_;
+    std::int32_t home_currency_id_;
+    Currency difference_;
+};
+
+}  // namespace varnel::reports

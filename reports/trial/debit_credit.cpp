@@ -1,0 +1,26 @@
+#include "reports/trial/debit_credit.h"
+
+namespace varnel::reports {
+
+void PutAmount(Formats& formats, Control& control, Currency amount, std::string& scratch) {
+    scratch.clear();
+    formats.AppendAmount(amount, scratch);
+    control.SetValue(amount, scratch);
+}
+
+void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency amount,
+                  std::string& scratch) {
+    debit.Clear();
+    credit.Clear();
+    if (amount.IsZero()) return;
+    PutAmount(formats, amount > Currency() ? debit : credit, amount.Abs(), scratch);
+}
+
+void Adjust(Formats& formats, Control& debit, Control& credit, DebitCredit& totals,
+            std::string& scratch) {
+    const Currency missing = -totals.Difference();
+    totals.Add(missing);
+    PutOnItsSide(formats, debit, credit, missing, scratch);
+}
+
+}  // namespace varnel::reports

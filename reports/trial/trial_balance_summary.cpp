@@ -1,0 +1,202 @@
+#include "reports/trial/trial_balance_summary.h"
+
+#include "framework/exchange_rates_note.h"
+#include "framework/filter_sort_subreport.h"
+#include "framework/gl_config.h"
+#include "framework/item_adjustment_note.h"
+#include "framework/period_caption.h"
+#include "framework/query_runner.h"
+#include "framework/standard_header.h"
+#include "framework/texts.h"
+#include "reports/trial/trial_balance_summary_layout.h"
+
+namespace varnel::reports {
+
+using namespace framework;
+
+namespace {
+
+constexpr std::int16_t kAdjustment = 8571;
+constexpr Twips kGap = 60;
+
+constexpr std::string_view kSelect =
+    "SELECT GLAcct.InGLAcctId, GLAcct.GLAcctId, GLAcct.AcctType, "
+    "GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.Inactive, "
+    "WorldCurrency.CurrencyCode, WorldCurrency.Descr as WorldCurrencyDescr "
+    "FROM GLAcct LEFT JOIN WorldCurrency "
+    "ON WorldCurrency.InCurrencyId = GLAcct.ExCurrencyId";
+
+}  // namespace
+
+dsrTrialBalanceSummary::dsrTrialBalanceSummary()
+    : ReportBase(
+          TrialBalanceSummaryLayout(),
+          {.title_text = 30001, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
+      SegmentFilter(Members()),
+      FilterableReport(Members()),
+      RevaluedReport(Members()) {
+    Handle("PageHeader_Format", &dsrTrialBalanceSummary::PageHeader_Format);
+    Handle("Detail_Format", &dsrTrialBalanceSummary::Detail_Format);
+    Handle("ReportFooter_Format", &dsrTrialBalanceSummary::ReportFooter_Format);
+}
+
+void dsrTrialBalanceSummary::ChartColumns::Resolve(const Columns& columns) {
+    id = columns.At("InGLAcctId");
+    type = columns.At("AcctType");
+    currency_id = columns.At("ExCurrencyId");
+    currency_code = columns.At("CurrencyCode");
+    inactive = columns.At("Inactive");
+}
+
+void dsrTrialBalanceSummary::IReport_Initialize() {
+    ReportBase::IReport_Initialize();
+    Guard("IReport_Initialize", [&] {
+        auto& company = CurrentCompany();
+        Mark(),
+            special_.retained_earnings = company.GetGLAccountParam("GLRtainEarn", kCompanySection);
+        Mark(),
+            special_.current_earnings = company.GetGLAccountParam("GLCurntEarn", kCompanySection);
+    });
+}
+
+void dsrTrialBalanceSummary::IReportConfig_ShowConfigurationScreen() {
+    Guard("IReportConfig_ShowConfigurationScreen", [&] {
+        Mark(), include_zero_balances_ = AskIncludeZeroBalance(App(), include_zero_balances_);
+    });
+}
+
+void dsrTrialBalanceSummary::ActiveReport_Initialize() {
+    ReportBase::ActiveReport_Initialize();
+    Guard("ActiveReport_Initialize",
+          [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
+}
+
+void dsrTrialBalanceSummary::ActiveReport_ReportStart() {
+    Guard("ActiveReport_ReportStart", [&] {
+        totals_ = {};
+        amounts_.reset();
+        foreign_used_ = false;
+        const auto adjustments_from = (Mark(), InitGLtAjust(App()));
+        Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
+        PlaceColumns();
+        const std::string statement = BuildStatement();
+        Mark(), special_.unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
+        Mark(), amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, special_,
+                                                            BalancePeriod());
+        auto rows = (Mark(), RunQuery(App(), statement, {}));
+        Mark(), columns_.Resolve(rows->GetColumns());
+        Data().Attach(std::move(rows));
+        Mark(), At(kPeriodLabel).SetText(TrialPeriodCaption(App(), DateFrom(), DateTo()));
+        const auto custom = Criteria();
+        Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());
+        Mark(), ShowItemAdjustmentNote(App(), GetSurface(), adjustments_from, DateTo());
+    });
+}
+
+std::string dsrTrialBalanceSummary::BuildStatement() {
+    if (FilterTool* const tool = Tool()) Mark(), tool->SetTables("GLAcct");
+    const CustomCriteria custom = Criteria();
+    std::string statement(kSelect);
+    if (!custom.criteria.empty()) statement += " WHERE (" + custom.criteria + ") ";
+    return statement + custom.OrderClause(" ORDER BY ", " ORDER BY GLAcct.GLAcctId");
+}
+
+// With the period flag income statement accounts count from the first date of the period, which
+// then lies in an earlier year than its last.
+AccountAmounts::Period dsrTrialBalanceSummary::BalancePeriod() {
+    auto& company = CurrentCompany();
+    const bool from_first_date = (Mark(), company.PeriodTest(DateFrom(), DateTo()));
+    const Date year_start = from_first_date ? DateFrom() : (Mark(), FiscalYearStart());
+    return {.year_start = year_start,
+            .to = DateTo(),
+            .segment_clause = SegmentClauseOn("GLDet.ExSegmentId"),
+            .project_ids = {}};
+}
+
+void dsrTrialBalanceSummary::PlaceColumns() {
+    const bool foreign = DisplayForeignCurrency();
+    At("lblCurrency").SetVisible(foreign && foreign_used_);
+    Control& code_caption = At("lblCodeCap");
+    txtAcctId.SetVisible(use_account_numbers_);
+    code_caption.SetVisible(use_account_numbers_);
+    const Twips left = use_account_numbers_ ? txtDescr.Place().left : txtAcctId.Place().left;
+    const Twips right = (foreign ? txtCurrency : txtDebit).Place().left - kGap;
+    for (Control* control : {&txtDescr, &At("lblDescrCap")}) {
+        control->SetLeft(left);
+        control->SetWidth(right - left);
+    }
+}
+
+TrialAccount dsrTrialBalanceSummary::CurrentAccount() const {
+    const Row& row = CurrentRow();
+    const std::int32_t currency = (Mark(), row.Integer(columns_.currency_id));
+    return {.id = row.Integer(columns_.id),
+            .type = row.Integer(columns_.type),
+            .currency_id = currency == 0 ? HomeCurrencyId() : currency};
+}
+
+void dsrTrialBalanceSummary::ShowForeignBalance(const TrialAccount& account) {
+    if (!DisplayForeignCurrency() || account.currency_id == HomeCurrencyId()) return;
+    const Currency foreign = (Mark(), amounts_->ForeignBalance(account));
+    if (foreign.IsZero()) return;
+    text_.clear();
+    Mark(), App().GetFormats().AppendAmount(foreign, text_);
+    text_ += ' ';
+    Mark(), CurrentRow().AppendText(columns_.currency_code, text_);
+    txtCurrency.SetValue(foreign, text_);
+    txtCurrency.SetVisible(true);
+}
+
+bool dsrTrialBalanceSummary::IsLeftOut(Currency amount) const {
+    return amount.IsZero() && (!include_zero_balances_ || CurrentRow().Truth(columns_.inactive));
+}
+
+// The amount and its total come before anything is formatted.
+void dsrTrialBalanceSummary::Detail_Format() {
+    if (EndOfData()) return;
+    txtDebit.Clear();
+    txtCredit.Clear();
+    txtCurrency.SetVisible(false);
+    const TrialAccount account = CurrentAccount();
+    for (Control* control : {&txtDebit, &txtCredit, &txtAcctId, &txtDescr})
+        control->SetTag(amounts_->Key(account));
+    const Currency amount = (Mark(), amounts_->Amount(account));
+    if (IsLeftOut(amount)) return Detail.Skip();
+    totals_.Add(amount);
+    if (!amounts_->IsRetainedEarnings(account)) ShowForeignBalance(account);
+    Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
+}
+
+void dsrTrialBalanceSummary::PageHeader_Format() {
+    const bool shown = IExchangeRates_Reevaluate();
+    Mark(), ShowExchangeRatesNote(App(), GetSurface(), *this, shown);
+    ReplacePageHeaderControls(PageHeader);
+}
+
+// Without the line the totals move up into its place.
+void dsrTrialBalanceSummary::SeAdjControlsPosition(bool visible) {
+    const Twips up = At("linDebitGrandTotal").Design().box.top - txtDescrAdj.Design().box.top;
+    for (Control* control : {&txtDescrAdj, &txtDebitAdj, &txtCreditAdj})
+        control->SetVisible(visible);
+    for (const auto* name : {"linDebitGrandTotal", "linCreditGrandTotal", "lblGrTotal",
+                             "txtDebitGrandTotal", "txtCreditGrandTotal"})
+        At(name).SetTop(At(name).Design().box.top - (visible ? 0 : up));
+    ReportFooter.SetHeight(ReportFooter.Design().height - (visible ? 0 : up));
+}
+
+void dsrTrialBalanceSummary::SetAdjControlsValue() {
+    Mark(), txtDescrAdj.SetText(PlainText(App(), kAdjustment));
+    Mark(), Adjust(App().GetFormats(), txtDebitAdj, txtCreditAdj, totals_, text_);
+}
+
+void dsrTrialBalanceSummary::ReportFooter_Format() {
+    for (Control* control : {&txtDescrAdj, &txtDebitAdj, &txtCreditAdj}) control->Clear();
+    const bool adjusts = IsSegmentFiltered() && !totals_.Difference().IsZero();
+    SeAdjControlsPosition(adjusts);
+    if (adjusts) SetAdjControlsValue();
+    auto& formats = App().GetFormats();
+    Mark(), PutAmount(formats, txtDebitGrandTotal, totals_.debit, text_);
+    Mark(), PutAmount(formats, txtCreditGrandTotal, totals_.credit, text_);
+}
+
+}  // namespace varnel::reports

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "framework/custom_criteria.h"
+#include "framework/report_base.h"
+#include "framework/revalued_report.h"
+#include "framework/segment_filter.h"
+#include "reports/trial/account_amounts.h"
+#include "reports/trial/debit_credit.h"
+
+namespace varnel::reports {
+
+/// Trial balance summary: one line an account with its balance at the end of the period, in a debit
+/// or a credit column.
+class dsrTrialBalanceSummary final : public framework::ReportBase,
+                                     public framework::SegmentFilter,
+                                     public framework::FilterableReport,
+                                     public framework::RevaluedReport,
+                                     public IReportConfig {
+  public:
+    dsrTrialBalanceSummary();
+
+    void IReport_Initialize() override;
+    void IReportConfig_ShowConfigurationScreen() override;
+    void ActiveReport_Initialize() override;
+    void ActiveReport_ReportStart() override;
+
+  private:
+    struct ChartColumns {
+        Column id, type, currency_id, currency_code, inactive;
+        void Resolve(const Columns& columns);
+    };
+
+    std::string BuildStatement();
+    AccountAmounts::Period BalancePeriod();
+    void PlaceColumns();
+    TrialAccount CurrentAccount() const;
+    void ShowForeignBalance(const TrialAccount& account);
+    bool IsLeftOut(Currency amount) const;
+    void SeAdjControlsPosition(bool visible);
+    void SetAdjControlsValue();
+
+    void PageHeader_Format();
+    void Detail_Format();
+    void ReportFooter_Format();
+
+    ChartColumns columns_;
+    std::unique_ptr<AccountAmounts> amounts_;
+    AccountAmounts::SpecialAccounts special_;
+    DebitCredit totals_;
+    bool include_zero_balances_ = false;
+    bool use_account_numbers_ = false;
+    bool foreign_used_ = false;
+    std::string text_;  // Scratch for texts built row by row.
+
+    Section& PageHeader = SectionAt("PageHeader");
+    Section& Detail = SectionAt("Detail");
+    Section& ReportFooter = SectionAt("ReportFooter");
+    Control& txtAcctId = At("txtAcctId");
+    Control& txtDescr = At("txtDescr");
+    Control& txtCurrency = At("txtCurrency");
+    Control& txtDebit = At("txtDebit");
+    Control& txtCredit = At("txtCredit");
+    Control& txtDescrAdj = At("txtDescrAdj");
+    Control& txtDebitAdj = At("txtDebitAdj");
+    Control& txtCreditAdj = At("txtCreditAdj");
+    Control& txtDebitGrandTotal = At("txtDebitGrandTotal");
+    Control& txtCreditGrandTotal = At("txtCreditGrandTotal");
+};
+
+}  // namespace varnel::reports

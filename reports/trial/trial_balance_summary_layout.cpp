@@ -1,0 +1,83 @@
+#include "reports/trial/trial_balance_summary_layout.h"
+
+#include "framework/exchange_rates_note.h"
+#include "framework/item_adjustment_note.h"
+#include "framework/layout_parts.h"
+#include "framework/standard_header.h"
+
+namespace varnel::reports {
+
+namespace {
+
+using namespace framework;
+
+constexpr auto kCode = ColumnPlace::Left(0, 1'200);
+constexpr auto kDescription = ColumnPlace::Left(1'260, 4'500, Stretch::kWiden);
+constexpr auto kForeign = ColumnPlace::Amount(5'820, 1'880);
+constexpr auto kDebit = ColumnPlace::Amount(7'760, 1'490);
+constexpr auto kCredit = ColumnPlace::Amount(9'310, 1'490);
+// Of the report footer: the adjusting line, then the totals.
+constexpr Twips kAdjustmentTop = 40;
+constexpr Twips kTotalRuleTop = 320;
+constexpr Twips kTotalTop = 360;
+
+std::vector<ControlLayout> Captions() {
+    auto currency = ColumnCaption("lblCurrency", kForeign, 5846);
+    currency.visible = false;
+    return {ColumnCaption("lblCodeCap", kCode, 1741),
+            ColumnCaption("lblDescrCap", kDescription, 1789),
+            currency,
+            ColumnCaption("lblDebitCap", kDebit, 2656),
+            ColumnCaption("lblCreditCap", kCredit, 2657),
+            CaptionRule()};
+}
+
+SectionLayout Accounts() {
+    auto code = ColumnText("txtAcctId", kCode, 0, kBody, "code");
+    code.data_field = "GLAcctId";
+    auto description = ColumnText("txtDescr", kDescription, 0, kBody, "description");
+    description.data_field = "Descr";
+    description.can_grow = true;
+    auto foreign = ColumnText("txtCurrency", kForeign, 0, kQuiet, "foreign");
+    foreign.visible = false;
+    return {
+        .name = "Detail",
+        .kind = SectionKind::kDetail,
+        .height = kDetailHeight,
+        .controls = {code, description, foreign, ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
+                     ColumnText("txtCredit", kCredit, 0, kBody, "credit")}};
+}
+
+SectionLayout Totals() {
+    return {.name = "ReportFooter",
+            .kind = SectionKind::kReportFooter,
+            .height = kReportFooterHeight,
+            .controls = {
+                ColumnText("txtDescrAdj", kDescription, kAdjustmentTop, kRemark, "description"),
+                ColumnText("txtDebitAdj", kDebit, kAdjustmentTop, kBody, "debit"),
+                ColumnText("txtCreditAdj", kCredit, kAdjustmentTop, kBody, "credit"),
+                TotalRule("linDebitGrandTotal", kDebit, kTotalRuleTop, kThick),
+                TotalRule("linCreditGrandTotal", kCredit, kTotalRuleTop, kThick),
+                ColumnLabel("lblGrTotal", kDescription, kTotalTop, kBodyBold, 1641),
+                ColumnText("txtDebitGrandTotal", kDebit, kTotalTop, kBodyBold, "debit"),
+                ColumnText("txtCreditGrandTotal", kCredit, kTotalTop, kBodyBold, "credit")}};
+}
+
+}  // namespace
+
+const Layout& TrialBalanceSummaryLayout() {
+    static const Layout layout{.name = "dsrTrialBalanceSummary",
+                               .sections = {{.name = "PageHeader",
+                                             .kind = SectionKind::kPageHeader,
+                                             .height = 1'260,
+                                             .controls = PageHeaderControlsWithRates(Captions())},
+                                            Accounts(),
+                                            {.name = "PageFooter",
+                                             .kind = SectionKind::kPageFooter,
+                                             .height = kPageFooterHeight,
+                                             .controls = {ItemAdjustmentNoteControl()}},
+                                            Totals()}};
+    return layout;
+}
+
+}  // namespace varnel::reports
