@@ -56,7 +56,7 @@ void CheckTerminal(const RunRequest& request) {
     if (request.configure && !TerminalShowsDialogs())
         throw UsageError(
             "--configure needs a terminal to show the dialog on; "
-            "without one set its check boxes by --option NAME=YES|NO");
+            "without one set its check boxes by --option NAME=yes");
 }
 
 std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
@@ -133,8 +133,8 @@ int RunReport(const RunRequest& request, Console& console) {
     const auto report = MakeReport(entry, entry.arguments(settings, *host));
     if (report == nullptr) return Conclude(log, false, console);
     ConfigureReport(*report, host, request, settings);
-    if (log.Count() == 0) ConfigureOptions(*report, *dialogs, settings, request.configure);
-    ThrowIfInterrupted();
+    if (auto* config = dynamic_cast<IReportConfig*>(report.get()); config && log.Count() == 0)
+        ConfigureOptions(*config, *dialogs, settings.options, request.configure);
     if (log.Count() > 0) return Conclude(log, false, console);
 
     OutputFile output(request.output.empty() ? "-" : request.output);

@@ -72,19 +72,6 @@ RunSettings::Property ReadProperty(const std::string& text) {
     return {name, text.substr(equals + 1)};
 }
 
-std::pair<std::string, std::string> ReadOption(const std::string& text) {
-    const auto equals = text.rfind('=');
-    if (equals == 0 || equals == std::string::npos)
-        throw UsageError("--option: \"" + text + "\" is no option; write name=yes or name=no");
-    const std::string name = text.substr(0, equals);
-    const std::string value = text.substr(equals + 1);
-    for (const auto* yes : {"yes", "true", "1"})
-        if (SameName(value, yes)) return {name, "True"};
-    for (const auto* no : {"no", "false", "0"})
-        if (SameName(value, no)) return {name, "False"};
-    throw UsageError("--option " + name + ": \"" + value + "\" is neither yes nor no");
-}
-
 /// The name, in its own case, that the value stands for in any case.
 std::string_view ReadChoice(std::string_view thing, std::string_view value,
                             std::span<const std::string_view> names) {
@@ -131,7 +118,7 @@ RunSettings ReadSettings(const RunRequest& request) {
     settings.rates = ReadRates(request.rates, request.rates_file);
     for (const auto& property : request.properties)
         settings.properties.push_back(ReadProperty(property));
-    for (const auto& option : request.options) settings.options.push_back(ReadOption(option));
+    for (const auto& option : request.options) settings.options.push_back(ReadAnswer(option));
     CheckFilter(request.filter);
     settings.language = ReadLanguage(request.language);
     settings.page = ReadPage(request.paper, request.landscape);

@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
+#include "cli/configure_options.h"
 #include "cli/run_request.h"
 #include "company/services/given_rates.h"
 #include "engine/document.h"
@@ -27,8 +27,7 @@ struct RunSettings {
     std::optional<Date> session_date;
     std::vector<company::GivenRate> rates;
     std::vector<Property> properties;
-    /// Check boxes of the report's dialog, with "True" or "False".
-    std::vector<std::pair<std::string, std::string>> options;
+    OptionAnswers options;
     std::string language;
     engine::PageSetup page;
 };

@@ -27,7 +27,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 STANDARD_HEADER = re.compile(r"[a-z_0-9]+")
 VENDOR_HEADER = re.compile(
     r"sqlite3\.h|sql(ext|types|ucode)?\.h|(harfbuzz/)?hb(-[\w-]+)?\.h|unicode/.*|libdeflate\.h"
-    r"|CLI/.*|newt\.h")
+    r"|CLI/.*|(n?curses|term)\.h")
 
 
 def home_of(path):

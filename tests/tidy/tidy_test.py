@@ -78,7 +78,7 @@ class Folders(MadeUpTree):
     def test_vendor_and_standard_headers_in_place_are_left_alone(self):
         for path, target in [
                 ("drivers/a.cpp", "<sqlite3.h>"), ("render/a.h", "<hb.h>"),
-                ("cli/a.cpp", "<newt.h>"), ("bench/a.cpp", "<sqlite3.h>"),
+                ("cli/a.cpp", "<curses.h>"), ("bench/a.cpp", "<sqlite3.h>"),
                 ("host/a.h", "<cstdint>")]:
             with self.subTest(path=path, target=target):
                 self.assertEqual(self.including(path, target), [])
