@@ -38,12 +38,13 @@ void ShowExchangeRatesNote(Application& application, Surface& surface, IExchange
                            bool wanted) {
     Control& note = surface.At(kExchangeRatesNote);
     auto& info = application.CurrentContext().CurrentCompany().GetCurrencyInfo();
-    const bool shown = wanted && info.CieIsForeignCurrencyUsed();
+    std::string legend;
+    if (wanted && info.CieIsForeignCurrencyUsed())
+        legend = info.GetCurrencies().GetCurrenciesLegend(rates);
+    const bool shown = !legend.empty();
     SetHeaderBlockHeight(surface, kHeaderBlockHeight + (shown ? kNoteHeight : 0));
     note.SetVisible(shown);
-    note.SetText(
-        shown ? ExchangeRatesText(application, info.GetCurrencies().GetCurrenciesLegend(rates))
-              : std::string());
+    note.SetText(shown ? ExchangeRatesText(application, legend) : std::string());
 }
 
 }  // namespace varnel::framework

@@ -18,8 +18,8 @@ inline constexpr std::string_view kExchangeRatesNote = "txtExchangeRate";
 /// "Exchange rates (" + `what` + ")" in the user's language.
 std::string ExchangeRatesText(Application& application, std::string_view what);
 
-/// Puts the legend of the rates into the page header, or takes the line away when it is not wanted
-/// and in a company of one currency. Comes before ReplacePageHeaderControls.
+/// Puts the legend of the rates into the page header, or takes the line away when it is not wanted,
+/// in a company of one currency and without rates. Comes before ReplacePageHeaderControls.
 void ShowExchangeRatesNote(Application& application, Surface& surface, IExchangeRates& rates,
                            bool wanted = true);
 

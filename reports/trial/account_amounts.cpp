@@ -4,6 +4,11 @@
 
 namespace varnel::reports {
 
+SpecialAccounts ReadEarningsAccounts(Company& company) {
+    return {.retained_earnings = company.GetGLAccountParam("GLRtainEarn", kCompanySection),
+            .current_earnings = company.GetGLAccountParam("GLCurntEarn", kCompanySection)};
+}
+
 AccountAmounts::AccountAmounts(Company& company, IExchangeRates& rates,
                                const SpecialAccounts& special, const Period& period)
     : company_(company),

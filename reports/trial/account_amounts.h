@@ -16,6 +16,16 @@ struct TrialAccount {
     std::int32_t currency_id = 0;
 };
 
+/// Accounts with a rule of their own, by internal id; 0 where the company has none.
+struct SpecialAccounts {
+    std::int32_t retained_earnings = 0;
+    std::int32_t current_earnings = 0;
+    std::int32_t unrealized = 0;
+};
+
+/// Retained and current earnings, as the company's parameters have them.
+SpecialAccounts ReadEarningsAccounts(Company& company);
+
 /// What trial balances and the GIFI report say an account's balance is, debit positive. Income
 /// statement accounts count from the start of the year, all others from the beginning; retained
 /// earnings carry the results of the years before; with revaluation foreign accounts count at the
@@ -30,11 +40,6 @@ class AccountAmounts {
         std::string segment_clause;
         /// Comma-separated project ids; empty takes all lines.
         std::string project_ids;
-    };
-    struct SpecialAccounts {
-        std::int32_t retained_earnings = 0;
-        std::int32_t current_earnings = 0;
-        std::int32_t unrealized = 0;
     };
 
     /// Company and rates must outlive it.

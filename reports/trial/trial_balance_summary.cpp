@@ -50,13 +50,7 @@ void dsrTrialBalanceSummary::ChartColumns::Resolve(const Columns& columns) {
 
 void dsrTrialBalanceSummary::IReport_Initialize() {
     ReportBase::IReport_Initialize();
-    Guard("IReport_Initialize", [&] {
-        auto& company = CurrentCompany();
-        Mark(),
-            special_.retained_earnings = company.GetGLAccountParam("GLRtainEarn", kCompanySection);
-        Mark(),
-            special_.current_earnings = company.GetGLAccountParam("GLCurntEarn", kCompanySection);
-    });
+    Guard("IReport_Initialize", [&] { Mark(), special_ = ReadEarningsAccounts(CurrentCompany()); });
 }
 
 void dsrTrialBalanceSummary::IReportConfig_ShowConfigurationScreen() {

@@ -49,7 +49,7 @@ class dsrTrialBalanceSummary final : public framework::ReportBase,
 
     ChartColumns columns_;
     std::unique_ptr<AccountAmounts> amounts_;
-    AccountAmounts::SpecialAccounts special_;
+    SpecialAccounts special_;
     DebitCredit totals_;
     bool include_zero_balances_ = false;
     bool use_account_numbers_ = false;

@@ -1,0 +1,157 @@
+#include "reports/trial/gifi_report.h"
+
+#include <limits>
+
+#include "framework/exchange_rates_note.h"
+#include "framework/filter_sort_subreport.h"
+#include "framework/item_adjustment_note.h"
+#include "framework/period_caption.h"
+#include "framework/query_runner.h"
+#include "framework/standard_header.h"
+#include "framework/texts.h"
+#include "reports/trial/debit_credit.h"
+#include "reports/trial/gifi_report_layout.h"
+
+namespace varnel::reports {
+
+using namespace framework;
+
+namespace {
+
+constexpr std::int16_t kCodes = 7630;
+
+constexpr std::string_view kSelect =
+    "SELECT GLAcct.InGLAcctId, GLAcct.GLAcctId, GLAcct.Descr, GLAcct.ExCurrencyId, "
+    "GLAcct.AcctType, GLAcct.GIFIAcctId, WorldCurrency.CurrencyCode "
+    "FROM GLAcct LEFT JOIN "
+    "WorldCurrency ON GLAcct.ExCurrencyId = WorldCurrency.InCurrencyId "
+    "WHERE (Inactive = 0 OR Inactive IS NULL) AND GIFIAcctId <> '' ";
+
+}  // namespace
+
+dsrGIFIReport::dsrGIFIReport()
+    : ReportBase(
+          GifiReportLayout(),
+          {.title_text = 30007, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
+      SegmentFilter(Members()),
+      FilterableReport(Members()),
+      RevaluedReport(Members()) {
+    Handle("PageHeader_Format", &dsrGIFIReport::PageHeader_Format);
+    Handle("ghGIFI_Format", &dsrGIFIReport::ghGIFI_Format);
+    Handle("Detail_Format", &dsrGIFIReport::Detail_Format);
+    Handle("gfGIFI_Format", &dsrGIFIReport::gfGIFI_Format);
+    Handle("ReportFooter_Format", &dsrGIFIReport::ReportFooter_Format);
+}
+
+void dsrGIFIReport::ChartColumns::Resolve(const Columns& columns) {
+    id = columns.At("InGLAcctId");
+    number = columns.At("GLAcctId");
+    description = columns.At("Descr");
+    type = columns.At("AcctType");
+    currency_id = columns.At("ExCurrencyId");
+}
+
+void dsrGIFIReport::IReport_Initialize() {
+    ReportBase::IReport_Initialize();
+    Guard("IReport_Initialize", [&] { Mark(), special_ = ReadEarningsAccounts(CurrentCompany()); });
+}
+
+void dsrGIFIReport::ActiveReport_Initialize() {
+    ReportBase::ActiveReport_Initialize();
+    Guard("ActiveReport_Initialize",
+          [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
+}
+
+void dsrGIFIReport::ActiveReport_ReportStart() {
+    Guard("ActiveReport_ReportStart", [&] {
+        total_ = {};
+        count_ = 0;
+        amounts_.reset();
+        const auto adjustments_from = (Mark(), InitGLtAjust(App()));
+        const std::string statement = BuildStatement();
+        Mark(), special_.unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
+        const auto period = BalancePeriod();
+        Mark(),
+            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, special_, period);
+        auto rows = (Mark(), RunQuery(App(), statement, {}));
+        Mark(), columns_.Resolve(rows->GetColumns());
+        Data().Attach(std::move(rows));
+        Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
+        const auto custom = Criteria();
+        Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());
+        Mark(), ShowItemAdjustmentNote(App(), GetSurface(), adjustments_from, DateTo());
+    });
+}
+
+// The code leads every ordering: it is what the lines are grouped by.
+std::string dsrGIFIReport::BuildStatement() {
+    if (FilterTool* const tool = Tool()) Mark(), tool->SetTables("GLAcct, WorldCurrency");
+    const CustomCriteria custom = Criteria();
+    return std::string(kSelect) + custom.AndClause() +
+           custom.OrderClause(" ORDER BY GIFIAcctId, ", " ORDER BY GIFIAcctId, GLAcctId");
+}
+
+AccountAmounts::Period dsrGIFIReport::BalancePeriod() {
+    const Date year_start = (Mark(), FiscalYearStart());
+    return {.year_start = year_start,
+            .to = DateTo(),
+            .segment_clause = SegmentClauseOn("GLDet.ExSegmentId"),
+            .project_ids = {}};
+}
+
+TrialAccount dsrGIFIReport::CurrentAccount() const {
+    const Row& row = CurrentRow();
+    const bool own_currency = !row.IsNull(columns_.currency_id);
+    return {.id = (Mark(), row.Integer(columns_.id)),
+            .type = (Mark(), row.Integer(columns_.type)),
+            .currency_id =
+                own_currency ? (Mark(), row.Integer(columns_.currency_id)) : HomeCurrencyId()};
+}
+
+void dsrGIFIReport::ShowAccount(const TrialAccount& account) {
+    const Row& row = CurrentRow();
+    text_.clear();
+    if (use_account_numbers_) {
+        Mark(), row.AppendText(columns_.number, text_);
+        text_ += " - ";
+    }
+    Mark(), text_ += row.Text(columns_.description);
+    txtDescr.SetText(text_);
+    const std::string key = amounts_->Key(account);
+    txtDescr.SetTag(key);
+    txtAmount.SetTag(key);
+}
+
+void dsrGIFIReport::PageHeader_Format() {
+    Mark(), ShowExchangeRatesNote(App(), GetSurface(), *this);
+    ReplacePageHeaderControls(PageHeader);
+}
+
+void dsrGIFIReport::ghGIFI_Format() {
+    total_ = {};
+    if (count_ == std::numeric_limits<std::int32_t>::max())
+        Raise(error_number::kOverflow, "Varnel", "There are more GIFI codes than can be counted");
+    ++count_;
+}
+
+void dsrGIFIReport::Detail_Format() {
+    if (EndOfData()) return;
+    txtAmount.Clear();
+    const TrialAccount account = CurrentAccount();
+    ShowAccount(account);
+    const Currency amount = (Mark(), amounts_->Amount(account));
+    if (amount.IsZero()) return Detail.Skip();
+    total_ += amount;
+    Mark(), PutAmount(App().GetFormats(), txtAmount, amount, text_);
+}
+
+void dsrGIFIReport::gfGIFI_Format() {
+    txtTotal.Clear();
+    Mark(), PutAmount(App().GetFormats(), txtTotal, total_, text_);
+}
+
+void dsrGIFIReport::ReportFooter_Format() {
+    Mark(), txtCount.SetValue(count_, std::to_string(count_) + " " + PlainText(App(), kCodes));
+}
+
+}  // namespace varnel::reports

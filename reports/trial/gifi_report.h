@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "framework/custom_criteria.h"
+#include "framework/report_base.h"
+#include "framework/revalued_report.h"
+#include "framework/segment_filter.h"
+#include "reports/trial/account_amounts.h"
+
+namespace varnel::reports {
+
+/// GIFI report: the balance of every active account that has a GIFI code, grouped by code with a
+/// total each. Debit positive.
+class dsrGIFIReport final : public framework::ReportBase,
+                            public framework::SegmentFilter,
+                            public framework::FilterableReport,
+                            public framework::RevaluedReport {
+  public:
+    dsrGIFIReport();
+
+    void IReport_Initialize() override;
+    void ActiveReport_Initialize() override;
+    void ActiveReport_ReportStart() override;
+
+  private:
+    struct ChartColumns {
+        Column id, number, description, type, currency_id;
+        void Resolve(const Columns& columns);
+    };
+
+    std::string BuildStatement();
+    AccountAmounts::Period BalancePeriod();
+    TrialAccount CurrentAccount() const;
+    void ShowAccount(const TrialAccount& account);
+
+    void PageHeader_Format();
+    void ghGIFI_Format();
+    void Detail_Format();
+    void gfGIFI_Format();
+    void ReportFooter_Format();
+
+    ChartColumns columns_;
+    std::unique_ptr<AccountAmounts> amounts_;
+    SpecialAccounts special_;
+    Currency total_;
+    std::int32_t count_ = 0;
+    bool use_account_numbers_ = false;
+    std::string text_;  // Scratch for texts built row by row.
+
+    Section& PageHeader = SectionAt("PageHeader");
+    Section& Detail = SectionAt("Detail");
+    Control& txtDescr = At("txtDescr");
+    Control& txtAmount = At("txtAmount");
+    Control& txtTotal = At("txtTotal");
+    Control& txtCount = At("txtCount");
+};
+
+}  // namespace varnel::reports
