@@ -2,6 +2,7 @@
 
 #include "accounts/cgl_acct.h"
 #include "accounts/cgl_accts.h"
+#include "reports/exchange/realized_exchange.h"
 #include "reports/journal/general_journal.h"
 
 namespace varnel::framework {
@@ -33,7 +34,7 @@ constexpr CatalogueEntry kReports[] = {
     {"dsrCurrentBankReconciliation", 30009, nullptr},
     {"dsrUnRealExchProfitloss", 30010, nullptr},
     {"dsrUnRealExchProfitlossDetail", 30011, nullptr},
-    {"dsrRealizedExchProfitloss", 30012, nullptr},
+    {"dsrRealizedExchProfitloss", 30012, Make<reports::dsrRealizedExchProfitloss>},
 };
 
 constexpr PublicClass kClasses[] = {

@@ -1,0 +1,277 @@
+#include "reports/exchange/realized_exchange.h"
+
+#include <utility>
+
+#include "framework/dialect.h"
+#include "framework/filter_sort_subreport.h"
+#include "framework/period_caption.h"
+#include "framework/query_runner.h"
+#include "framework/standard_header.h"
+#include "framework/texts.h"
+#include "reports/exchange/account_caption.h"
+#include "reports/exchange/realized_exchange_layout.h"
+
+namespace varnel::reports {
+
+using namespace framework;
+
+namespace {
+
+constexpr std::int16_t kCurrencyCaption = 5846;
+
+constexpr std::string_view kSelect =
+    "SELECT CurrPmtDet_View.PmtAmnt, CurrPmtDet_View.PmtDisc, "
+    "CurrPmtDet_View.ExchangeRate, CurrPmtDet_View.PmtRate, "
+    "CurrPmtDet_View.CurrPmtType, CurrPmtDet_View.Source, "
+    "CurrPmtDet_View.InInvoiId, CurrPmtDet_View.InPmtId, "
+    "CurrPmtDet_View.ExCurrencyId, CurrPmtDet_View.ExGLAcctId, "
+    "CurrPmtDet_View.PmtDate, CurrPmtDet_View.Name, CurrPmtDet_View.InvoiId, "
+    "CurrPmtDet_View.ChqNo, WorldCurrency.CurrencyCode, WorldCurrency.Descr, ";
+constexpr std::string_view kDesktopDescription =
+    "(WorldCurrency.CurrencyCode & ' - ' & WorldCurrency.Descr) AS FullCurrencyDescr ";
+constexpr std::string_view kServerDescription =
+    "(WorldCurrency.CurrencyCode + ' - ' + WorldCurrency.Descr) AS FullCurrencyDescr ";
+constexpr std::string_view kFrom =
+    "FROM CurrPmtDet_View LEFT JOIN WorldCurrency "
+    "ON WorldCurrency.InCurrencyId = CurrPmtDet_View.ExCurrencyId "
+    "WHERE CurrPmtDet_View.PmtDate BETWEEN ? AND ? "
+    "AND CurrPmtDet_View.ExCurrencyId <> ? ";
+
+/// What the host opens for a kind of payment, and where its control account stands.
+struct PaymentKind {
+    std::int32_t type;
+    std::string_view key;
+    /// The currency's own account; null for payments that name theirs row by row.
+    std::int32_t CurrencyRecord::*currency_account;
+    std::string_view company_account;
+};
+
+constexpr PaymentKind kKinds[] = {
+    {payment_type::kCustomerPayment, "PMT|", &CurrencyRecord::ar_account_id, "CustGLAR"},
+    {payment_type::kSupplierCheque, "CDI|", &CurrencyRecord::ap_account_id, "SuppGLAP"},
+    {payment_type::kDeposit, "DEP|", nullptr, {}},
+};
+
+const PaymentKind* KindOf(std::int32_t payment_type) {
+    for (const auto& kind : kKinds)
+        if (kind.type == payment_type) return &kind;
+    return nullptr;
+}
+
+/// Four decimals, or as many more as the rate has. Exact through the binary number for every rate
+/// below 90 million.
+void AppendRate(Formats& formats, Rate rate, std::string& out) {
+    int decimals = Rate::kDecimals;
+    for (auto scaled = rate.Scaled(); decimals > 4 && scaled % 10 == 0; scaled /= 10) --decimals;
+    const double number = static_cast<double>(rate.Scaled()) / static_cast<double>(Rate::kScale);
+    formats.AppendNumber(number, decimals, out);
+}
+
+}  // namespace
+
+dsrRealizedExchProfitloss::dsrRealizedExchProfitloss()
+    : ReportBase(RealizedExchangeLayout(),
+                 {.title_text = 30012, .date_display = DateDisplay::kFromTo}),
+      SegmentFilter(Members()),
+      FilterableReport(Members()) {
+    Handle("PageHeader_Format", &dsrRealizedExchProfitloss::PageHeader_Format);
+    Handle("ghCurrency_Format", &dsrRealizedExchProfitloss::ghCurrency_Format);
+    Handle("ghCurrPmtType_Format", &dsrRealizedExchProfitloss::ghCurrPmtType_Format);
+    Handle("Detail_Format", &dsrRealizedExchProfitloss::Detail_Format);
+    Handle("gfCurrPmtType_Format", &dsrRealizedExchProfitloss::gfCurrPmtType_Format);
+    Handle("ReportFooter_Format", &dsrRealizedExchProfitloss::ReportFooter_Format);
+}
+
+void dsrRealizedExchProfitloss::PaymentColumns::Resolve(const Columns& columns) {
+    amount = columns.At("PmtAmnt");
+    discount = columns.At("PmtDisc");
+    invoice_rate = columns.At("ExchangeRate");
+    payment_rate = columns.At("PmtRate");
+    type = columns.At("CurrPmtType");
+    source = columns.At("Source");
+    invoice_id = columns.At("InInvoiId");
+    payment_id = columns.At("InPmtId");
+    currency_id = columns.At("ExCurrencyId");
+    account_id = columns.At("ExGLAcctId");
+    date = columns.At("PmtDate");
+    currency_code = columns.At("CurrencyCode");
+}
+
+void dsrRealizedExchProfitloss::ActiveReport_Initialize() {
+    ReportBase::ActiveReport_Initialize();
+    Guard("ActiveReport_Initialize",
+          [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
+}
+
+void dsrRealizedExchProfitloss::ActiveReport_ReportStart() {
+    Guard("ActiveReport_ReportStart", [&] {
+        group_ = {};
+        report_gain_ = {};
+        currency_id_ = 0;
+        payment_type_ = 0;
+        foreign_used_ = false;
+        Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
+        LoadAccounts();
+        const std::string statement = BuildStatement();
+        const Variant parameters[] = {DateFrom(), DateTo(), HomeCurrencyId()};
+        auto rows = (Mark(), RunQuery(App(), statement, parameters));
+        Mark(), columns_.Resolve(rows->GetColumns());
+        Data().Attach(std::move(rows));
+        Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
+        const auto custom = Criteria();
+        Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());
+    });
+}
+
+void dsrRealizedExchProfitloss::ActiveReport_Terminate() { accounts_.reset(); }
+
+// Before the rows are asked for: a query beside an open row set may end it in some databases.
+void dsrRealizedExchProfitloss::LoadAccounts() {
+    accounts_.emplace();
+    Mark(), accounts_->Init(AppRef(), 0);
+}
+
+std::string dsrRealizedExchProfitloss::BuildStatement() {
+    const auto dialect = (Mark(), DialectOf(App().CurrentContext().Database()));
+    std::string statement(kSelect);
+    statement += dialect == Dialect::kDesktop ? kDesktopDescription : kServerDescription;
+    statement += kFrom;
+    if (FilterTool* const tool = Tool(); tool != nullptr)
+        Mark(), tool->SetTables("CurrPmtDet_View, WorldCurrency");
+    if (IsSegmentFiltered())
+        statement += " AND " + SegmentClauseOn("CurrPmtDet_View.ExSegmentId") + " ";
+    const CustomCriteria custom = Criteria();
+    statement += custom.AndClause();
+    statement += custom.OrderClause(
+        " ORDER BY ExCurrencyId, CurrPmtType, CurrPmtDet_View.PmtDate, ",
+        " ORDER BY  ExCurrencyId, CurrPmtType, CurrPmtDet_View.PmtDate, CurrPmtDet_View.ChqNo ");
+    return statement;
+}
+
+void dsrRealizedExchProfitloss::PageHeader_Format() { ReplacePageHeaderControls(PageHeader); }
+
+void dsrRealizedExchProfitloss::ghCurrency_Format() {
+    txtCurrency.Clear();
+    currency_id_ = 0;
+    ghCurrency.SetVisible(foreign_used_);
+    if (EndOfData()) return;
+    Mark(), currency_id_ = CurrentRow().Integer(columns_.currency_id);
+    if (!foreign_used_) return;
+    Mark(), text_ = PlainText(App(), kCurrencyCaption);
+    text_ += ' ';
+    CurrentRow().AppendText(columns_.currency_code, text_);
+    txtCurrency.SetText(text_);
+}
+
+std::int32_t dsrRealizedExchProfitloss::ControlAccountId() {
+    const PaymentKind* const kind = KindOf(payment_type_);
+    if (kind == nullptr) return 0;
+    if (kind->currency_account == nullptr)
+        return (Mark(), CurrentRow().Integer(columns_.account_id));
+    if (foreign_used_ && currency_id_ != HomeCurrencyId())
+        return (Mark(),
+                GetCurrencyInfo().GetCurrencies().Item(currency_id_).*kind->currency_account);
+    return (Mark(), CurrentCompany().GetGLAccountParam(kind->company_account, kCompanySection));
+}
+
+void dsrRealizedExchProfitloss::ghCurrPmtType_Format() {
+    txtAccount.Clear();
+    txtAccount.SetTag({});
+    payment_type_ = 0;
+    if (EndOfData()) return;
+    Mark(), payment_type_ = CurrentRow().Integer(columns_.type);
+    const std::int32_t account_id = ControlAccountId();
+    if (account_id == 0) return;
+    Mark(), txtAccount.SetText(AccountCaption(*accounts_, account_id, use_account_numbers_));
+    txtAccount.SetTag(AccountKey(account_id));
+}
+
+void dsrRealizedExchProfitloss::ShowKeys() {
+    const Row& row = CurrentRow();
+    text_.clear();
+    row.AppendText(columns_.source, text_);
+    text_ += '|';
+    row.AppendText(columns_.invoice_id, text_);
+    for (Control* control : {&txtName, &txtInvoiId, &txtExchangeRate}) control->SetTag(text_);
+
+    text_.clear();
+    if (const PaymentKind* const kind = KindOf(payment_type_); kind != nullptr) {
+        text_ = kind->key;
+        row.AppendText(columns_.payment_id, text_);
+    }
+    for (Control* control : {&txtPmtDate, &txtChqNo, &txtPmtRate, &txtPaid}) control->SetTag(text_);
+}
+
+AppliedPayment dsrRealizedExchProfitloss::ReadPayment() {
+    const Row& row = CurrentRow();
+    AppliedPayment payment;
+    payment.type = payment_type_;
+    Mark(), payment.amount = row.Amount(columns_.amount);
+    Mark(), payment.discount = row.Amount(columns_.discount);
+    Mark(), payment.invoice_rate = row.ExchangeRate(columns_.invoice_rate);
+    Mark(), payment.payment_rate = row.ExchangeRate(columns_.payment_rate);
+    return payment;
+}
+
+// All or none: a total that overflows must not part group and report.
+void dsrRealizedExchProfitloss::AddToTotals(Currency paid, Currency gain) {
+    const Totals group{group_.paid + paid, group_.gain + gain};
+    report_gain_ += gain;
+    group_ = group;
+}
+
+void dsrRealizedExchProfitloss::ShowDate() {
+    if (CurrentRow().IsNull(columns_.date)) return;
+    const Date date = (Mark(), CurrentRow().Day(columns_.date));
+    text_.clear();
+    Mark(), App().GetFormats().AppendShortDate(date, text_);
+    txtPmtDate.SetValue(date, text_);
+}
+
+void dsrRealizedExchProfitloss::PutRate(Control& control, Rate rate) {
+    text_.clear();
+    Mark(), AppendRate(App().GetFormats(), rate, text_);
+    control.SetText(text_);
+}
+
+void dsrRealizedExchProfitloss::PutAmount(Control& control, Currency amount) {
+    control.Clear();
+    text_.clear();
+    Mark(), App().GetFormats().AppendAmount(amount, text_);
+    control.SetValue(amount, text_);
+}
+
+// The totals are added up and the texts of the row before are gone before the host is asked to
+// format anything.
+void dsrRealizedExchProfitloss::Detail_Format() {
+    if (EndOfData()) return;
+    for (Control* control : {&txtPmtDate, &txtExchangeRate, &txtPmtRate, &txtPaid, &txtGain})
+        control->Clear();
+    ShowKeys();
+    const AppliedPayment payment = ReadPayment();
+    const Currency paid = (Mark(), payment.Settled());
+    const Currency gain = (Mark(), RealizedGain(GetCurrencyInfo(), payment));
+    Mark(), AddToTotals(paid, gain);
+
+    PutAmount(txtGain, gain);
+    PutRate(txtExchangeRate, payment.invoice_rate);
+    PutRate(txtPmtRate, payment.payment_rate);
+    ShowDate();
+    text_.clear();
+    Mark(), GetCurrencyInfo().FormatWorldCurrency(paid, currency_id_, text_);
+    txtPaid.SetValue(paid, text_);
+}
+
+void dsrRealizedExchProfitloss::gfCurrPmtType_Format() {
+    const Totals group = std::exchange(group_, {});
+    txtPaidTotal.Clear();
+    txtGainTotal.Clear();
+    PutAmount(txtPaidTotal, group.paid);
+    PutAmount(txtGainTotal, group.gain);
+}
+
+void dsrRealizedExchProfitloss::ReportFooter_Format() {
+    PutAmount(txtGainGrandTotal, report_gain_);
+}
+
+}  // namespace varnel::reports
