@@ -1,8 +1,10 @@
 #include "framework/catalogue.h"
 
 #include "accounts/cgl_acct.h"
+#include "accounts/cgl_acct_helper.h"
 #include "accounts/cgl_accts.h"
 #include "reports/exchange/realized_exchange.h"
+#include "reports/exchange/unrealized_exchange.h"
 #include "reports/journal/general_journal.h"
 
 namespace varnel::framework {
@@ -32,7 +34,7 @@ constexpr CatalogueEntry kReports[] = {
     {"dsrGIFIReport", 30007, nullptr},
     {"dsrBankReconciliation", 30008, nullptr},
     {"dsrCurrentBankReconciliation", 30009, nullptr},
-    {"dsrUnRealExchProfitloss", 30010, nullptr},
+    {"dsrUnRealExchProfitloss", 30010, Make<reports::dsrUnRealExchProfitloss>},
     {"dsrUnRealExchProfitlossDetail", 30011, nullptr},
     {"dsrRealizedExchProfitloss", 30012, Make<reports::dsrRealizedExchProfitloss>},
 };
@@ -40,7 +42,7 @@ constexpr CatalogueEntry kReports[] = {
 constexpr PublicClass kClasses[] = {
     {"Varnel.CGLAcct", MakeObject<CGLAcct>},
     {"Varnel.CGLAccts", MakeObject<CGLAccts>},
-    {"Varnel.CGLAcctHelper", nullptr},
+    {"Varnel.CGLAcctHelper", MakeObject<CGLAcctHelper>},
 };
 
 }  // namespace
