@@ -14,6 +14,23 @@ constexpr int kLeastDecimals = 2;
 
 bool IsColumn(const ControlLayout& control) { return !control.column.empty(); }
 
+bool NamesColumns(const SectionLayout& section) {
+    return std::ranges::any_of(section.controls, IsColumn);
+}
+
+/// The detail, or the innermost group's footer when that alone names columns.
+const SectionLayout* Recorded(const Layout& layout) {
+    const auto find = [&](SectionKind kind) {
+        return std::ranges::find(layout.sections, kind, &SectionLayout::kind);
+    };
+    const auto detail = find(SectionKind::kDetail);
+    const auto footer = find(SectionKind::kGroupFooter);
+    const auto end = layout.sections.end();
+    if (detail != end && NamesColumns(*detail)) return &*detail;
+    if (footer != end && NamesColumns(*footer)) return &*footer;
+    return detail == end ? nullptr : &*detail;
+}
+
 void AppendValue(std::string& out, const Control& control) {
     const ControlValue& value = control.Value();
     if (const auto* amount = std::get_if<Currency>(&value)) {
@@ -46,6 +63,7 @@ void CsvWriter::Begin(const engine::DocumentInfo&, const Surface& surface) {
 
 void CsvWriter::ReadLayout(const Layout& layout) {
     groups_.clear();
+    recorded_ = Recorded(layout);
     for (const SectionLayout& section : layout.sections) {
         if (section.kind != SectionKind::kGroupHeader) continue;
         const auto count = std::ranges::count_if(section.controls, IsColumn);
@@ -58,8 +76,7 @@ void CsvWriter::WriteHeaderLine(const Layout& layout) {
     std::string& out = output_.Bytes();
     const std::size_t start = out.size();
     for (const SectionLayout& section : layout.sections) {
-        if (section.kind != SectionKind::kGroupHeader && section.kind != SectionKind::kDetail)
-            continue;
+        if (section.kind != SectionKind::kGroupHeader && &section != recorded_) continue;
         for (const ControlLayout& control : section.controls) {
             if (!IsColumn(control)) continue;
             AppendCsvField(out, control.column);
@@ -75,7 +92,7 @@ void CsvWriter::WriteHeaderLine(const Layout& layout) {
 
 void CsvWriter::Write(const Section& section, const engine::BandMark& mark) {
     if (mark.depth > 0) return;
-    if (section.Kind() == SectionKind::kDetail) WriteRecord(section);
+    if (&section.Design() == recorded_ && mark.printed) WriteRecord(section);
     if (section.Kind() == SectionKind::kGroupHeader) OpenGroup(section, mark);
 }
 
@@ -90,11 +107,11 @@ void CsvWriter::OpenGroup(const Section& header, const engine::BandMark& mark) {
     AppendFields(group.fields, header);
 }
 
-void CsvWriter::WriteRecord(const Section& detail) {
+void CsvWriter::WriteRecord(const Section& section) {
     std::string& out = output_.Bytes();
     const std::size_t start = out.size();
     for (const Group& group : groups_) out += group.fields;
-    AppendFields(out, detail);
+    AppendFields(out, section);
     EndLine(start);
 }
 

@@ -9,8 +9,9 @@
 namespace varnel::render {
 
 /// Writes the printed details of a report as comma-separated values: one header line with the
-/// layout's column names, then one record a detail, the fields of its groups first. docs/formats.md
-/// describes the format.
+/// layout's column names, then one record a detail, the fields of its groups first. Where details
+/// name no columns, the footers of the innermost group take their part. docs/formats.md describes
+/// the format.
 ///
 /// Begin throws std::invalid_argument when the layout names no columns.
 class CsvWriter final : public engine::BandSink {
@@ -32,11 +33,12 @@ class CsvWriter final : public engine::BandSink {
     void ReadLayout(const Layout& layout);
     void WriteHeaderLine(const Layout& layout);
     void OpenGroup(const Section& header, const engine::BandMark& mark);
-    void WriteRecord(const Section& detail);
+    void WriteRecord(const Section& section);
     void EndLine(std::size_t line_start);
 
     OutputBuffer output_;
-    std::vector<Group> groups_;  // By level.
+    std::vector<Group> groups_;                // By level.
+    const SectionLayout* recorded_ = nullptr;  // Each of its instances is a record.
 };
 
 }  // namespace varnel::render

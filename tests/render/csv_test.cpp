@@ -171,6 +171,31 @@ TEST(CsvRecord, OfOneEmptyFieldIsNotAnEmptyLine) {
     EXPECT_EQ(sink.Bytes(), "A\r\n\"\"\r\n");
 }
 
+TEST(CsvRecord, IsAFooterOfTheInnermostGroupWhereDetailsNameNoColumns) {
+    const Layout layout{
+        .name = "dsrSums",
+        .sections = {Band(SectionKind::kGroupHeader, "ghOuter", {Field("g", {}, "Group")}),
+                     Band(SectionKind::kGroupHeader, "ghInner", {}),
+                     Band(SectionKind::kDetail, "Detail", {Field("d", {})}),
+                     Band(SectionKind::kGroupFooter, "gfInner", {Field("s", {}, "Sum")}),
+                     Band(SectionKind::kGroupFooter, "gfOuter", {Field("t", {}, "Total")})}};
+    Surface surface(layout);
+    MemorySink sink;
+    CsvWriter writer(sink);
+    writer.Begin({}, surface);
+    for (const char* name : {"g", "s", "t"}) surface.At(name).SetText(name);
+    const auto print = [&](const char* section, const BandMark& mark) {
+        writer.Write(surface.SectionAt(section), mark);
+    };
+    print("ghOuter", {.level = 0});
+    print("Detail", {});
+    print("gfInner", {.level = 1});
+    print("gfInner", {.level = 1, .printed = false});
+    print("gfOuter", {.level = 0});
+    writer.End();
+    EXPECT_EQ(sink.Bytes(), "Group,Sum\r\ng,s\r\n");
+}
+
 TEST(CsvLayout, WithoutColumnsIsRefusedByName) {
     const Layout layout{.name = "dsrMute",
                         .sections = {Band(SectionKind::kDetail, "Detail", {Field("a", {})})}};
