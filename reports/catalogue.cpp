@@ -4,8 +4,12 @@
 #include "accounts/cgl_acct_helper.h"
 #include "accounts/cgl_accts.h"
 #include "reports/exchange/realized_exchange.h"
+#include "reports/exchange/unrealized_exchange_detail.h"
 #include "reports/exchange/unrealized_exchange.h"
 #include "reports/journal/general_journal.h"
+#include "reports/trial/gifi_report.h"
+#include "reports/trial/trial_balance_detail.h"
+#include "reports/trial/trial_balance_summary.h"
 
 namespace varnel::framework {
 
@@ -25,17 +29,17 @@ constexpr CatalogueEntry kReports[] = {
     {"dsrGeneralJournal", 6173, Make<reports::dsrGeneralJournal>},
     {"dsrGeneralLedger", 30013, nullptr},
     {"dsrGeneralLedgerByAccount", 30014, nullptr},
-    {"dsrTrialBalanceSummary", 30001, nullptr},
-    {"dsrTrialBalanceDetail", 30002, nullptr},
+    {"dsrTrialBalanceSummary", 30001, Make<reports::dsrTrialBalanceSummary>},
+    {"dsrTrialBalanceDetail", 30002, Make<reports::dsrTrialBalanceDetail>},
     {"dsrIncomeStatement", 6096, nullptr},
     {"dsrBalanceSheet", 30003, nullptr},
     {"dsrComparativeIncomeStatement", 30004, nullptr},
     {"dsrComparativeBalanceSheet", 30006, nullptr},
-    {"dsrGIFIReport", 30007, nullptr},
+    {"dsrGIFIReport", 30007, Make<reports::dsrGIFIReport>},
     {"dsrBankReconciliation", 30008, nullptr},
     {"dsrCurrentBankReconciliation", 30009, nullptr},
     {"dsrUnRealExchProfitloss", 30010, Make<reports::dsrUnRealExchProfitloss>},
-    {"dsrUnRealExchProfitlossDetail", 30011, nullptr},
+    {"dsrUnRealExchProfitlossDetail", 30011, Make<reports::dsrUnRealExchProfitlossDetail>},
     {"dsrRealizedExchProfitloss", 30012, Make<reports::dsrRealizedExchProfitloss>},
 };
 

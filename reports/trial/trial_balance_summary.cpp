@@ -8,6 +8,7 @@
 #include "framework/query_runner.h"
 #include "framework/standard_header.h"
 #include "framework/texts.h"
+#include "reports/trial/adjusting_lines.h"
 #include "reports/trial/trial_balance_summary_layout.h"
 
 namespace varnel::reports {
@@ -167,15 +168,8 @@ void dsrTrialBalanceSummary::PageHeader_Format() {
     ReplacePageHeaderControls(PageHeader);
 }
 
-// Without the line the totals move up into its place.
 void dsrTrialBalanceSummary::SeAdjControlsPosition(bool visible) {
-    const Twips up = At("linDebitGrandTotal").Design().box.top - txtDescrAdj.Design().box.top;
-    for (Control* control : {&txtDescrAdj, &txtDebitAdj, &txtCreditAdj})
-        control->SetVisible(visible);
-    for (const auto* name : {"linDebitGrandTotal", "linCreditGrandTotal", "lblGrTotal",
-                             "txtDebitGrandTotal", "txtCreditGrandTotal"})
-        At(name).SetTop(At(name).Design().box.top - (visible ? 0 : up));
-    ReportFooter.SetHeight(ReportFooter.Design().height - (visible ? 0 : up));
+    ShowAdjustingLines(ReportFooter, {"txtDescrAdj", "txtDebitAdj", "txtCreditAdj"}, visible);
 }
 
 void dsrTrialBalanceSummary::SetAdjControlsValue() {

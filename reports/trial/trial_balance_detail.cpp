@@ -1,0 +1,371 @@
+#include "reports/trial/trial_balance_detail.h"
+
+#include <algorithm>
+
+#include "framework/exchange_rates_note.h"
+#include "framework/filter_sort_subreport.h"
+#include "framework/gl_config.h"
+#include "framework/item_adjustment_note.h"
+#include "framework/period_caption.h"
+#include "framework/query_runner.h"
+#include "framework/standard_header.h"
+#include "framework/styles.h"
+#include "framework/texts.h"
+#include "reports/trial/adjusting_lines.h"
+#include "reports/trial/trial_balance_detail_layout.h"
+
+namespace varnel::reports {
+
+using namespace framework;
+
+namespace {
+
+constexpr std::int16_t kAdjustment = 8571;
+constexpr Twips kGap = 60;
+constexpr std::string_view kDebitType = "DT";
+constexpr std::string_view kCreditType = "CT";
+
+constexpr std::string_view kHead =
+    "SELECT SubQuery.*, "
+    "AcctType, InGlAcctId, GLAcctId, GLAcct.ExCurrencyId, GLAcct.Descr, "
+    "WorldCurrency.CurrencyCode FROM (GLAcct LEFT JOIN "
+    "(Select InGLDetId, DetDate, DetAmnt, ForeignAmnt, GLDet.ExCurrencyId as GLDetExCurrencyId, "
+    "Source, ExSrcKeyVal, DetDesc, SeqNo, ExAcctId FROM GLDet ";
+constexpr std::string_view kTail =
+    ") as SubQuery "
+    "ON GLAcct.InGLAcctId = SubQuery.ExAcctId) "
+    "LEFT JOIN WorldCurrency ON GLAcct.ExCurrencyId = WorldCurrency.InCurrencyId";
+constexpr std::string_view kOrder = " ORDER BY GLAcct.GLAcctId, SubQuery.DetDate, SubQuery.SeqNo";
+
+std::string LineCondition(const std::string& project_ids) {
+    if (project_ids.empty())
+        return "WHERE GLDet.DetAmnt <> 0 AND "
+               "GLDet.DetDate BETWEEN ? AND ? ";
+    return "WHERE GLDet.DetAmnt <> 0 AND GLDet.ExProjId IN (" + project_ids +
+           ") AND "
+           "GLDet.DetDate BETWEEN ? AND ?";
+}
+
+void AddCondition(std::string& where, const std::string& condition) {
+    where += (where.empty() ? " WHERE " : " AND ") + condition;
+}
+
+bool IsIdList(std::string_view text) {
+    return text.find_first_not_of("0123456789, ") == std::string_view::npos;
+}
+
+constexpr Member<dsrTrialBalanceDetail> kMembers[] = {
+    {"HideInactiveAccounts",
+     [](dsrTrialBalanceDetail& r) -> Variant { return r.GetSelection().hide_inactive; },
+     [](dsrTrialBalanceDetail& r, const Variant& v) {
+         r.GetSelection().hide_inactive = v.ToBool();
+     }},
+    {"ProjIds", [](dsrTrialBalanceDetail& r) -> Variant { return r.GetSelection().project_ids; },
+     [](dsrTrialBalanceDetail& r, const Variant& v) { r.GetSelection().project_ids = v.ToText(); }},
+    {"AccountIds", [](dsrTrialBalanceDetail& r) -> Variant { return r.GetSelection().account_ids; },
+     [](dsrTrialBalanceDetail& r, const Variant& v) { r.GetSelection().account_ids = v.ToText(); }},
+    {"SingleAcctId",
+     [](dsrTrialBalanceDetail& r) -> Variant { return r.GetSelection().single_account; },
+     [](dsrTrialBalanceDetail& r, const Variant& v) {
+         r.GetSelection().single_account = v.ToInteger32();
+     }},
+};
+
+}  // namespace
+
+dsrTrialBalanceDetail::dsrTrialBalanceDetail()
+    : ReportBase(
+          TrialBalanceDetailLayout(),
+          {.title_text = 30002, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
+      SegmentFilter(Members()),
+      FilterableReport(Members()),
+      RevaluedReport(Members()) {
+    Members().Add<dsrTrialBalanceDetail>(*this, kMembers);
+    Handle("PageHeader_Format", &dsrTrialBalanceDetail::PageHeader_Format);
+    Handle("ghAccount_Format", &dsrTrialBalanceDetail::ghAccount_Format);
+    Handle("Detail_Format", &dsrTrialBalanceDetail::Detail_Format);
+    Handle("gfAccount_Format", &dsrTrialBalanceDetail::gfAccount_Format);
+    Handle("ReportFooter_Format", &dsrTrialBalanceDetail::ReportFooter_Format);
+}
+
+void dsrTrialBalanceDetail::LineColumns::Resolve(const Columns& columns) {
+    account_id = columns.At("InGlAcctId");
+    account_type = columns.At("AcctType");
+    account_currency = columns.At("ExCurrencyId");
+    line_id = columns.At("InGLDetId");
+    date = columns.At("DetDate");
+    amount = columns.At("DetAmnt");
+    foreign = columns.At("ForeignAmnt");
+    line_currency = columns.At("GLDetExCurrencyId");
+    source = columns.At("Source");
+    source_key = columns.At("ExSrcKeyVal");
+}
+
+void dsrTrialBalanceDetail::IReport_Initialize() {
+    ReportBase::IReport_Initialize();
+    Guard("IReport_Initialize", [&] { Mark(), special_ = ReadEarningsAccounts(CurrentCompany()); });
+}
+
+void dsrTrialBalanceDetail::IReportConfig_ShowConfigurationScreen() {
+    Guard("IReportConfig_ShowConfigurationScreen", [&] {
+        Mark(), include_zero_balances_ = AskIncludeZeroBalance(App(), include_zero_balances_);
+    });
+}
+
+void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
+    Guard("ActiveReport_ReportStart", [&] {
+        current_ = {};
+        totals_ = {};
+        balance_total_ = {};
+        amounts_.reset();
+        foreign_used_ = false;
+        const auto adjustments_from = (Mark(), InitGLtAjust(App()));
+        Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
+        PlaceColumns();
+        const std::string statement = BuildStatement();
+        Mark(), special_.unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
+        const auto period = ForwardPeriod();
+        Mark(),
+            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, special_, period);
+        std::vector<Variant> parameters = {DateFrom(), DateTo()};
+        if (selection_.single_account != 0) parameters.emplace_back(selection_.single_account);
+        auto rows = (Mark(), RunQuery(App(), statement, parameters));
+        Mark(), columns_.Resolve(rows->GetColumns());
+        Data().Attach(std::move(rows));
+        Mark(), At(kPeriodLabel).SetText(TrialPeriodCaption(App(), DateFrom(), DateTo()));
+        const CustomCriteria accounts{Criteria().criteria, {}};
+        Mark(),
+            FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), accounts, Tool());
+        Mark(), ShowItemAdjustmentNote(App(), GetSurface(), adjustments_from, DateTo());
+    });
+}
+
+// The accounts of the host, else those of the filter: a list as it stands, or criteria that the
+// filter tool turns into one.
+std::string dsrTrialBalanceDetail::AccountList() {
+    FilterTool* const tool = Tool();
+    if (tool != nullptr) Mark(), tool->SetTables("GLAcct");
+    if (!selection_.account_ids.empty()) return selection_.account_ids;
+    const std::string criteria = Criteria().criteria;
+    if (IsIdList(criteria)) return criteria;
+    if (tool == nullptr)
+        Raise(error_number::kObjectNotSet, std::string(ObjectName()),
+              "There is no filter tool to find the accounts of \"" + criteria + "\"");
+    return Mark(), tool->ResolveAccounts(criteria);
+}
+
+std::string dsrTrialBalanceDetail::BuildStatement() {
+    std::string statement(kHead);
+    statement += LineCondition(selection_.project_ids);
+    if (IsSegmentFiltered()) statement += " AND " + SegmentClauseOn("GLDet.ExSegmentId");
+    statement += kTail;
+    std::string where;
+    if (selection_.single_account != 0) where = " WHERE GLAcct.InGLAcctId=?";
+    const std::string accounts = AccountList();
+    if (!accounts.empty()) AddCondition(where, "GLAcct.InGLAcctId IN (" + accounts + ")");
+    if (selection_.hide_inactive)
+        AddCondition(where, "(GLAcct.Inactive IS NULL Or GLAcct.Inactive = 0)");
+    return statement + where + std::string(kOrder);
+}
+
+// What is brought forward ends on the day before the period.
+AccountAmounts::Period dsrTrialBalanceDetail::ForwardPeriod() {
+    const bool from_first_date = (Mark(), CurrentCompany().PeriodTest(DateFrom(), DateTo()));
+    const Date year_start = from_first_date ? DateFrom() : (Mark(), FiscalYearStart());
+    return {.year_start = year_start,
+            .to = std::max(DateFrom() - 1, kOpenStart),
+            .segment_clause = SegmentClauseOn("GLDet.ExSegmentId"),
+            .project_ids = selection_.project_ids};
+}
+
+void dsrTrialBalanceDetail::PlaceColumns() {
+    const bool foreign = DisplayForeignCurrency();
+    At("lblCurrencyCap").SetVisible(foreign && foreign_used_);
+    const Twips right = (foreign ? txtCurrency : txtDebit).Place().left - kGap;
+    for (Control* control : {&txtDetDesc, &At("lblDescrCap")})
+        control->SetWidth(right - control->Place().left);
+}
+
+TrialAccount dsrTrialBalanceDetail::CurrentAccount() const {
+    const Row& row = CurrentRow();
+    const auto id = (Mark(), row.Integer(columns_.account_id));
+    const auto type = (Mark(), row.Integer(columns_.account_type));
+    const auto currency = (Mark(), row.Integer(columns_.account_currency));
+    return {.id = id, .type = type, .currency_id = currency == 0 ? HomeCurrencyId() : currency};
+}
+
+Currency dsrTrialBalanceDetail::GetAccountBalanceForSpecialAccounts(const TrialAccount& account) {
+    return amounts_->BalanceOf(account);
+}
+
+void dsrTrialBalanceDetail::ShowBalance(const BalanceControls& controls, Currency balance) {
+    controls.type.SetText(balance < Currency() ? kCreditType : kDebitType);
+    PutAmount(App().GetFormats(), controls.amount, balance.Abs(), text_);
+}
+
+void dsrTrialBalanceDetail::BringForward(Currency balance) {
+    current_.balance = balance;
+    balance_total_ += balance;
+}
+
+// On the unrealized account: what revaluation has changed so far, taken from its balance.
+Currency dsrTrialBalanceDetail::TakeUnrealized() {
+    if (!amounts_->IsUnrealized(current_.account)) return {};
+    const Currency unrealized = -amounts_->Difference();
+    current_.balance += unrealized;
+    balance_total_ += unrealized;
+    return unrealized;
+}
+
+void dsrTrialBalanceDetail::ShowUnrealized(Currency unrealized) {
+    const bool shown = !unrealized.IsZero();
+    for (Control* control : {&lblGPUnrealized, &unrealized_.amount, &unrealized_.type}) {
+        control->SetVisible(shown);
+        control->SetTag(shown ? current_.key : std::string());
+    }
+    ghAccount.SetHeight(shown ? ghAccount.Design().height : kGroupHeight);
+    if (shown) ShowBalance(unrealized_, unrealized);
+}
+
+void dsrTrialBalanceDetail::ghAccount_Format() {
+    if (EndOfData()) return;
+    current_ = {};
+    forward_.amount.Clear();
+    forward_.type.Clear();
+    current_.account = CurrentAccount();
+    current_.key = amounts_->Key(current_.account);
+    for (Control* control : {&txtGLAcctId, &txtDescr, &forward_.amount})
+        control->SetTag(current_.key);
+    const Currency forward = (Mark(), GetAccountBalanceForSpecialAccounts(current_.account));
+    BringForward(forward);
+    const Currency unrealized = TakeUnrealized();
+    current_.left_out = !include_zero_balances_ && !HasLines() && forward.IsZero() &&
+                        unrealized.IsZero() && amounts_->Difference().IsZero();
+    if (current_.left_out) return ghAccount.Skip();
+    Mark(), ShowUnrealized(unrealized);
+    Mark(), ShowBalance(forward_, forward);
+}
+
+std::int32_t dsrTrialBalanceDetail::LineCurrency() const {
+    const auto currency = (Mark(), CurrentRow().Integer(columns_.line_currency));
+    return currency == 0 ? HomeCurrencyId() : currency;
+}
+
+Currency dsrTrialBalanceDetail::LineAmount(std::int32_t currency_id) {
+    const Row& row = CurrentRow();
+    const Currency booked = (Mark(), row.Amount(columns_.amount));
+    if (!IExchangeRates_Reevaluate() || currency_id == HomeCurrencyId()) return booked;
+    const Currency foreign = (Mark(), row.Amount(columns_.foreign));
+    const auto worth =
+        (Mark(),
+         EvaluateAtKeyedRate(
+             GetCurrencyInfo(), IExchangeRates_ExchangeRates().get(),
+             {.currency_id = currency_id, .booked_rate = {}, .foreign = foreign, .home = booked}));
+    amounts_->AddDifference(worth.gain);
+    return worth.revalued;
+}
+
+void dsrTrialBalanceDetail::ShowForeignAmount(std::int32_t currency_id) {
+    if (!DisplayForeignCurrency() || currency_id == HomeCurrencyId()) return;
+    const Currency foreign = (Mark(), CurrentRow().Amount(columns_.foreign));
+    text_.clear();
+    Mark(), App().GetFormats().AppendAmount(foreign, text_);
+    text_ += ' ';
+    Mark(), text_ += GetCurrencyInfo().GetCurrencies().Item(currency_id).code;
+    txtCurrency.SetValue(foreign, text_);
+    txtCurrency.SetVisible(true);
+}
+
+void dsrTrialBalanceDetail::ShowKey() {
+    const Row& row = CurrentRow();
+    if (amounts_->IsUnrealized(current_.account)) {
+        text_ = current_.key;
+    } else {
+        Mark(), text_ = row.Text(columns_.source);
+        text_ += '|';
+        row.AppendText(columns_.source_key, text_);
+    }
+    for (Control* control :
+         {&txtSeqNo, &txtSource, &txtDetDate, &txtDetDesc, &txtDebit, &txtCredit, &running_.amount})
+        control->SetTag(text_);
+}
+
+// The line is added up before the host is asked for anything but its rate.
+void dsrTrialBalanceDetail::Detail_Format() {
+    if (EndOfData()) return;
+    if (!HasLines()) return Detail.Skip();
+    txtDetDate.Clear();
+    txtDebit.Clear();
+    txtCredit.Clear();
+    running_.amount.Clear();
+    running_.type.Clear();
+    txtCurrency.SetVisible(false);
+    const std::int32_t currency_id = LineCurrency();
+    const Currency amount = LineAmount(currency_id);
+    current_.totals.Add(amount);
+    totals_.Add(amount);
+    current_.balance += amount;
+    balance_total_ += amount;
+    ShowKey();
+    Mark(), ShowBalance(running_, current_.balance);
+    Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
+    ShowForeignAmount(currency_id);
+    const Date date = (Mark(), CurrentRow().Day(columns_.date));
+    text_.clear();
+    Mark(), App().GetFormats().AppendShortDate(date, text_);
+    txtDetDate.SetValue(date, text_);
+}
+
+void dsrTrialBalanceDetail::gfAccount_Format() {
+    for (Control* control :
+         {&txtDebitTotal, &txtCreditTotal, &account_balance_.amount, &account_balance_.type})
+        control->Clear();
+    const bool all_zero = current_.totals.debit.IsZero() && current_.totals.credit.IsZero() &&
+                          current_.balance.IsZero() && amounts_->Difference().IsZero();
+    if (!include_zero_balances_ && all_zero) return gfAccount.Skip();
+    auto& formats = App().GetFormats();
+    Mark(), PutAmount(formats, txtDebitTotal, current_.totals.debit, text_);
+    Mark(), PutAmount(formats, txtCreditTotal, current_.totals.credit, text_);
+    Mark(), ShowBalance(account_balance_, current_.balance);
+}
+
+void dsrTrialBalanceDetail::PageHeader_Format() {
+    const bool shown = IExchangeRates_Reevaluate();
+    Mark(), ShowExchangeRatesNote(App(), GetSurface(), *this, shown);
+    ReplacePageHeaderControls(PageHeader);
+}
+
+void dsrTrialBalanceDetail::SetAdjControlsPosition(bool visible) {
+    ShowAdjustingLines(
+        ReportFooter,
+        {"txtDescrAdj", "txtDetDescAdj", "txtDebitAdj", "txtCreditAdj", "txtBalanceAdj",
+         "lblBalanceTypeAdj", "linDebitTotalAdj", "linCreditTotalAdj", "linBalanceTotalAdj",
+         "lblSubTotalAdj", "txtDebitTotalAdj", "txtCreditTotalAdj", "txtBalanceTotalAdj",
+         "lblBalanceTotalTypeAdj"},
+        visible);
+}
+
+void dsrTrialBalanceDetail::SetAdjControlsValue() {
+    const Currency adjustment = -totals_.Difference();
+    balance_total_ += adjustment;
+    auto& formats = App().GetFormats();
+    Mark(), Adjust(formats, At("txtDebitAdj"), At("txtCreditAdj"), totals_, text_);
+    Mark(),
+        PutOnItsSide(formats, At("txtDebitTotalAdj"), At("txtCreditTotalAdj"), adjustment, text_);
+    Mark(), ShowBalance(adjustment_, adjustment);
+    Mark(), ShowBalance(adjustment_total_, adjustment);
+    Mark(), At("txtDescrAdj").SetText(PlainText(App(), kAdjustment));
+    At("txtDetDescAdj").SetText(SegmentFilterDisplay());
+}
+
+void dsrTrialBalanceDetail::ReportFooter_Format() {
+    const bool adjusts = IsSegmentFiltered() && !totals_.Difference().IsZero();
+    SetAdjControlsPosition(adjusts);
+    if (adjusts) SetAdjControlsValue();
+    auto& formats = App().GetFormats();
+    Mark(), PutAmount(formats, txtDebitGrandTotal, totals_.debit, text_);
+    Mark(), PutAmount(formats, txtCreditGrandTotal, totals_.credit, text_);
+    Mark(), ShowBalance(grand_balance_, balance_total_);
+}
+
+}  // namespace varnel::reports

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "framework/custom_criteria.h"
+#include "framework/report_base.h"
+#include "framework/revalued_report.h"
+#include "framework/segment_filter.h"
+#include "reports/trial/account_amounts.h"
+#include "reports/trial/debit_credit.h"
+
+namespace varnel::reports {
+
+/// Trial balance detail: for every account the balance brought forward, the ledger lines of the
+/// period with a running balance, and a subtotal.
+///
+/// Late-bound it has the properties `HideInactiveAccounts`, `ProjIds` (comma-separated project
+/// ids), `AccountIds` (comma-separated internal account ids) and `SingleAcctId`; empty and 0 take
+/// all.
+class dsrTrialBalanceDetail final : public framework::ReportBase,
+                                    public framework::SegmentFilter,
+                                    public framework::FilterableReport,
+                                    public framework::RevaluedReport,
+                                    public IReportConfig {
+  public:
+    dsrTrialBalanceDetail();
+
+    void IReport_Initialize() override;
+    void IReportConfig_ShowConfigurationScreen() override;
+    void ActiveReport_ReportStart() override;
+
+    /// What the host sets before the run.
+    struct Selection {
+        bool hide_inactive = false;
+        std::string project_ids;
+        std::string account_ids;
+        std::int32_t single_account = 0;
+    };
+    Selection& GetSelection() { return selection_; }
+
+  private:
+    struct LineColumns {
+        Column account_id, account_type, account_currency, line_id, date, amount, foreign,
+            line_currency, source, source_key;
+        void Resolve(const Columns& columns);
+    };
+    struct AccountState {
+        TrialAccount account;
+        std::string key;
+        DebitCredit totals;
+        Currency balance;  // The running one.
+        bool left_out = false;
+    };
+    /// An amount with its "DT" or "CT" beside it.
+    struct BalanceControls {
+        Control& amount;
+        Control& type;
+    };
+
+    std::string BuildStatement();
+    std::string AccountList();
+    AccountAmounts::Period ForwardPeriod();
+    void PlaceColumns();
+    TrialAccount CurrentAccount() const;
+    Currency GetAccountBalanceForSpecialAccounts(const TrialAccount& account);
+    void BringForward(Currency balance);
+    Currency TakeUnrealized();
+    void ShowUnrealized(Currency unrealized);
+    bool HasLines() const { return !CurrentRow().IsNull(columns_.line_id); }
+    std::int32_t LineCurrency() const;
+    Currency LineAmount(std::int32_t currency_id);
+    void ShowForeignAmount(std::int32_t currency_id);
+    void ShowKey();
+    void ShowBalance(const BalanceControls& controls, Currency balance);
+    void SetAdjControlsPosition(bool visible);
+    void SetAdjControlsValue();
+
+    void PageHeader_Format();
+    void ghAccount_Format();
+    void Detail_Format();
+    void gfAccount_Format();
+    void ReportFooter_Format();
+
+    LineColumns columns_;
+    std::unique_ptr<AccountAmounts> amounts_;
+    SpecialAccounts special_;
+    Selection selection_;
+    AccountState current_;
+    DebitCredit totals_;
+    Currency balance_total_;
+    bool include_zero_balances_ = false;
+    bool foreign_used_ = false;
+    std::string text_;  // Scratch for texts built row by row.
+
+    Section& PageHeader = SectionAt("PageHeader");
+    Section& ghAccount = SectionAt("ghAccount");
+    Section& Detail = SectionAt("Detail");
+    Section& gfAccount = SectionAt("gfAccount");
+    Section& ReportFooter = SectionAt("ReportFooter");
+    BalanceControls forward_{At("txtBalanceForward"), At("lblBalanceForwardType")};
+    BalanceControls unrealized_{At("txtGPUnrealized"), At("lblGPUnrealizedType")};
+    BalanceControls running_{At("txtBalance"), At("lblBalanceType")};
+    BalanceControls account_balance_{At("txtBalanceTotal"), At("lblBalanceTotalType")};
+    BalanceControls adjustment_{At("txtBalanceAdj"), At("lblBalanceTypeAdj")};
+    BalanceControls adjustment_total_{At("txtBalanceTotalAdj"), At("lblBalanceTotalTypeAdj")};
+    BalanceControls grand_balance_{At("txtBalanceGrandTotal"), At("lblBalanceGrandTotalType")};
+    Control& txtGLAcctId = At("txtGLAcctId");
+    Control& txtDescr = At("txtDescr");
+    Control& lblGPUnrealized = At("lblGPUnrealized");
+    Control& txtSeqNo = At("txtSeqNo");
+    Control& txtSource = At("txtSource");
+    Control& txtDetDate = At("txtDetDate");
+    Control& txtDetDesc = At("txtDetDesc");
+    Control& txtCurrency = At("txtCurrency");
+    Control& txtDebit = At("txtDebit");
+    Control& txtCredit = At("txtCredit");
+    Control& txtDebitTotal = At("txtDebitTotal");
+    Control& txtCreditTotal = At("txtCreditTotal");
+    Control& txtDebitGrandTotal = At("txtDebitGrandTotal");
+    Control& txtCreditGrandTotal = At("txtCreditGrandTotal");
+};
+
+}  // namespace varnel::reports

@@ -1,0 +1,154 @@
+#include "reports/trial/trial_balance_detail_layout.h"
+
+#include "framework/exchange_rates_note.h"
+#include "framework/item_adjustment_note.h"
+#include "framework/layout_parts.h"
+
+namespace varnel::reports {
+
+namespace {
+
+using namespace framework;
+
+constexpr auto kSeqNo = ColumnPlace::Left(0, 600);
+constexpr auto kSource = ColumnPlace::Left(640, 660);
+constexpr auto kDate = ColumnPlace::Left(1'340, 880);
+constexpr auto kDescription = ColumnPlace::Left(2'240, 2'400, Stretch::kWiden);
+constexpr auto kForeign = ColumnPlace::Amount(4'680, 1'580);
+constexpr auto kDebit = ColumnPlace::Amount(6'300, 1'320);
+constexpr auto kCredit = ColumnPlace::Amount(7'660, 1'320);
+constexpr auto kBalance = ColumnPlace::Amount(9'020, 1'440);
+constexpr ColumnPlace kType{10'500, 300, Align::kLeft, Stretch::kShift};
+/// Of the account header and of the adjusting line.
+constexpr auto kAccount = ColumnPlace::Left(0, 1'180);
+constexpr auto kAccountName = ColumnPlace::Left(1'240, 5'000, Stretch::kWiden);
+/// What stands before an amount: it ends where the balance begins.
+constexpr ColumnPlace kBeforeBalance{6'300, 2'660, Align::kRight, Stretch::kShift};
+constexpr ColumnPlace kBeforeDebit{2'240, 4'000, Align::kRight, Stretch::kWiden};
+
+std::vector<ControlLayout> Captions() {
+    auto currency = ColumnCaption("lblCurrencyCap", kForeign, 5846);
+    currency.visible = false;
+    return {ColumnCaption("lblSeqNoCap", kSeqNo, 2664),
+            ColumnCaption("lblSourceCap", kSource, 2648),
+            ColumnCaption("lblDateCap", kDate, 1912),
+            ColumnCaption("lblDescrCap", kDescription, 1789),
+            currency,
+            ColumnCaption("lblDebitCap", kDebit, 2656),
+            ColumnCaption("lblCreditCap", kCredit, 2657),
+            ColumnCaption("lblBalanceCap", kBalance, 2637),
+            CaptionRule()};
+}
+
+SectionLayout AccountHeader() {
+    auto number = ColumnText("txtGLAcctId", kAccount, 70, kBodyBold, "account");
+    number.data_field = "GLAcctId";
+    auto name = ColumnText("txtDescr", kAccountName, 70, kBodyBold, "description");
+    name.data_field = "Descr";
+    return {.name = "ghAccount",
+            .kind = SectionKind::kGroupHeader,
+            .height = kGroupHeight + kLineHeight,
+            .group_field = "InGLAcctId",
+            .repeat = true,
+            .controls = {number, name,
+                         ColumnLabel("lblBalanceForward_", kBeforeBalance, 70, kQuiet, 3011),
+                         ColumnText("txtBalanceForward", kBalance, 70, kBody, "balance"),
+                         ColumnText("lblBalanceForwardType", kType, 70, kQuiet, "type"),
+                         ColumnLabel("lblGPUnrealized", kBeforeBalance, 290, kQuiet, 3805),
+                         ColumnText("txtGPUnrealized", kBalance, 290, kBody, "unrealized"),
+                         ColumnText("lblGPUnrealizedType", kType, 290, kQuiet, "unrealized_type")}};
+}
+
+SectionLayout Lines() {
+    const auto bound = [](ControlLayout control, std::string_view field) {
+        control.data_field = field;
+        return control;
+    };
+    auto description =
+        bound(ColumnText("txtDetDesc", kDescription, 0, kBody, "description"), "DetDesc");
+    description.can_grow = true;
+    auto foreign = ColumnText("txtCurrency", kForeign, 0, kQuiet, "foreign");
+    foreign.visible = false;
+    return {.name = "Detail",
+            .kind = SectionKind::kDetail,
+            .height = kDetailHeight,
+            .controls = {bound(ColumnText("txtSeqNo", kSeqNo, 0, kBody, "entry"), "SeqNo"),
+                         bound(ColumnText("txtSource", kSource, 0, kBody, "source"), "Source"),
+                         ColumnText("txtDetDate", kDate, 0, kBody, "date"), description, foreign,
+                         ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
+                         ColumnText("txtCredit", kCredit, 0, kBody, "credit"),
+                         ColumnText("txtBalance", kBalance, 0, kBody, "balance"),
+                         ColumnText("lblBalanceType", kType, 0, kQuiet, "type")}};
+}
+
+SectionLayout AccountFooter() {
+    return {
+        .name = "gfAccount",
+        .kind = SectionKind::kGroupFooter,
+        .height = kGroupHeight,
+        .controls = {TotalRule("linDebitTotal", kDebit, 0), TotalRule("linCreditTotal", kCredit, 0),
+                     TotalRule("linBalanceTotal", kBalance, 0),
+                     ColumnLabel("lblSubTotal", kBeforeDebit, 25, kBodyBold, 2710),
+                     ColumnText("txtDebitTotal", kDebit, 25, kBodyBold, "debit"),
+                     ColumnText("txtCreditTotal", kCredit, 25, kBodyBold, "credit"),
+                     ColumnText("txtBalanceTotal", kBalance, 25, kBodyBold, "balance"),
+                     ColumnText("lblBalanceTotalType", kType, 25, kQuiet, "type")}};
+}
+
+// The adjusting line reads like an account: header, line, subtotal. The grand totals follow.
+SectionLayout Totals() {
+    constexpr Twips kHeaderTop = 60;
+    constexpr Twips kLineTop = 320;
+    constexpr Twips kSubTotalTop = 580;
+    constexpr Twips kGrandTotalTop = 960;
+    const auto rule = [](std::string_view name, const ColumnPlace& place) {
+        return TotalRule(name, place, kGrandTotalTop - 40, kThick);
+    };
+    return {.name = "ReportFooter",
+            .kind = SectionKind::kReportFooter,
+            .height = kGrandTotalTop + 360,
+            .controls = {
+                ColumnText("txtDescrAdj", kAccountName, kHeaderTop, kBodyBold, "description"),
+                ColumnText("txtDetDescAdj", kDescription, kLineTop, kRemark, "description"),
+                ColumnText("txtDebitAdj", kDebit, kLineTop, kBody, "debit"),
+                ColumnText("txtCreditAdj", kCredit, kLineTop, kBody, "credit"),
+                ColumnText("txtBalanceAdj", kBalance, kLineTop, kBody, "balance"),
+                ColumnText("lblBalanceTypeAdj", kType, kLineTop, kQuiet, "type"),
+                TotalRule("linDebitTotalAdj", kDebit, kSubTotalTop - 25),
+                TotalRule("linCreditTotalAdj", kCredit, kSubTotalTop - 25),
+                TotalRule("linBalanceTotalAdj", kBalance, kSubTotalTop - 25),
+                ColumnLabel("lblSubTotalAdj", kBeforeDebit, kSubTotalTop, kBodyBold, 2710),
+                ColumnText("txtDebitTotalAdj", kDebit, kSubTotalTop, kBodyBold, "debit"),
+                ColumnText("txtCreditTotalAdj", kCredit, kSubTotalTop, kBodyBold, "credit"),
+                ColumnText("txtBalanceTotalAdj", kBalance, kSubTotalTop, kBodyBold, "balance"),
+                ColumnText("lblBalanceTotalTypeAdj", kType, kSubTotalTop, kQuiet, "type"),
+                rule("linDebitGrandTotal", kDebit),
+                rule("linCreditGrandTotal", kCredit),
+                rule("linBalanceGrandTotal", kBalance),
+                ColumnLabel("lblGrTotal", kBeforeDebit, kGrandTotalTop, kBodyBold, 1641),
+                ColumnText("txtDebitGrandTotal", kDebit, kGrandTotalTop, kBodyBold, "debit"),
+                ColumnText("txtCreditGrandTotal", kCredit, kGrandTotalTop, kBodyBold, "credit"),
+                ColumnText("txtBalanceGrandTotal", kBalance, kGrandTotalTop, kBodyBold, "balance"),
+                ColumnText("lblBalanceGrandTotalType", kType, kGrandTotalTop, kQuiet, "type")}};
+}
+
+}  // namespace
+
+const Layout& TrialBalanceDetailLayout() {
+    static const Layout layout{.name = "dsrTrialBalanceDetail",
+                               .sections = {{.name = "PageHeader",
+                                             .kind = SectionKind::kPageHeader,
+                                             .height = 1'260,
+                                             .controls = PageHeaderControlsWithRates(Captions())},
+                                            AccountHeader(),
+                                            Lines(),
+                                            AccountFooter(),
+                                            {.name = "PageFooter",
+                                             .kind = SectionKind::kPageFooter,
+                                             .height = kPageFooterHeight,
+                                             .controls = {ItemAdjustmentNoteControl()}},
+                                            Totals()}};
+    return layout;
+}
+
+}  // namespace varnel::reports
