@@ -15,6 +15,7 @@
 #include "cli/message_log.h"
 #include "cli/nearest_name.h"
 #include "cli/output_file.h"
+#include "cli/report_subject.h"
 #include "cli/report_table.h"
 #include "cli/run_monitor.h"
 #include "cli/run_options.h"
@@ -30,7 +31,7 @@ void RefuseOtherOptions(const ReportEntry& entry, const RunRequest& request) {
     const auto report = SampleReport(entry);
     for (const auto& option : RunOptions()) {
         if (option.taken_by == nullptr || !option.IsGiven(request)) continue;
-        if (!option.taken_by(*report))
+        if (!option.taken_by(entry, *report))
             throw UsageError(std::string(entry.name) + " takes no " +
                              std::string(option.LongName()) +
                              "\n\"varnel reports\" lists the options that each report takes");
@@ -123,6 +124,7 @@ int RunReport(const RunRequest& request, Console& console) {
     const RunSettings settings = ReadSettings(request);
     const OutputFormat& format = ChooseFormat(request);
     RefuseOtherOptions(entry, request);
+    RequireSubject(entry, request);
     CheckFiles(request, format);
     CheckTerminal(request);
     if (IsShownOnTerminal(request)) console.SwitchProgressOff();
@@ -132,6 +134,7 @@ int RunReport(const RunRequest& request, Console& console) {
     const auto host = OpenHost(request, settings, log, dialogs);
     const auto report = MakeReport(entry, entry.arguments(settings, *host));
     if (report == nullptr) return Conclude(log, false, console);
+    PutSubject(*report, entry, *host, request);
     ConfigureReport(*report, host, request, settings);
     if (auto* config = dynamic_cast<IReportConfig*>(report.get()); config && log.Count() == 0)
         ConfigureOptions(*config, *dialogs, settings.options, request.configure);

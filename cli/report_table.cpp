@@ -44,7 +44,7 @@ constexpr ReportEntry kReports[] = {
      None},
     {"unrealized-exchange", "UnRealExchProfitLoss", "dsrUnRealExchProfitloss", None},
     {"unrealized-exchange-detail", "UnRealExchProfitLossDetail", "dsrUnRealExchProfitlossDetail",
-     None},
+     None, "GLAcctId", "ExCurrencyId"},
     {"realized-exchange", "RealizedExchProfitLoss", "dsrRealizedExchProfitloss", None},
 };
 

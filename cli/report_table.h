@@ -19,6 +19,10 @@ struct ReportEntry {
     std::string_view class_name;
     /// What the factory method takes.
     std::vector<Variant> (*arguments)(const RunSettings& settings, Application& application);
+    /// Properties that take the internal id of the one account and the one currency that the report
+    /// is about; empty for reports that are about all.
+    std::string_view account_property = {};
+    std::string_view currency_property = {};
 };
 
 /// Every report, those that this version does not have included.

@@ -4,20 +4,24 @@ namespace varnel::cli {
 
 namespace {
 
-bool Always(IReport&) { return true; }
+bool Always(const ReportEntry&, IReport&) { return true; }
 
-bool HasFirstDay(IReport& report) {
+bool HasFirstDay(const ReportEntry&, IReport& report) {
     return report.IReport_DateDisplayOptions() == DateDisplay::kFromTo;
 }
 
-bool HasLastDay(IReport& report) {
+bool HasLastDay(const ReportEntry&, IReport& report) {
     return report.IReport_DateDisplayOptions() != DateDisplay::kNone;
 }
 
 template <class Companion>
-bool Has(IReport& report) {
+bool Has(const ReportEntry&, IReport& report) {
     return dynamic_cast<Companion*>(&report) != nullptr;
 }
+
+bool HasAccount(const ReportEntry& entry, IReport&) { return !entry.account_property.empty(); }
+
+bool HasCurrency(const ReportEntry& entry, IReport&) { return !entry.currency_property.empty(); }
 
 constexpr RunOption kOptions[] = {
     {"--company", "FILE", &RunRequest::company, "The company database"},
@@ -25,6 +29,8 @@ constexpr RunOption kOptions[] = {
      HasFirstDay},
     {"--to", "DATE", &RunRequest::to, "Last day, or the closing date; left out: no limit",
      HasLastDay},
+    {"--account", "NUMBER", &RunRequest::account, "The account, by its number", HasAccount},
+    {"--currency", "CODE", &RunRequest::currency, "The foreign currency, as USD", HasCurrency},
     {"--segments", "IDS", &RunRequest::segments, "Only these segments, by id: 3,7",
      Has<ISegmentFilter>},
     {"--no-segment", "", &RunRequest::no_segment,
@@ -68,10 +74,12 @@ bool RunOption::IsGiven(const RunRequest& request) const {
 
 std::span<const RunOption> RunOptions() { return kOptions; }
 
-std::vector<const RunOption*> OptionsOf(IReport& report) {
+std::vector<const RunOption*> OptionsOf(const ReportEntry& entry) {
+    const auto report = SampleReport(entry);
     std::vector<const RunOption*> options;
     for (const auto& option : kOptions)
-        if (option.taken_by != nullptr && option.taken_by(report)) options.push_back(&option);
+        if (option.taken_by != nullptr && option.taken_by(entry, *report))
+            options.push_back(&option);
     return options;
 }
 

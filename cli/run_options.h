@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "cli/report_table.h"
 #include "cli/run_request.h"
 #include "host/report.h"
 
@@ -21,7 +22,7 @@ struct RunOption {
     Target target;
     std::string_view help;
     /// Whether a report takes it; null for those of the program, which go with all reports.
-    bool (*taken_by)(IReport& report) = nullptr;
+    bool (*taken_by)(const ReportEntry& entry, IReport& report) = nullptr;
 
     /// Its long name: "--output".
     std::string_view LongName() const;
@@ -30,7 +31,7 @@ struct RunOption {
 
 std::span<const RunOption> RunOptions();
 
-/// The options of that report's own, in the order of the table.
-std::vector<const RunOption*> OptionsOf(IReport& report);
+/// The options of a report's own, in the order of the table; only for a built one.
+std::vector<const RunOption*> OptionsOf(const ReportEntry& entry);
 
 }  // namespace varnel::cli

@@ -11,6 +11,8 @@ struct RunRequest {
     std::string company;
     std::string from;
     std::string to;
+    std::string account;   // Its number.
+    std::string currency;  // Its code.
     std::string segments;
     bool no_segment = false;
     std::string filter;

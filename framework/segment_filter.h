@@ -23,6 +23,8 @@ class SegmentFilter : public ISegmentFilter {
     void ISegmentFilter_SegmentNoneFilter(bool also_none) override { also_none_ = also_none; }
 
   protected:
+    const std::string& SegmentIds() const { return ids_; }
+    bool TakesLinesWithoutSegment() const { return also_none_; }
     bool IsSegmentFiltered() const { return !ids_.empty() || also_none_; }
     std::string SegmentClauseOn(std::string_view column) const {
         return SegmentClause(column, ids_, also_none_);

@@ -14,9 +14,9 @@ namespace varnel::cli {
 
 namespace {
 
-std::string OptionList(IReport& report) {
+std::string OptionList(const ReportEntry& entry) {
     std::string list;
-    for (const auto* option : OptionsOf(report)) {
+    for (const auto* option : OptionsOf(entry)) {
         list += list.empty() ? "" : " ";
         list += option->LongName();
     }
@@ -32,7 +32,7 @@ int ListReports(const std::string& asked_language, Console& console) {
         if (!IsBuilt(entry)) continue;
         const auto title = framework::WithoutAccelerators(texts.Get(TitleText(entry)));
         std::printf("%-30s %s\n    %s\n", std::string(entry.name).c_str(), title.c_str(),
-                    OptionList(*SampleReport(entry)).c_str());
+                    OptionList(entry).c_str());
     }
     return kDone;
 }

@@ -1,6 +1,7 @@
 from varnel import JOURNAL, VarnelTest, main
 
 USAGE = 2
+DETAIL = ["run", "unrealized-exchange-detail", "--company", "shop.db"]
 
 REFUSED = [
     ([], "say which command"),
@@ -46,6 +47,18 @@ REFUSED = [
     ([*JOURNAL, "--option", "zero=yes"], "general-journal takes no --option"),
     ([*JOURNAL, "--option", "zero"], '--option: "zero" is no option; write name=yes'),
     ([*JOURNAL, "--option", "zero=maybe"], '--option zero: "maybe" is neither yes nor no'),
+    ([*JOURNAL, "--account", "1030"], "general-journal takes no --account"),
+    ([*JOURNAL, "--currency", "USD"], "general-journal takes no --currency"),
+    ([*DETAIL, "--currency", "USD"], "is about one account: add --account NUMBER"),
+    ([*DETAIL, "--account", "1030"], "is about one currency: add --currency CODE"),
+    ([*DETAIL, "--account", "1031", "--currency", "USD"],
+     "--account: the company has no account 1031; did you mean 1030?"),
+    ([*DETAIL, "--account", "%", "--currency", "USD"], "the company has no account %\n"),
+    ([*DETAIL, "--account", "1030", "--currency", "UDS"],
+     "--currency: the company has no currency UDS; did you mean USD?"),
+    ([*DETAIL, "--account", "1030", "--currency", "cad"],
+     "--currency: cad is the company's own currency; name a foreign one"),
+    ([*DETAIL, "--account", "1030", "--property", "ExCurrencyId=2"], "use --currency instead"),
     ([*JOURNAL, "--lang", "de"], "there is no language de: use en-CA or fr-CA"),
     ([*JOURNAL, "--paper", "a5"], "there is no paper a5: use letter or a4"),
     ([*JOURNAL, "-O", "docx"], "there is no format docx: use txt, pdf, csv or jsonl"),

@@ -1,0 +1,96 @@
+#include "cli/report_subject.h"
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "cli/errors.h"
+#include "cli/nearest_name.h"
+#include "framework/query_runner.h"
+
+namespace varnel::cli {
+
+namespace {
+
+/// Something that a report can be about.
+struct Kind {
+    std::string_view option, thing, example;
+    std::string_view ReportEntry::*property;
+    std::string RunRequest::*name;
+    const char* query;  // Id and name of each.
+};
+
+constexpr Kind kAccount = {"--account",          "account",
+                           "--account NUMBER",   &ReportEntry::account_property,
+                           &RunRequest::account, "SELECT InGLAcctId, GLAcctId FROM GLAcct"};
+constexpr Kind kCurrency = {
+    "--currency",          "currency",
+    "--currency CODE",     &ReportEntry::currency_property,
+    &RunRequest::currency, "SELECT InCurrencyId, CurrencyCode FROM WorldCurrency"};
+constexpr Kind kKinds[] = {kAccount, kCurrency};
+
+void RefuseProperty(const Kind& kind, std::string_view property, const RunRequest& request) {
+    for (const auto& text : request.properties) {
+        const std::string name = text.substr(0, text.find('='));
+        if (SameName(name, property))
+            throw UsageError("--property " + name + ": use " + std::string(kind.option) +
+                             " instead");
+    }
+}
+
+/// Numbers that begin alike are near: they come first, so that they win over others as near.
+std::string NearName(std::string_view name, const std::vector<std::string>& names) {
+    const auto alike = [name](std::string_view other) {
+        return std::ranges::mismatch(name, other).in1 - name.begin();
+    };
+    std::vector<std::string_view> known(names.begin(), names.end());
+    std::ranges::stable_sort(known, std::greater(), alike);
+    return DidYouMean(name, known);
+}
+
+std::int32_t IdOf(const Kind& kind, std::string_view name, Application& application) {
+    const auto rows = framework::RunQuery(application, kind.query, {});
+    std::vector<std::string> names;
+    for (; !rows->AtEnd(); rows->MoveNext()) {
+        const Row& row = rows->Current();
+        row.AppendText({1}, names.emplace_back());
+        if (SameName(names.back(), name)) return row.Integer({0});
+    }
+    throw UsageError(std::string(kind.option) + ": the company has no " + std::string(kind.thing) +
+                     " " + std::string(name) + NearName(name, names));
+}
+
+void RefuseHomeCurrency(std::int32_t currency_id, company::CompanyHost& host,
+                        const std::string& code) {
+    if (currency_id == host.CurrentCompany().GetCurrencyInfo().CieHomeCurrencyId())
+        throw UsageError("--currency: " + code +
+                         " is the company's own currency; name a foreign one");
+}
+
+}  // namespace
+
+void RequireSubject(const ReportEntry& entry, const RunRequest& request) {
+    for (const auto& kind : kKinds) {
+        const auto property = entry.*kind.property;
+        if (property.empty()) continue;
+        RefuseProperty(kind, property, request);
+        if ((request.*kind.name).empty())
+            throw UsageError(std::string(entry.name) + " is about one " + std::string(kind.thing) +
+                             ": add " + std::string(kind.example));
+    }
+}
+
+void PutSubject(IReport& report, const ReportEntry& entry, company::CompanyHost& host,
+                const RunRequest& request) {
+    for (const auto& kind : kKinds) {
+        const auto property = entry.*kind.property;
+        if (property.empty()) continue;
+        const std::string& name = request.*kind.name;
+        const std::int32_t id = IdOf(kind, name, host);
+        if (kind.property == &ReportEntry::currency_property) RefuseHomeCurrency(id, host, name);
+        report.IReport_ReportDesigner()->Put(property, id);
+    }
+}
+
+}  // namespace varnel::cli

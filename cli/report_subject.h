@@ -1,0 +1,19 @@
+#pragma once
+
+#include "cli/report_table.h"
+#include "cli/run_request.h"
+#include "company/company_host.h"
+#include "host/report.h"
+
+namespace varnel::cli {
+
+/// A UsageError when the report is about one account or one currency and the request names none, or
+/// sets it by --property.
+void RequireSubject(const ReportEntry& entry, const RunRequest& request);
+
+/// Puts the internal ids of the account and the currency that the request names into the report's
+/// properties. A UsageError for those that the company does not have, and for its own currency.
+void PutSubject(IReport& report, const ReportEntry& entry, company::CompanyHost& host,
+                const RunRequest& request);
+
+}  // namespace varnel::cli

@@ -1,0 +1,275 @@
+#include "reports/exchange/unrealized_exchange_detail.h"
+
+#include <utility>
+
+#include "framework/exchange_rates_note.h"
+#include "framework/filter_sort_subreport.h"
+#include "framework/ledger_balance_columns.h"
+#include "framework/period_caption.h"
+#include "framework/query_runner.h"
+#include "framework/standard_header.h"
+#include "host/member_table.h"
+#include "reports/exchange/account_caption.h"
+#include "reports/exchange/unrealized_exchange_detail_layout.h"
+
+namespace varnel::reports {
+
+using namespace framework;
+
+namespace {
+
+using Detail = dsrUnRealExchProfitlossDetail;
+
+constexpr Member<Detail> kMembers[] = {
+    {"ExCurrencyId", [](Detail& r) -> Variant { return r.ExCurrencyId(); },
+     [](Detail& r, const Variant& v) { r.ExCurrencyId(v.ToInteger32()); }},
+    {"GLAcctId", [](Detail& r) -> Variant { return r.GLAcctId(); },
+     [](Detail& r, const Variant& v) { r.GLAcctId(v.ToInteger32()); }},
+    {"RatesPreset", [](Detail& r) -> Variant { return r.RatesPreset(); },
+     [](Detail& r, const Variant& v) { r.RatesPreset(v.ToBool()); }},
+};
+
+constexpr std::string_view kSelectLines =
+    "SELECT GLAcct.InGLAcctId, GLDet.ExCurrencyId, GLDet.DetDate, "
+    "ForeignAmnt As AcctBalForeign, DetAmnt As AcctBalHome, "
+    "GLDet.DetDesc, GLDet.Source, GLDet.ExSrcKeyVal, WorldCurrency.CurrencyCode, "
+    "WorldCurrency.Descr "
+    "FROM (GLAcct "
+    "INNER JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId) "
+    "LEFT JOIN WorldCurrency on GLDet.ExCurrencyID = WorldCurrency.InCurrencyId "
+    "WHERE GLDet.ExCurrencyId = ? AND InGLAcctId  = ? "
+    "AND GLDet.DetDate BETWEEN ? AND ? ";
+
+constexpr std::string_view kSelectBalance =
+    "SELECT GLAcct.InGLAcctId, GLDet.ExCurrencyId, GLDet.DetDate, "
+    "       GLDet.SeqNo, GLDet.DetDesc, GLDet.ExChangeRate, SUM(ForeignAmnt) As AcctBalForeign, "
+    "       SUM(DetAmnt) As AcctBalHome, WorldCurrency.CurrencyCode, WorldCurrency.Descr "
+    "FROM (GLAcct "
+    "INNER JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId) "
+    "LEFT JOIN WorldCurrency on GLDet.ExCurrencyID = WorldCurrency.InCurrencyId "
+    "WHERE GLAcct.InGLAcctId = ? AND "
+    "GLDet.DetDate <= ? ";
+
+constexpr std::string_view kGroupBalance =
+    "GROUP BY GLAcct.InGLAcctId, WorldCurrency.CurrencyCode, WorldCurrency.Descr, "
+    "GLDet.ExCurrencyId, GLDet.DetDate, GLDet.SeqNo, GLDet.ExChangeRate, GLDet.DetDesc";
+
+constexpr std::string_view kSegment = "GLDet.ExSegmentId";
+
+}  // namespace
+
+Detail::dsrUnRealExchProfitlossDetail()
+    : ReportBase(UnrealizedExchangeDetailLayout(),
+                 {.title_text = 30011, .date_display = DateDisplay::kFromTo}),
+      SegmentFilter(Members()),
+      FilterableReport(Members()),
+      RevaluedReport(Members()) {
+    Members().Add<Detail>(*this, kMembers);
+    Handle("PageHeader_Format", &Detail::PageHeader_Format);
+    Handle("ghGLAcct_Format", &Detail::ghGLAcct_Format);
+    Handle("Detail_Format", &Detail::Detail_Format);
+    Handle("ReportFooter_Format", &Detail::ReportFooter_Format);
+}
+
+Detail::Position Detail::Position::Of(const LedgerBalance& balance, const Revaluation& worth) {
+    return {balance.foreign, balance.home, worth.revalued, worth.gain};
+}
+
+Detail::Position Detail::Position::operator+(const Position& other) const {
+    return {foreign + other.foreign, home + other.home, revalued + other.revalued,
+            gain + other.gain};
+}
+
+void Detail::LineColumns::Resolve(const Columns& columns) {
+    date = columns.At("DetDate");
+    foreign = columns.At("AcctBalForeign");
+    home = columns.At("AcctBalHome");
+    description = columns.At("DetDesc");
+    source = columns.At("Source");
+    source_key = columns.At("ExSrcKeyVal");
+}
+
+void Detail::AmountControls::Clear() {
+    for (Control* control : {&foreign, &home, &revalued, &gain}) control->Clear();
+}
+
+// The forward is read before the lines: a database need not serve two row sets at a time, and the
+// closing balance is right for a period without lines too.
+void Detail::ActiveReport_ReportStart() {
+    Guard("ActiveReport_ReportStart", [&] {
+        forward_.reset();
+        period_.reset();
+        ShowNames();
+        ConfigureRates();
+        forward_ = BroughtForward();
+        const std::string statement = LinesStatement();
+        const Variant parameters[] = {ex_currency_id_, gl_acct_id_, DateFrom(), DateTo()};
+        auto rows = (Mark(), RunQuery(App(), statement, parameters));
+        Mark(), columns_.Resolve(rows->GetColumns());
+        Data().Attach(std::move(rows));
+        period_.emplace();
+        Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
+        Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), {}, nullptr);
+    });
+}
+
+void Detail::ShowNames() {
+    CGLAccts accounts;
+    Mark(), accounts.Init(AppRef(), 0);
+    Mark(), account_ = AccountCaption(accounts, gl_acct_id_, true);
+    Mark(), currency_code_ = GetCurrencyInfo().GetCurrencies().Item(ex_currency_id_).code;
+    Control& caption = At("lblForeignCap");
+    caption.SetText(caption.Text() + " " + currency_code_);
+    At("txtCurrency").SetText(currency_code_);
+    for (const auto* name : {"txtAccount", "txtClosingAccount"}) {
+        At(name).SetText(account_);
+        At(name).SetTag(AccountKey(gl_acct_id_));
+    }
+}
+
+void Detail::ConfigureRates() {
+    if (!rates_preset_) {
+        constexpr bool kUseRateTable = true;
+        const auto pieces = FilterPieces();
+        Mark(), GetCurrencyInfo().ConfigureExchangeRates(*this, DateTo(), kUseRateTable, pieces);
+    }
+    RequireRate();
+}
+
+// Told once, here, rather than at every line.
+void Detail::RequireRate() {
+    const auto& rates = IExchangeRates_ExchangeRates();
+    if (rates != nullptr && rates->Has(ex_currency_id_)) return;
+    const auto& date = IExchangeRates_ExchangeRatesDate();
+    Raise(error_number::kInvalidArgument, std::string(ObjectName()),
+          "There is no exchange rate for " + currency_code_ + (date.empty() ? "" : " at " + date));
+}
+
+std::string Detail::LinesStatement() const {
+    std::string statement(kSelectLines);
+    if (IsSegmentFiltered()) statement += " AND " + SegmentClauseOn(kSegment) + " ";
+    return statement + " ORDER BY DetDate, SeqNo ";
+}
+
+// Lines without a segment, where they are wanted, are wanted in the forward too: the closing
+// balance is that of the lines that the report takes.
+std::string Detail::BalanceStatement() const {
+    std::string statement(kSelectBalance);
+    if (TakesLinesWithoutSegment())
+        statement += "AND " + SegmentClauseOn(kSegment) + " ";
+    else if (IsSegmentFiltered())
+        statement += "AND " + std::string(kSegment) + " IN (" + SegmentIds() + ") ";
+    statement += kGroupBalance;
+    return statement;
+}
+
+std::optional<Detail::Position> Detail::BroughtForward() {
+    if (DateFrom() <= kOpenStart) return Position();
+    return GetAccountBalance(DateFrom() - 1);
+}
+
+std::optional<Detail::Position> Detail::GetAccountBalance(Date up_to) {
+    std::optional<Position> balance;
+    Guard("GetAccountBalance", [&] {
+        const std::string statement = BalanceStatement();
+        const Variant parameters[] = {gl_acct_id_, up_to};
+        const auto rows = (Mark(), RunQuery(App(), statement, parameters));
+        balance = SumBalances(*rows);
+    });
+    return balance;
+}
+
+// The statement has no currency in its condition: rows in others are passed over.
+Detail::Position Detail::SumBalances(Recordset& rows) {
+    LedgerBalanceColumns columns;
+    Mark(), columns.Resolve(rows.GetColumns());
+    const Revaluer revaluer((Mark(), GetCurrencyInfo()), *this);
+    Position sum;
+    for (; !rows.AtEnd(); Mark(), rows.MoveNext()) {
+        const LedgerBalance balance = (Mark(), columns.Read(rows.Current()));
+        if (balance.currency_id != ex_currency_id_) continue;
+        Mark(), sum = sum + Position::Of(balance, revaluer.Evaluate(balance));
+    }
+    return sum;
+}
+
+void Detail::PageHeader_Format() {
+    Mark(), ShowExchangeRatesNote(App(), GetSurface(), *this);
+    ReplacePageHeaderControls(PageHeader);
+}
+
+void Detail::ghGLAcct_Format() {
+    txtForwardDate.Clear();
+    PutPosition(forward_line_, forward_);
+    if (DateFrom() > kOpenStart) ShowDate(txtForwardDate, DateFrom() - 1);
+}
+
+// What a failing host leaves of a line is its blank figures, and no total that lacks it.
+void Detail::Detail_Format() {
+    if (EndOfData()) return;
+    txtDate.Clear();
+    txtDetDesc.Clear();
+    line_.Clear();
+    const auto before = std::exchange(period_, std::nullopt);
+    const Row& row = CurrentRow();
+    const LedgerBalance line{.currency_id = ex_currency_id_,
+                             .booked_rate = {},
+                             .foreign = (Mark(), row.Amount(columns_.foreign)),
+                             .home = (Mark(), row.Amount(columns_.home))};
+    const auto& rates = IExchangeRates_ExchangeRates();
+    const auto worth = (Mark(), EvaluateAtKeyedRate(GetCurrencyInfo(), rates.get(), line));
+    if (before) Mark(), period_ = *before + Position::Of(line, worth);
+
+    ShowKey();
+    Mark(), txtDetDesc.SetText(row.Text(columns_.description));
+    if (!line.foreign.IsZero()) PutForeign(line_.foreign, line.foreign);
+    if (!line.home.IsZero()) PutHome(line_.home, line.home);
+    PutHome(line_.revalued, worth.revalued);
+    PutHome(line_.gain, worth.gain);
+    if (!row.IsNull(columns_.date)) ShowDate(txtDate, (Mark(), row.Day(columns_.date)));
+}
+
+void Detail::ShowKey() {
+    const Row& row = CurrentRow();
+    Mark(), text_ = row.Text(columns_.source);
+    text_ += '|';
+    row.AppendText(columns_.source_key, text_);
+    for (Control* control :
+         {&txtDate, &txtDetDesc, &line_.foreign, &line_.home, &line_.revalued, &line_.gain})
+        control->SetTag(text_);
+}
+
+void Detail::ShowDate(Control& control, Date date) {
+    text_.clear();
+    Mark(), App().GetFormats().AppendShortDate(date, text_);
+    control.SetValue(date, text_);
+}
+
+void Detail::PutForeign(Control& control, Currency amount) {
+    text_.clear();
+    Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, ex_currency_id_, text_);
+    control.SetValue(amount, text_);
+}
+
+void Detail::PutHome(Control& control, Currency amount) {
+    text_.clear();
+    Mark(), App().GetFormats().AppendAmount(amount, text_);
+    control.SetValue(amount, text_);
+}
+
+void Detail::PutPosition(AmountControls& controls, const std::optional<Position>& position) {
+    controls.Clear();
+    if (!position) return;
+    PutForeign(controls.foreign, position->foreign);
+    PutHome(controls.home, position->home);
+    PutHome(controls.revalued, position->revalued);
+    PutHome(controls.gain, position->gain);
+}
+
+void Detail::ReportFooter_Format() {
+    closing_line_.Clear();
+    PutPosition(period_line_, period_);
+    if (forward_ && period_) PutPosition(closing_line_, *forward_ + *period_);
+}
+
+}  // namespace varnel::reports
