@@ -19,6 +19,7 @@ constexpr std::array kJoinedTables{
     JoinedTable{"WorldCurrency", "GLAcct.ExCurrencyId = WorldCurrency.InCurrencyId", false},
     JoinedTable{"ProjInfo", "GLDet.ExProjId = ProjInfo.InProjId", true},
     JoinedTable{"Segment", "GLDet.ExSegmentId = Segment.InSegmentId", true},
+    JoinedTable{"CurrPmtDet_View", "CurrPmtDet_View.ExGLAcctId = GLAcct.InGLAcctId", false},
 };
 
 std::string FromClause(std::string_view criteria) {

@@ -23,8 +23,8 @@ class CompanyFilterTool final : public FilterTool {
     std::string Describe(std::string_view criteria) override;
     std::string DescribeOrdering(std::string_view ordering) override;
     /// Criteria may name columns of GLAcct, and qualified ones of GLDet, WorldCurrency, ProjInfo
-    /// and Segment: an account matches when one of its lines does. Empty criteria match every
-    /// account.
+    /// and Segment: an account matches when one of its lines does. Qualified columns of
+    /// CurrPmtDet_View match the accounts that a payment names. Empty criteria match every account.
     std::string ResolveAccounts(std::string_view criteria) override;
 
   private:

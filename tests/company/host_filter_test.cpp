@@ -39,6 +39,11 @@ TEST(FilterWords, SpeakTheLanguageOfTheCriteriasReader) {
          "Référence comme 'a%' ou Référence pas comme 'b%'"},
         {"DetRef IS NULL OR DetRef IS NOT NULL", "Reference is empty or Reference is not empty",
          "Référence est vide ou Référence n'est pas vide"},
+        {"CurrPmtDet_View.PmtAmnt > 100 AND PmtDisc = 0 AND CurrPmtDet_View.CurrPmtType IN (1)",
+         "Amount paid > 100 and Discount = 0 and Payment type in (1)",
+         "Montant payé > 100 et Escompte = 0 et Type de paiement dans (1)"},
+        {"CurrPmtDet_View.PmtRate > CurrPmtDet_View.ExchangeRate", "Payment rate > Invoice rate",
+         "Taux du paiement > Taux de la facture"},
         {"\"AND\" = 1 OR DetRef IS", "\"AND\" = 1 or Reference IS", "\"AND\" = 1 ou Référence IS"},
     };
     for (const auto& [criteria, english, french] : cases) {
@@ -105,6 +110,17 @@ TEST_F(FilterToolOfACompany, ResolvesAccountsByTheirOwnColumnsAndByTheirLines) {
     EXPECT_EQ(tool_->ResolveAccounts("WorldCurrency.CurrencyCode = 'USD'"), "11,12,21");
     EXPECT_EQ(tool_->ResolveAccounts("GLAcctId = 'none'"), "-1");
     EXPECT_EQ(tool_->ResolveAccounts(" "), "10,11,12,20,21,30,40,50,51");
+}
+
+TEST_F(FilterToolOfACompany, ResolvesAccountsByThePaymentsThatNameThem) {
+    file_.Run(
+        "INSERT INTO Invoice (InInvoiId, InvoiId, Source, ExCurrencyId) VALUES (1, 'F1', 'INV', 2);"
+        "INSERT INTO Pmt VALUES (5, 1, '2025-01-15', '', 1.4, 11), (6, 3, '2025-01-16', '', 1.4, "
+        "10);"
+        "INSERT INTO PmtDet VALUES (1, 5, 1, 80, 0), (2, 5, 1, 90, 0), (3, 6, 1, 20, 0)");
+    EXPECT_EQ(tool_->ResolveAccounts("CurrPmtDet_View.PmtAmnt > 50"), "11");
+    EXPECT_EQ(tool_->ResolveAccounts("CurrPmtDet_View.InvoiId = 'F1'"), "10,11");
+    EXPECT_EQ(tool_->ResolveAccounts("CurrPmtDet_View.CurrPmtType = 2"), "-1");
 }
 
 TEST_F(FilterToolOfACompany, KeepsWhatItIsGiven) {
