@@ -27,6 +27,14 @@ void SetFilter(IReport& report, company::CompanyHost& host, const std::string& f
     filterable->IFilterableReport_FilterTool(host.NewFilterTool());
 }
 
+/// As a host does whose user wants foreign balances revalued; rates that are given say so too.
+void SetRates(IReport& report, company::CompanyHost& host, const RunRequest& request,
+              const RunSettings& settings) {
+    auto* const rates = dynamic_cast<IExchangeRates*>(&report);
+    if (rates == nullptr || (!request.revalue && settings.rates.empty())) return;
+    host.CurrentCompany().GetCurrencyInfo().ConfigureExchangeRates(*rates, settings.to, true, {});
+}
+
 /// Late-bound, as hosts reach the properties of a report.
 void PutProperty(IReport& report, const RunSettings::Property& property) {
     try {
@@ -46,6 +54,7 @@ void ConfigureReport(IReport& report, const std::shared_ptr<company::CompanyHost
     report.IReport_DisplayForeignCurrency(request.foreign);
     SetSegments(report, *host, request, settings);
     SetFilter(report, *host, request.filter);
+    SetRates(report, *host, request, settings);
     for (const auto& property : settings.properties) PutProperty(report, property);
     report.IReport_Initialize();
 }

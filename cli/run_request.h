@@ -17,6 +17,7 @@ struct RunRequest {
     bool no_segment = false;
     std::string filter;
     bool foreign = false;
+    bool revalue = false;
     std::vector<std::string> rates;  // "USD=1.3725"
     std::string rates_file;
     std::vector<std::string> properties;  // "Name=value"
