@@ -10,10 +10,10 @@ namespace {
 
 using namespace framework;
 
-constexpr auto kSeqNo = ColumnPlace::Left(0, 600);
-constexpr auto kSource = ColumnPlace::Left(640, 660);
-constexpr auto kDate = ColumnPlace::Left(1'340, 880);
-constexpr auto kDescription = ColumnPlace::Left(2'240, 2'400, Stretch::kWiden);
+constexpr auto kSeqNo = ColumnPlace::Left(0, 580);
+constexpr auto kSource = ColumnPlace::Left(620, 560);
+constexpr auto kDate = ColumnPlace::Left(1'220, 980);
+constexpr auto kDescription = ColumnPlace::Left(2'260, 2'360, Stretch::kWiden);
 constexpr auto kForeign = ColumnPlace::Amount(4'680, 1'580);
 constexpr auto kDebit = ColumnPlace::Amount(6'300, 1'320);
 constexpr auto kCredit = ColumnPlace::Amount(7'660, 1'320);
@@ -21,7 +21,7 @@ constexpr auto kBalance = ColumnPlace::Amount(9'020, 1'440);
 constexpr ColumnPlace kType{10'500, 300, Align::kLeft, Stretch::kShift};
 /// Of the account header and of the adjusting line.
 constexpr auto kAccount = ColumnPlace::Left(0, 1'180);
-constexpr auto kAccountName = ColumnPlace::Left(1'240, 5'000, Stretch::kWiden);
+constexpr auto kAccountName = ColumnPlace::Left(1'220, 5'020, Stretch::kWiden);
 /// What stands before an amount: it ends where the balance begins.
 constexpr ColumnPlace kBeforeBalance{6'300, 2'660, Align::kRight, Stretch::kShift};
 constexpr ColumnPlace kBeforeDebit{2'240, 4'000, Align::kRight, Stretch::kWiden};

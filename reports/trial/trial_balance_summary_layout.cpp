@@ -16,6 +16,8 @@ constexpr auto kDescription = ColumnPlace::Left(1'260, 4'500, Stretch::kWiden);
 constexpr auto kForeign = ColumnPlace::Amount(5'820, 1'880);
 constexpr auto kDebit = ColumnPlace::Amount(7'760, 1'490);
 constexpr auto kCredit = ColumnPlace::Amount(9'310, 1'490);
+/// Off the rule under the captions.
+constexpr Twips kRowTop = 20;
 // Of the report footer: the adjusting line, then the totals.
 constexpr Twips kAdjustmentTop = 40;
 constexpr Twips kTotalRuleTop = 320;
@@ -33,19 +35,19 @@ std::vector<ControlLayout> Captions() {
 }
 
 SectionLayout Accounts() {
-    auto code = ColumnText("txtAcctId", kCode, 0, kBody, "code");
+    auto code = ColumnText("txtAcctId", kCode, kRowTop, kBody, "code");
     code.data_field = "GLAcctId";
-    auto description = ColumnText("txtDescr", kDescription, 0, kBody, "description");
+    auto description = ColumnText("txtDescr", kDescription, kRowTop, kBody, "description");
     description.data_field = "Descr";
     description.can_grow = true;
-    auto foreign = ColumnText("txtCurrency", kForeign, 0, kQuiet, "foreign");
+    auto foreign = ColumnText("txtCurrency", kForeign, kRowTop, kQuiet, "foreign");
     foreign.visible = false;
-    return {
-        .name = "Detail",
-        .kind = SectionKind::kDetail,
-        .height = kDetailHeight,
-        .controls = {code, description, foreign, ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
-                     ColumnText("txtCredit", kCredit, 0, kBody, "credit")}};
+    return {.name = "Detail",
+            .kind = SectionKind::kDetail,
+            .height = kDetailHeight,
+            .controls = {code, description, foreign,
+                         ColumnText("txtDebit", kDebit, kRowTop, kBody, "debit"),
+                         ColumnText("txtCredit", kCredit, kRowTop, kBody, "credit")}};
 }
 
 SectionLayout Totals() {
