@@ -139,6 +139,7 @@ SectionLayout GrandTotal() {
                          {.name = "txtRatesDate",
                           .box = {kForeignLeft, 170, kGainLeft - 60 - kForeignLeft, kLine},
                           .style = kQuiet,
+                          .align = Align::kRight,
                           .stretch = Stretch::kShift},
                          Amount("txtGainGrandTotal", kGainLeft, 170, kHeading)}};
 }
