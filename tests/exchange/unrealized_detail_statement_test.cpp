@@ -1,0 +1,116 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/exchange/unrealized_detail_run.h"
+
+namespace varnel {
+namespace {
+
+using test::DetailRun;
+using test::kBalanceStatement;
+using test::kLinesStatement;
+using test::Line;
+using testing::ElementsAre;
+
+#define LINES                                                                             \
+    "SELECT GLAcct.InGLAcctId, GLDet.ExCurrencyId, GLDet.DetDate, ForeignAmnt As "        \
+    "AcctBalForeign, DetAmnt As AcctBalHome, GLDet.DetDesc, GLDet.Source, "               \
+    "GLDet.ExSrcKeyVal, WorldCurrency.CurrencyCode, WorldCurrency.Descr FROM (GLAcct "    \
+    "INNER JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId) LEFT JOIN WorldCurrency on " \
+    "GLDet.ExCurrencyID = WorldCurrency.InCurrencyId WHERE GLDet.ExCurrencyId = ? AND "   \
+    "InGLAcctId  = ? AND GLDet.DetDate BETWEEN ? AND ? "
+#define IN_ORDER " ORDER BY DetDate, SeqNo "
+
+#define BALANCE                                                                          \
+    "SELECT GLAcct.InGLAcctId, GLDet.ExCurrencyId, GLDet.DetDate,        GLDet.SeqNo, "  \
+    "GLDet.DetDesc, GLDet.ExChangeRate, SUM(ForeignAmnt) As AcctBalForeign,        "     \
+    "SUM(DetAmnt) As AcctBalHome, WorldCurrency.CurrencyCode, WorldCurrency.Descr FROM " \
+    "(GLAcct INNER JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId) LEFT JOIN "         \
+    "WorldCurrency on GLDet.ExCurrencyID = WorldCurrency.InCurrencyId WHERE "            \
+    "GLAcct.InGLAcctId = ? AND GLDet.DetDate <= ? "
+#define GROUPED                                                                     \
+    "GROUP BY GLAcct.InGLAcctId, WorldCurrency.CurrencyCode, WorldCurrency.Descr, " \
+    "GLDet.ExCurrencyId, GLDet.DetDate, GLDet.SeqNo, GLDet.ExChangeRate, GLDet.DetDesc"
+
+struct SegmentCase {
+    const char* name;
+    const char* segments;
+    bool also_none;
+    const char* lines;
+    const char* balance;
+};
+
+void PrintTo(const SegmentCase& tried, std::ostream* out) { *out << tried.name; }
+
+class UnrealizedDetailStatementTest : public testing::TestWithParam<SegmentCase> {};
+
+TEST_P(UnrealizedDetailStatementTest, IsExactlyThisAndTheForwardTakesTheSameSegments) {
+    DetailRun run;
+    auto& segments = dynamic_cast<ISegmentFilter&>(*run.report);
+    segments.ISegmentFilter_SegmentFilter(GetParam().segments);
+    segments.ISegmentFilter_SegmentNoneFilter(GetParam().also_none);
+    run({});
+    EXPECT_EQ(run.Asked(kLinesStatement).at(0).text, GetParam().lines);
+    EXPECT_EQ(run.Asked(kBalanceStatement).at(0).text, GetParam().balance);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Segments, UnrealizedDetailStatementTest,
+    testing::Values(
+        SegmentCase{"all", "", false, LINES IN_ORDER, BALANCE GROUPED},
+        SegmentCase{"segments", "3,7", false, LINES " AND (GLDet.ExSegmentId IN (3,7)) " IN_ORDER,
+                    BALANCE "AND GLDet.ExSegmentId IN (3,7) " GROUPED},
+        SegmentCase{"none", "", true, LINES " AND (GLDet.ExSegmentId IS NULL) " IN_ORDER,
+                    BALANCE "AND (GLDet.ExSegmentId IS NULL) " GROUPED},
+        SegmentCase{
+            "segments or none", "3,7", true,
+            LINES " AND (GLDet.ExSegmentId IN (3,7) OR GLDet.ExSegmentId IS NULL) " IN_ORDER,
+            BALANCE "AND (GLDet.ExSegmentId IN (3,7) OR GLDet.ExSegmentId IS NULL) " GROUPED}));
+
+std::vector<std::string> Texts(const std::vector<Variant>& parameters) {
+    std::vector<std::string> texts;
+    for (const auto& parameter : parameters) texts.push_back(parameter.ToText());
+    return texts;
+}
+
+TEST(UnrealizedDetailQueryTest,
+     LinesAreThoseOfCurrencyAccountAndPeriodAndTheForwardEndsADayBefore) {
+    DetailRun run;
+    run({});
+    const auto lines = run.Asked(kLinesStatement).at(0).parameters;
+    EXPECT_THAT(Texts(lines), ElementsAre("2", "1060", "2025-01-01", "2025-03-31"));
+    for (const std::size_t id : {0u, 1u}) EXPECT_TRUE(lines[id].Holds<std::int32_t>());
+    for (const std::size_t limit : {2u, 3u}) EXPECT_TRUE(lines[limit].Holds<Date>());
+    const auto balance = run.Asked(kBalanceStatement).at(0).parameters;
+    EXPECT_THAT(Texts(balance), ElementsAre("1060", "2024-12-31"));
+    EXPECT_TRUE(balance[0].Holds<std::int32_t>() && balance[1].Holds<Date>());
+}
+
+TEST(UnrealizedDetailQueryTest, AnOpenStartBringsNothingForwardAndAsksNothing) {
+    DetailRun run;
+    run.Forward({{"1000", "1250"}});
+    run.report->IReport_DateFrom(kOpenStart);
+    const auto bands = run({Line("100", "130")});
+    EXPECT_TRUE(run.Asked(kBalanceStatement).empty());
+    EXPECT_EQ(ForwardFigures(bands), "0.00 0.00 0.00 0.00");
+    EXPECT_EQ(FooterFigures(bands, "Closing"), "100.00 130.00 137.25 7.25");
+    EXPECT_EQ(run.Asked(kLinesStatement).at(0).parameters.at(2).ToText(), "1899-12-31");
+}
+
+TEST(UnrealizedDetailQueryTest, TheDayAfterTheOpenStartIsNotOpen) {
+    DetailRun run;
+    run.report->IReport_DateFrom(kOpenStart + 1);
+    run({});
+    EXPECT_EQ(run.Asked(kBalanceStatement).at(0).parameters.at(1).ToText(), "1899-12-31");
+}
+
+TEST(UnrealizedDetailQueryTest, TheFilterIsNoPartOfTheStatementsNorOfThePage) {
+    DetailRun run;
+    dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_Filter("USD=1.40|GLAcctId");
+    const auto bands = run({});
+    EXPECT_EQ(run.Asked(kLinesStatement).at(0).text, LINES IN_ORDER);
+    for (const auto& band : bands.bands) EXPECT_EQ(band.depth, 0);
+}
+
+}  // namespace
+}  // namespace varnel
