@@ -1,0 +1,129 @@
+#include "reports/exchange/realized_gain.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/error_of.h"
+
+namespace varnel::reports {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr std::int32_t kCustomer = 1, kSupplier = 2, kDeposit = 3;
+
+/// A rounding service that keeps what it was asked, "10.00 x 1.35" for a product.
+class Rounding : public CurrencyInfo {
+  public:
+    std::vector<std::string> asked;
+
+    std::int32_t CieHomeCurrencyId() override { return 1; }
+    bool CieIsForeignCurrencyUsed() override { return true; }
+    void FormatWorldCurrency(Currency, std::int32_t, std::string&) override {}
+    Currency Round(Currency amount, int decimals) override {
+        asked.push_back(amount.ToText(2) + " to " + std::to_string(decimals));
+        return CurrencyInfo::Round(amount, decimals);
+    }
+    Currency RoundProduct(Currency amount, Rate rate, int decimals) override {
+        asked.push_back(amount.ToText(2) + " x " + rate.ToText() + " to " +
+                        std::to_string(decimals));
+        return CurrencyInfo::RoundProduct(amount, rate, decimals);
+    }
+};
+
+AppliedPayment Applied(std::int32_t type, const char* amount, const char* discount,
+                       const char* invoice_rate, const char* payment_rate) {
+    return {type, Currency::Parse(amount), Currency::Parse(discount), Rate::Parse(invoice_rate),
+            Rate::Parse(payment_rate)};
+}
+
+struct GainCase {
+    std::int32_t type;
+    const char *amount, *discount, *invoice_rate, *payment_rate, *gain;
+};
+
+void PrintTo(const GainCase& tried, std::ostream* out) {
+    *out << "type " << tried.type << ", " << tried.amount << " + " << tried.discount << ", "
+         << tried.invoice_rate << " to " << tried.payment_rate;
+}
+
+class RealizedGainTest : public testing::TestWithParam<GainCase> {};
+
+TEST_P(RealizedGainTest, IsTheSheets) {
+    const GainCase& sheet = GetParam();
+    Rounding rounding;
+    const auto payment =
+        Applied(sheet.type, sheet.amount, sheet.discount, sheet.invoice_rate, sheet.payment_rate);
+    EXPECT_EQ(RealizedGain(rounding, payment).ToText(2), sheet.gain);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Sheet, RealizedGainTest, testing::Values(
+    // Without discount: one product, one rounding.
+    GainCase{kCustomer, "1000", "0", "1.35", "1.3725", "22.50"},  // 1000 x 0.0225
+    GainCase{kCustomer, "250.40", "0", "1.3725", "1.358", "-3.63"},  // 250.40 x -0.0145 = -3.6308
+    GainCase{kSupplier, "1000", "0", "1.35", "1.3725", "-22.50"},  // 1000 x -0.0225
+    GainCase{kSupplier, "250.40", "0", "1.3725", "1.358", "3.63"},  // 250.40 x 0.0145 = 3.6308
+    GainCase{kDeposit, "500", "0", "1.4812", "1.47", "-5.60"},  // 500 x -0.0112
+    GainCase{kCustomer, "870.15", "0", "1.3725", "1.3725", "0.00"},  // 870.15 x 0
+    GainCase{kSupplier, "870.15", "0", "1.3725", "1.3725", "0.00"},
+    // At and beside the half cent, away from zero.
+    GainCase{kCustomer, "50", "0", "1.35", "1.3501", "0.01"},  // 50 x 0.0001 = 0.005
+    GainCase{kCustomer, "50", "0", "1.35", "1.3499", "-0.01"},  // 50 x -0.0001 = -0.005
+    GainCase{kCustomer, "49.99", "0", "1.35", "1.3501", "0.00"},  // 0.004999
+    // Rates of six decimals: 1234.56 x 0.022387 = 27.63809472; four decimals would make it 27.65.
+    GainCase{kCustomer, "1234.56", "0", "1.350125", "1.372512", "27.64"},
+    GainCase{kDeposit, "1234.56", "0", "1.350125", "1.372512", "27.64"},
+    // With discount: (A + D) at one rate, less A and D each at the other, each product rounded.
+    GainCase{kCustomer, "980", "20", "1.35", "1.3725", "22.50"},  // 1372.50-(27+1323)
+    GainCase{kSupplier, "980", "20", "1.35", "1.3725", "-22.50"},  // 1350-(27.45+1345.05)
+    // 10.08 x 1.36 = 13.7088, 0.07 x 1.35 = 0.0945, 10.01 x 1.35 = 13.5135:
+    // 13.71 - (0.09 + 13.51) = 0.11, where one rounding of 10.08 x 0.01 would give 0.10.
+    GainCase{kCustomer, "10.01", "0.07", "1.35", "1.36", "0.11"},
+    GainCase{kSupplier, "10.01", "0.07", "1.36", "1.35", "0.11"},
+    // A deposit has no discount: 10.01 x 0.01 = 0.1001.
+    GainCase{kDeposit, "10.01", "0.07", "1.35", "1.36", "0.10"},
+    // At the invoice's own rate: 10.08 x 1.35 = 13.608, 13.61 - (0.09 + 13.51).
+    GainCase{kCustomer, "10.01", "0.07", "1.35", "1.35", "0.01"},
+    // 707.17 x 0.731053 = 516.97875001, 7.07 x 0.728415 = 5.14989405,
+    // 700.10 x 0.728415 = 509.9633415: 516.98 - (5.15 + 509.96).
+    GainCase{kSupplier, "700.10", "7.07", "0.731053", "0.728415", "1.87"},
+    // Money that went back.
+    GainCase{kCustomer, "-1000", "0", "1.35", "1.3725", "-22.50"},
+    GainCase{kCustomer, "-10.01", "-0.07", "1.35", "1.36", "-0.11"},  // -13.71 + (0.09 + 13.51)
+    GainCase{kSupplier, "-1000", "0", "1.35", "1.3725", "22.50"},
+    // What is null in the database is 0 here.
+    GainCase{kCustomer, "0", "20", "1.35", "1.3725", "0.45"},  // 27.45 - (27.00 + 0.00)
+    GainCase{kCustomer, "100", "0", "0", "1.3725", "137.25"},  // 100 x 1.3725
+    GainCase{kCustomer, "100", "0", "1.35", "0", "-135.00"},  // 100 x -1.35
+    GainCase{kCustomer, "0", "0", "0", "0", "0.00"},
+    // 499,999,999,999.99 x 0.0225 = 11,249,999,999.999775.
+    GainCase{kCustomer, "499999999999.99", "0", "1.35", "1.3725", "11250000000.00"},
+    // Other kinds of payment realize nothing.
+    GainCase{0, "1000", "0", "1.35", "1.3725", "0.00"},
+    GainCase{4, "980", "20", "1.35", "1.3725", "0.00"}));
+// clang-format on
+
+TEST(RealizedGainRoundingTest, IsTheHostsOncePerProductAndOnceAtTheEnd) {
+    Rounding plain;
+    RealizedGain(plain, Applied(kCustomer, "1000", "0", "1.35", "1.3725"));
+    EXPECT_THAT(plain.asked, ElementsAre("1000.00 x 0.0225 to 2"));
+    Rounding discounted;
+    RealizedGain(discounted, Applied(kSupplier, "980", "20", "1.35", "1.3725"));
+    EXPECT_THAT(discounted.asked, ElementsAre("1000.00 x 1.3500 to 2", "20.00 x 1.3725 to 2",
+                                              "980.00 x 1.3725 to 2", "-22.50 to 2"));
+}
+
+TEST(RealizedGainRoundingTest, WhatDoesNotFitIsAnOverflow) {
+    Rounding rounding;
+    const auto gain_of = [&](const AppliedPayment& payment) {
+        return test::ErrorOf([&] { RealizedGain(rounding, payment); });
+    };
+    // More than 922,337,203,685,477.5807 cannot be held.
+    EXPECT_EQ(gain_of(Applied(kCustomer, "900000000000000", "0", "0", "2")), 6);
+    EXPECT_EQ(gain_of(Applied(kCustomer, "900000000000000", "900000000000000", "1", "1")), 6);
+    EXPECT_EQ(gain_of(Applied(kCustomer, "0", "0", "-90000000000", "90000000000")), 6);
+}
+
+}  // namespace
+}  // namespace varnel::reports

@@ -1,0 +1,129 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "framework/dialect.h"
+#include "tests/exchange/realized_run.h"
+#include "tests/journal/picking_tool.h"
+
+namespace varnel {
+namespace {
+
+using test::PickingTool;
+using test::RealizedRun;
+using testing::ElementsAre;
+
+// Texts are joined by JOINED.
+#define PAYMENTS_JOINED_BY(JOINED)                                                             \
+    "SELECT CurrPmtDet_View.PmtAmnt, CurrPmtDet_View.PmtDisc, CurrPmtDet_View.ExchangeRate, "  \
+    "CurrPmtDet_View.PmtRate, CurrPmtDet_View.CurrPmtType, CurrPmtDet_View.Source, "           \
+    "CurrPmtDet_View.InInvoiId, CurrPmtDet_View.InPmtId, CurrPmtDet_View.ExCurrencyId, "       \
+    "CurrPmtDet_View.ExGLAcctId, CurrPmtDet_View.PmtDate, CurrPmtDet_View.Name, "              \
+    "CurrPmtDet_View.InvoiId, CurrPmtDet_View.ChqNo, WorldCurrency.CurrencyCode, "             \
+    "WorldCurrency.Descr, (WorldCurrency.CurrencyCode " JOINED " ' - ' " JOINED                \
+    " WorldCurrency.Descr) AS FullCurrencyDescr FROM CurrPmtDet_View LEFT JOIN WorldCurrency " \
+    "ON WorldCurrency.InCurrencyId = CurrPmtDet_View.ExCurrencyId WHERE "                      \
+    "CurrPmtDet_View.PmtDate BETWEEN ? AND ? AND CurrPmtDet_View.ExCurrencyId <> ? "
+#define PAYMENTS PAYMENTS_JOINED_BY("&")
+#define IN_ORDER \
+    " ORDER BY  ExCurrencyId, CurrPmtType, CurrPmtDet_View.PmtDate, CurrPmtDet_View.ChqNo "
+#define BY_DATE_AND " ORDER BY ExCurrencyId, CurrPmtType, CurrPmtDet_View.PmtDate, "
+
+struct StatementCase {
+    const char* segments;
+    bool also_none;
+    const char* filter;
+    const char* statement;
+};
+
+void PrintTo(const StatementCase& tried, std::ostream* out) {
+    *out << "segments \"" << tried.segments << "\", filter \"" << tried.filter << "\"";
+}
+
+class RealizedStatementTest : public testing::TestWithParam<StatementCase> {};
+
+TEST_P(RealizedStatementTest, IsExactlyThis) {
+    RealizedRun run;
+    auto& segments = dynamic_cast<ISegmentFilter&>(*run.report);
+    segments.ISegmentFilter_SegmentFilter(GetParam().segments);
+    segments.ISegmentFilter_SegmentNoneFilter(GetParam().also_none);
+    dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_Filter(GetParam().filter);
+    run({});
+    EXPECT_EQ(run.LastQuery().text, GetParam().statement);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Variants, RealizedStatementTest,
+    testing::Values(
+        StatementCase{"", false, "", PAYMENTS IN_ORDER},
+        StatementCase{"3,7", false, "",
+                      PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3,7)) " IN_ORDER},
+        StatementCase{"", true, "",
+                      PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IS NULL) " IN_ORDER},
+        StatementCase{"3,7", true, "",
+                      PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3,7) OR "
+                               "CurrPmtDet_View.ExSegmentId IS NULL) " IN_ORDER},
+        StatementCase{"", false, "PmtAmnt > 5", PAYMENTS " AND (PmtAmnt > 5) " IN_ORDER},
+        StatementCase{"", false, "|Name DESC", PAYMENTS BY_DATE_AND "Name DESC"},
+        StatementCase{"", false, "|", PAYMENTS IN_ORDER},
+        StatementCase{"3", true, "PmtAmnt > 5|Name",
+                      PAYMENTS
+                      " AND (CurrPmtDet_View.ExSegmentId IN (3) OR "
+                      "CurrPmtDet_View.ExSegmentId IS NULL)  AND (PmtAmnt > 5) " BY_DATE_AND
+                      "Name"}));
+
+TEST(RealizedQueryTest, JoinsTextsAsTheDatabaseDoes) {
+    RealizedRun run;
+    for (const auto& [type, statement] :
+         {std::pair{1, PAYMENTS IN_ORDER}, std::pair{0, PAYMENTS_JOINED_BY("+") IN_ORDER},
+          std::pair{2, PAYMENTS_JOINED_BY("+") IN_ORDER}}) {
+        run.host->database.type = type;
+        run({});
+        EXPECT_EQ(run.LastQuery().text, statement) << "database type " << type;
+    }
+}
+
+TEST(RealizedQueryTest, TypeOneIsTheDesktopAndAnythingElseAServer) {
+    test::HostCalls calls;
+    test::MemoryDatabase database(calls);
+    for (const int type : {-1, 0, 1, 2, 11}) {
+        database.type = type;
+        EXPECT_EQ(framework::DialectOf(database) == framework::Dialect::kDesktop, type == 1);
+    }
+}
+
+TEST(RealizedQueryTest, HasBothDatesAsTheyAreAndTheHomeCurrency) {
+    RealizedRun run;
+    run.host->company.currency_info.home_id = 7;
+    run.report->IReport_Initialize();
+    run.report->IReport_DateFrom(kOpenStart);
+    run({});
+    const auto& query = run.LastQuery();
+    EXPECT_THAT(query.calls,
+                ElementsAre("timeout 0", "connection memory", "text", "parameter 1899-12-31",
+                            "parameter 2025-03-31", "parameter 7", "execute -1"));
+    EXPECT_TRUE(query.parameters.at(0).Holds<Date>());
+    EXPECT_TRUE(query.parameters.at(1).Holds<Date>());
+    EXPECT_TRUE(query.parameters.at(2).Holds<std::int32_t>());
+}
+
+TEST(RealizedQueryTest, AccountsAreLoadedOnceARunBeforeThePayments) {
+    RealizedRun run;
+    run({test::Paid("1", 1), test::Paid("1", 2), test::Paid("1", 1, 3)});
+    run({});
+    std::vector<std::string> starts;
+    for (const auto& command : run.host->database.Commands())
+        starts.push_back(command->text.substr(0, 13));
+    EXPECT_THAT(starts,
+                ElementsAre("Select * from", "SELECT CurrPm", "Select * from", "SELECT CurrPm"));
+}
+
+TEST(RealizedQueryTest, TheFilterToolLearnsWhichTablesCriteriaMayName) {
+    RealizedRun run;
+    const auto tool = std::make_shared<PickingTool>();
+    dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_FilterTool(tool);
+    run({});
+    EXPECT_EQ(tool->tables, "CurrPmtDet_View, WorldCurrency");
+}
+
+}  // namespace
+}  // namespace varnel
