@@ -15,7 +15,7 @@ using render::CellWidth;
 constexpr int kButtonEnds = 4;  // "< " and " >"
 constexpr int kCloseMark = 3;   // "[×]"
 constexpr int kSideRoom = 3;    // Edge and two blanks, on either side.
-constexpr int kWidestText = 66;
+constexpr int kWidestText = 74;
 constexpr int kNarrowestText = 8;
 
 /// Takes the next line off `rest`, without the blank at which it ends.
