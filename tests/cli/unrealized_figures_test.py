@@ -62,7 +62,8 @@ class UnrealizedFigures(VarnelTest):
         """Foreign, booked, revalued and gain by currency code and account."""
         lines = self.database.execute(
             "SELECT GLDet.*, GLAcctId || ' - ' || GLAcct.Descr AS Account, ChqAcct,"
-            " GLAcct.ExCurrencyId AS AccountCurrency, CurrencyCode FROM GLDet, GLAcct, WorldCurrency"
+            " GLAcct.ExCurrencyId AS AccountCurrency, CurrencyCode"
+            " FROM GLDet, GLAcct, WorldCurrency"
             " WHERE InGLAcctId = ExAcctId AND InCurrencyId = GLDet.ExCurrencyId")
         entries = defaultdict(lambda: [Decimal(), Decimal()])
         for line in lines:
