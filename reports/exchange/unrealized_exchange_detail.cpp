@@ -18,15 +18,15 @@ using namespace framework;
 
 namespace {
 
-using Detail = dsrUnRealExchProfitlossDetail;
+using Report = dsrUnRealExchProfitlossDetail;
 
-constexpr Member<Detail> kMembers[] = {
-    {"ExCurrencyId", [](Detail& r) -> Variant { return r.ExCurrencyId(); },
-     [](Detail& r, const Variant& v) { r.ExCurrencyId(v.ToInteger32()); }},
-    {"GLAcctId", [](Detail& r) -> Variant { return r.GLAcctId(); },
-     [](Detail& r, const Variant& v) { r.GLAcctId(v.ToInteger32()); }},
-    {"RatesPreset", [](Detail& r) -> Variant { return r.RatesPreset(); },
-     [](Detail& r, const Variant& v) { r.RatesPreset(v.ToBool()); }},
+constexpr Member<Report> kMembers[] = {
+    {"ExCurrencyId", [](Report& r) -> Variant { return r.ExCurrencyId(); },
+     [](Report& r, const Variant& v) { r.ExCurrencyId(v.ToInteger32()); }},
+    {"GLAcctId", [](Report& r) -> Variant { return r.GLAcctId(); },
+     [](Report& r, const Variant& v) { r.GLAcctId(v.ToInteger32()); }},
+    {"RatesPreset", [](Report& r) -> Variant { return r.RatesPreset(); },
+     [](Report& r, const Variant& v) { r.RatesPreset(v.ToBool()); }},
 };
 
 constexpr std::string_view kSelectLines =
@@ -58,29 +58,29 @@ constexpr std::string_view kSegment = "GLDet.ExSegmentId";
 
 }  // namespace
 
-Detail::dsrUnRealExchProfitlossDetail()
+Report::dsrUnRealExchProfitlossDetail()
     : ReportBase(UnrealizedExchangeDetailLayout(),
                  {.title_text = 30011, .date_display = DateDisplay::kFromTo}),
       SegmentFilter(Members()),
       FilterableReport(Members()),
       RevaluedReport(Members()) {
-    Members().Add<Detail>(*this, kMembers);
-    Handle("PageHeader_Format", &Detail::PageHeader_Format);
-    Handle("ghGLAcct_Format", &Detail::ghGLAcct_Format);
-    Handle("Detail_Format", &Detail::Detail_Format);
-    Handle("ReportFooter_Format", &Detail::ReportFooter_Format);
+    Members().Add<Report>(*this, kMembers);
+    Handle("PageHeader_Format", &Report::PageHeader_Format);
+    Handle("ghGLAcct_Format", &Report::ghGLAcct_Format);
+    Handle("Detail_Format", &Report::Detail_Format);
+    Handle("ReportFooter_Format", &Report::ReportFooter_Format);
 }
 
-Detail::Position Detail::Position::Of(const LedgerBalance& balance, const Revaluation& worth) {
+Report::Position Report::Position::Of(const LedgerBalance& balance, const Revaluation& worth) {
     return {balance.foreign, balance.home, worth.revalued, worth.gain};
 }
 
-Detail::Position Detail::Position::operator+(const Position& other) const {
+Report::Position Report::Position::operator+(const Position& other) const {
     return {foreign + other.foreign, home + other.home, revalued + other.revalued,
             gain + other.gain};
 }
 
-void Detail::LineColumns::Resolve(const Columns& columns) {
+void Report::LineColumns::Resolve(const Columns& columns) {
     date = columns.At("DetDate");
     foreign = columns.At("AcctBalForeign");
     home = columns.At("AcctBalHome");
@@ -89,13 +89,13 @@ void Detail::LineColumns::Resolve(const Columns& columns) {
     source_key = columns.At("ExSrcKeyVal");
 }
 
-void Detail::AmountControls::Clear() {
+void Report::AmountControls::Clear() {
     for (Control* control : {&foreign, &home, &revalued, &gain}) control->Clear();
 }
 
 // The forward is read before the lines: a database need not serve two row sets at a time, and the
 // closing balance is right for a period without lines too.
-void Detail::ActiveReport_ReportStart() {
+void Report::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
         forward_.reset();
         period_.reset();
@@ -113,21 +113,21 @@ void Detail::ActiveReport_ReportStart() {
     });
 }
 
-void Detail::ShowNames() {
+void Report::ShowNames() {
     CGLAccts accounts;
     Mark(), accounts.Init(AppRef(), 0);
-    Mark(), account_ = AccountCaption(accounts, gl_acct_id_, true);
+    const std::string account = (Mark(), AccountCaption(accounts, gl_acct_id_, true));
     Mark(), currency_code_ = GetCurrencyInfo().GetCurrencies().Item(ex_currency_id_).code;
     Control& caption = At("lblForeignCap");
     caption.SetText(caption.Text() + " " + currency_code_);
     At("txtCurrency").SetText(currency_code_);
     for (const auto* name : {"txtAccount", "txtClosingAccount"}) {
-        At(name).SetText(account_);
+        At(name).SetText(account);
         At(name).SetTag(AccountKey(gl_acct_id_));
     }
 }
 
-void Detail::ConfigureRates() {
+void Report::ConfigureRates() {
     if (!rates_preset_) {
         constexpr bool kUseRateTable = true;
         const auto pieces = FilterPieces();
@@ -137,7 +137,7 @@ void Detail::ConfigureRates() {
 }
 
 // Told once, here, rather than at every line.
-void Detail::RequireRate() {
+void Report::RequireRate() {
     const auto& rates = IExchangeRates_ExchangeRates();
     if (rates != nullptr && rates->Has(ex_currency_id_)) return;
     const auto& date = IExchangeRates_ExchangeRatesDate();
@@ -145,7 +145,7 @@ void Detail::RequireRate() {
           "There is no exchange rate for " + currency_code_ + (date.empty() ? "" : " at " + date));
 }
 
-std::string Detail::LinesStatement() const {
+std::string Report::LinesStatement() const {
     std::string statement(kSelectLines);
     if (IsSegmentFiltered()) statement += " AND " + SegmentClauseOn(kSegment) + " ";
     return statement + " ORDER BY DetDate, SeqNo ";
@@ -153,7 +153,7 @@ std::string Detail::LinesStatement() const {
 
 // Lines without a segment, where they are wanted, are wanted in the forward too: the closing
 // balance is that of the lines that the report takes.
-std::string Detail::BalanceStatement() const {
+std::string Report::BalanceStatement() const {
     std::string statement(kSelectBalance);
     if (TakesLinesWithoutSegment())
         statement += "AND " + SegmentClauseOn(kSegment) + " ";
@@ -163,12 +163,12 @@ std::string Detail::BalanceStatement() const {
     return statement;
 }
 
-std::optional<Detail::Position> Detail::BroughtForward() {
+std::optional<Report::Position> Report::BroughtForward() {
     if (DateFrom() <= kOpenStart) return Position();
     return GetAccountBalance(DateFrom() - 1);
 }
 
-std::optional<Detail::Position> Detail::GetAccountBalance(Date up_to) {
+std::optional<Report::Position> Report::GetAccountBalance(Date up_to) {
     std::optional<Position> balance;
     Guard("GetAccountBalance", [&] {
         const std::string statement = BalanceStatement();
@@ -180,7 +180,7 @@ std::optional<Detail::Position> Detail::GetAccountBalance(Date up_to) {
 }
 
 // The statement has no currency in its condition: rows in others are passed over.
-Detail::Position Detail::SumBalances(Recordset& rows) {
+Report::Position Report::SumBalances(Recordset& rows) {
     LedgerBalanceColumns columns;
     Mark(), columns.Resolve(rows.GetColumns());
     const Revaluer revaluer((Mark(), GetCurrencyInfo()), *this);
@@ -193,23 +193,24 @@ Detail::Position Detail::SumBalances(Recordset& rows) {
     return sum;
 }
 
-void Detail::PageHeader_Format() {
+void Report::PageHeader_Format() {
     Mark(), ShowExchangeRatesNote(App(), GetSurface(), *this);
     ReplacePageHeaderControls(PageHeader);
 }
 
-void Detail::ghGLAcct_Format() {
+void Report::ghGLAcct_Format() {
     txtForwardDate.Clear();
     PutPosition(forward_line_, forward_);
     if (DateFrom() > kOpenStart) ShowDate(txtForwardDate, DateFrom() - 1);
 }
 
 // What a failing host leaves of a line is its blank figures, and no total that lacks it.
-void Detail::Detail_Format() {
+void Report::Detail_Format() {
     if (EndOfData()) return;
-    txtDate.Clear();
-    txtDetDesc.Clear();
-    line_.Clear();
+    for (Control* control : line_controls_) {
+        control->Clear();
+        control->SetTag({});
+    }
     const auto before = std::exchange(period_, std::nullopt);
     const Row& row = CurrentRow();
     const LedgerBalance line{.currency_id = ex_currency_id_,
@@ -229,35 +230,33 @@ void Detail::Detail_Format() {
     if (!row.IsNull(columns_.date)) ShowDate(txtDate, (Mark(), row.Day(columns_.date)));
 }
 
-void Detail::ShowKey() {
+void Report::ShowKey() {
     const Row& row = CurrentRow();
     Mark(), text_ = row.Text(columns_.source);
     text_ += '|';
     row.AppendText(columns_.source_key, text_);
-    for (Control* control :
-         {&txtDate, &txtDetDesc, &line_.foreign, &line_.home, &line_.revalued, &line_.gain})
-        control->SetTag(text_);
+    for (Control* control : line_controls_) control->SetTag(text_);
 }
 
-void Detail::ShowDate(Control& control, Date date) {
+void Report::ShowDate(Control& control, Date date) {
     text_.clear();
     Mark(), App().GetFormats().AppendShortDate(date, text_);
     control.SetValue(date, text_);
 }
 
-void Detail::PutForeign(Control& control, Currency amount) {
+void Report::PutForeign(Control& control, Currency amount) {
     text_.clear();
     Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, ex_currency_id_, text_);
     control.SetValue(amount, text_);
 }
 
-void Detail::PutHome(Control& control, Currency amount) {
+void Report::PutHome(Control& control, Currency amount) {
     text_.clear();
     Mark(), App().GetFormats().AppendAmount(amount, text_);
     control.SetValue(amount, text_);
 }
 
-void Detail::PutPosition(AmountControls& controls, const std::optional<Position>& position) {
+void Report::PutPosition(AmountControls& controls, const std::optional<Position>& position) {
     controls.Clear();
     if (!position) return;
     PutForeign(controls.foreign, position->foreign);
@@ -266,7 +265,7 @@ void Detail::PutPosition(AmountControls& controls, const std::optional<Position>
     PutHome(controls.gain, position->gain);
 }
 
-void Detail::ReportFooter_Format() {
+void Report::ReportFooter_Format() {
     closing_line_.Clear();
     PutPosition(period_line_, period_);
     if (forward_ && period_) PutPosition(closing_line_, *forward_ + *period_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -78,7 +79,6 @@ class dsrUnRealExchProfitlossDetail final : public framework::ReportBase,
     bool rates_preset_ = false;
 
     LineColumns columns_;
-    std::string account_;
     std::string currency_code_;
     std::optional<Position> forward_;
     /// The lines so far; none from the first that could not be revalued, as a total without it
@@ -87,11 +87,12 @@ class dsrUnRealExchProfitlossDetail final : public framework::ReportBase,
     std::string text_;  // Scratch for texts built row by row.
 
     Section& PageHeader = SectionAt("PageHeader");
-    Control& txtAccount = At("txtAccount");
     Control& txtForwardDate = At("txtForwardDate");
     Control& txtDate = At("txtDate");
     Control& txtDetDesc = At("txtDetDesc");
     AmountControls line_{At("txtForeign"), At("txtHome"), At("txtRevalued"), At("txtGain")};
+    const std::array<Control*, 6> line_controls_{&txtDate,    &txtDetDesc,     &line_.foreign,
+                                                 &line_.home, &line_.revalued, &line_.gain};
     AmountControls forward_line_{At("txtForwardForeign"), At("txtForwardHome"),
                                  At("txtForwardRevalued"), At("txtForwardGain")};
     AmountControls period_line_{At("txtPeriodForeign"), At("txtPeriodHome"),

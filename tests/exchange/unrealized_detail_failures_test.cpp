@@ -59,7 +59,7 @@ TEST(UnrealizedDetailFailureTest, AForwardThatCannotBeHadIsBlankAndSoIsTheClosin
     EXPECT_EQ(FooterFigures(bands, "Closing"), "- - - -");
 }
 
-TEST(UnrealizedDetailFailureTest, ALineThatCannotBeReadIsBlankAndLeavesNoTotal) {
+TEST(UnrealizedDetailFailureTest, ALineThatCannotBeReadIsBlankAndLeavesNoKeyAndNoTotal) {
     DetailRun run;
     auto unreadable = Line("0", "5");
     unreadable.foreign = "12,50";
@@ -69,6 +69,7 @@ TEST(UnrealizedDetailFailureTest, ALineThatCannotBeReadIsBlankAndLeavesNoTotal) 
                 AllOf(HasSubstr("12,50"), HasSubstr(In("Detail_Format"))));
     EXPECT_THAT(DetailFigures(bands),
                 ElementsAre("100.00 130.00 137.25 7.25", "- - - -", "1.00 1.00 1.37 0.37"));
+    EXPECT_EQ(bands.Of("Detail")[1]["txtGain"].tag, "");
     EXPECT_EQ(FooterFigures(bands, "Period"), "- - - -");
     EXPECT_EQ(FooterFigures(bands, "Closing"), "- - - -");
 }
