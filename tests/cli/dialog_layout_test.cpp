@@ -66,7 +66,7 @@ TEST(DialogLayout, TheFrameIsCentredHoldsEverythingAndFitsTheScreen) {
 TEST(DialogLayout, OnALowScreenTheItemWithTheFocusIsSeen) {
     TwoBoxForm form;
     for (const int rows : {3, 5, 7}) {
-        for (const std::size_t focus : {0, 1, 2}) {
+        for (const std::size_t focus : {0U, 1U, 2U}) {
             const auto area = LayOutDialog(form, {rows, 80}, focus).items[focus].area;
             EXPECT_GE(area.top, 0) << rows << " rows, item " << focus;
             EXPECT_LE(area.Bottom(), rows) << rows << " rows, item " << focus;
