@@ -105,8 +105,8 @@ void dsrRealizedExchProfitloss::ActiveReport_Initialize() {
 
 void dsrRealizedExchProfitloss::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
-        group_ = {};
-        report_gain_ = {};
+        group_ = Totals();
+        report_gain_ = Currency();
         currency_id_ = 0;
         payment_type_ = 0;
         foreign_used_ = false;
@@ -194,30 +194,24 @@ void dsrRealizedExchProfitloss::ShowKeys() {
     row.AppendText(columns_.invoice_id, text_);
     for (Control* control : {&txtName, &txtInvoiId, &txtExchangeRate}) control->SetTag(text_);
 
-    text_.clear();
-    if (const PaymentKind* const kind = KindOf(payment_type_); kind != nullptr) {
-        text_ = kind->key;
-        row.AppendText(columns_.payment_id, text_);
-    }
-    for (Control* control : {&txtPmtDate, &txtChqNo, &txtPmtRate, &txtPaid}) control->SetTag(text_);
+    Control* const of_payment[] = {&txtPmtDate, &txtChqNo, &txtPmtRate, &txtPaid};
+    for (Control* control : of_payment) control->SetTag({});
+    const PaymentKind* const kind = (Mark(), KindOf(row.Integer(columns_.type)));
+    if (kind == nullptr) return;
+    text_ = kind->key;
+    row.AppendText(columns_.payment_id, text_);
+    for (Control* control : of_payment) control->SetTag(text_);
 }
 
 AppliedPayment dsrRealizedExchProfitloss::ReadPayment() {
     const Row& row = CurrentRow();
     AppliedPayment payment;
-    payment.type = payment_type_;
+    Mark(), payment.type = row.Integer(columns_.type);
     Mark(), payment.amount = row.Amount(columns_.amount);
     Mark(), payment.discount = row.Amount(columns_.discount);
     Mark(), payment.invoice_rate = row.ExchangeRate(columns_.invoice_rate);
     Mark(), payment.payment_rate = row.ExchangeRate(columns_.payment_rate);
     return payment;
-}
-
-// All or none: a total that overflows must not part group and report.
-void dsrRealizedExchProfitloss::AddToTotals(Currency paid, Currency gain) {
-    const Totals group{group_.paid + paid, group_.gain + gain};
-    report_gain_ += gain;
-    group_ = group;
 }
 
 void dsrRealizedExchProfitloss::ShowDate() {
@@ -234,24 +228,27 @@ void dsrRealizedExchProfitloss::PutRate(Control& control, Rate rate) {
     control.SetText(text_);
 }
 
-void dsrRealizedExchProfitloss::PutAmount(Control& control, Currency amount) {
+void dsrRealizedExchProfitloss::PutAmount(Control& control, std::optional<Currency> amount) {
     control.Clear();
+    if (!amount) return;
     text_.clear();
-    Mark(), App().GetFormats().AppendAmount(amount, text_);
-    control.SetValue(amount, text_);
+    Mark(), App().GetFormats().AppendAmount(*amount, text_);
+    control.SetValue(*amount, text_);
 }
 
-// The totals are added up and the texts of the row before are gone before the host is asked to
-// format anything.
+// Nothing of the row before is left and the totals are added up before the host formats anything.
 void dsrRealizedExchProfitloss::Detail_Format() {
     if (EndOfData()) return;
     for (Control* control : {&txtPmtDate, &txtExchangeRate, &txtPmtRate, &txtPaid, &txtGain})
         control->Clear();
+    const auto group = std::exchange(group_, std::nullopt);
+    const auto report_gain = std::exchange(report_gain_, std::nullopt);
     ShowKeys();
     const AppliedPayment payment = ReadPayment();
     const Currency paid = (Mark(), payment.Settled());
     const Currency gain = (Mark(), RealizedGain(GetCurrencyInfo(), payment));
-    Mark(), AddToTotals(paid, gain);
+    if (group) Mark(), group_ = Totals{group->paid + paid, group->gain + gain};
+    if (report_gain) Mark(), report_gain_ = *report_gain + gain;
 
     PutAmount(txtGain, gain);
     PutRate(txtExchangeRate, payment.invoice_rate);
@@ -263,11 +260,12 @@ void dsrRealizedExchProfitloss::Detail_Format() {
 }
 
 void dsrRealizedExchProfitloss::gfCurrPmtType_Format() {
-    const Totals group = std::exchange(group_, {});
+    const auto group = std::exchange(group_, Totals());
     txtPaidTotal.Clear();
     txtGainTotal.Clear();
-    PutAmount(txtPaidTotal, group.paid);
-    PutAmount(txtGainTotal, group.gain);
+    if (!group) return;
+    PutAmount(txtPaidTotal, group->paid);
+    PutAmount(txtGainTotal, group->gain);
 }
 
 void dsrRealizedExchProfitloss::ReportFooter_Format() {

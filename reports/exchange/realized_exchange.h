@@ -42,11 +42,10 @@ class dsrRealizedExchProfitloss final : public framework::ReportBase,
     std::int32_t ControlAccountId();
     void ShowKeys();
     AppliedPayment ReadPayment();
-    void AddToTotals(Currency paid, Currency gain);
     void ShowDate();
     void PutRate(Control& control, Rate rate);
-    /// In the general currency format.
-    void PutAmount(Control& control, Currency amount);
+    /// In the general currency format; blank without an amount.
+    void PutAmount(Control& control, std::optional<Currency> amount);
 
     void PageHeader_Format();
     void ghCurrency_Format();
@@ -57,8 +56,9 @@ class dsrRealizedExchProfitloss final : public framework::ReportBase,
 
     PaymentColumns columns_;
     std::optional<CGLAccts> accounts_;
-    Totals group_;
-    Currency report_gain_;
+    /// None from the first payment that could not be worked out: a total without it is wrong.
+    std::optional<Totals> group_;
+    std::optional<Currency> report_gain_;
     std::int32_t currency_id_ = 0;
     std::int32_t payment_type_ = 0;
     bool use_account_numbers_ = false;

@@ -173,22 +173,20 @@ SectionLayout GrandTotal() {
 }  // namespace
 
 const Layout& RealizedExchangeLayout() {
-    static const Layout layout{
-        .name = "dsrRealizedExchProfitloss",
-        .sections = {
-            {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
-            {.name = "PageHeader",
-             .kind = SectionKind::kPageHeader,
-             .height = 1'260,
-             .controls = PageHeaderControls(Captions())},
-            CurrencyHeader(),
-            TypeHeader(),
-            Payments(),
-            TypeFooter(),
-            {.name = "gfCurrency", .kind = SectionKind::kGroupFooter},
-            {.name = "PageFooter", .kind = SectionKind::kPageFooter, .height = kPageFooterHeight},
-            GrandTotal(),
-        }};
+    static const Layout layout{.name = "dsrRealizedExchProfitloss",
+                               .sections = {
+                                   {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
+                                   {.name = "PageHeader",
+                                    .kind = SectionKind::kPageHeader,
+                                    .height = 1'260,
+                                    .controls = PageHeaderControls(Captions())},
+                                   CurrencyHeader(),
+                                   TypeHeader(),
+                                   Payments(),
+                                   TypeFooter(),
+                                   {.name = "gfCurrency", .kind = SectionKind::kGroupFooter},
+                                   GrandTotal(),
+                               }};
     return layout;
 }
 

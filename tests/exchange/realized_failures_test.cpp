@@ -27,27 +27,28 @@ TEST(RealizedFailureTest, AnUnknownCurrencyCostsATextAndNoTotal) {
     EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre("22.50"));
 }
 
-TEST(RealizedFailureTest, AnAmountThatCannotBeReadShowsAndAddsNothing) {
+TEST(RealizedFailureTest, AnAmountThatCannotBeReadLeavesTheTotalsItBelongsToBlank) {
     RealizedRun run;
     auto unreadable = Paid("0");
     unreadable.amount = "12,50";
-    const auto bands = run({Paid("1000"), unreadable});
+    const auto bands = run({Paid("1000"), unreadable, Paid("2000"), Paid("400", 2)});
     EXPECT_THAT(run.host->message_boxes,
                 ElementsAre(FormA("\"12,50\" is not an amount.*", "Detail_Format")));
-    EXPECT_THAT(bands.Texts("Detail", "txtPaid"), ElementsAre("1,000.00", ""));
-    EXPECT_THAT(bands.Texts("Detail", "txtGain"), ElementsAre("22.50", ""));
-    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtGainTotal"), ElementsAre("22.50"));
+    EXPECT_THAT(bands.Texts("Detail", "txtPaid"),
+                ElementsAre("1,000.00", "", "2,000.00", "400.00"));
+    EXPECT_THAT(bands.Texts("Detail", "txtGain"), ElementsAre("22.50", "", "45.00", "-9.00"));
+    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtPaidTotal"), ElementsAre("", "400.00"));
+    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtGainTotal"), ElementsAre("", "-9.00"));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre(""));
 }
 
-TEST(RealizedFailureTest, ATotalThatOverflowsPartsNoneFromTheOthers) {
+TEST(RealizedFailureTest, ATotalThatOverflowsIsToldAndNeverWraps) {
     RealizedRun run;
     auto large = Paid("900000000000000");
     large.invoice_rate = large.payment_rate = "1";
     const auto bands = run({large, large, Paid("1000")});
     EXPECT_THAT(run.host->message_boxes, ElementsAre(FormA(".*", "Detail_Format")));
-    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtPaidTotal"),
-                ElementsAre("900,000,000,001,000.00"));
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre("22.50"));
+    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtPaidTotal"), ElementsAre(""));
 }
 
 TEST(RealizedFailureTest, AnAccountThatTheChartDoesNotHaveIsBlankWithoutAKey) {
@@ -102,11 +103,14 @@ TEST(RealizedFailureTest, NoHostCallFailsSilentlyOrLeavesAWrongText) {
         EXPECT_THAT(run.host->message_boxes[0],
                     testing::MatchesRegex("Host call .* failed.*\r\nin Varnel\\.dsr[A-Za-z]+\\."
                                           "[A-Za-z_]+ at line [1-9][0-9]*"));
+        const bool empty = bands.Of("Detail").empty();
         for (const auto& [section, control] : kFigures) {
             const auto texts = bands.Texts(section, control);
             const auto expected = right.Texts(section, control);
             for (std::size_t i = 0; i < texts.size() && i < expected.size(); ++i)
-                EXPECT_TRUE(texts[i].empty() || texts[i] == expected[i]) << control << texts[i];
+                EXPECT_TRUE(texts[i].empty() || texts[i] == expected[i] ||
+                            (empty && texts[i] == "0.00"))
+                    << control << " shows " << texts[i] << " for " << expected[i];
         }
     }
     EXPECT_GT(calls - before, 100);
