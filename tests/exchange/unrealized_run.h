@@ -18,7 +18,7 @@ struct ForeignRow {
     const char* booked_rate = "1.25";
 };
 
-/// Account numbers are the ids, and `currency_codes[currency]` the codes.
+/// Account numbers are the ids; currency 1 is CAD, 2 USD and 3 EUR.
 RowSet ForeignRows(const std::vector<ForeignRow>& rows);
 
 /// The unrealized report of a host that a test may change. Home currency 1 is CAD; 2 is USD at
