@@ -106,7 +106,7 @@ void dsrRealizedExchProfitloss::ActiveReport_Initialize() {
 void dsrRealizedExchProfitloss::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
         group_ = Totals();
-        report_gain_ = Currency();
+        report_gain_.reset();
         currency_id_ = 0;
         payment_type_ = 0;
         foreign_used_ = false;
@@ -117,6 +117,7 @@ void dsrRealizedExchProfitloss::ActiveReport_ReportStart() {
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
         Mark(), columns_.Resolve(rows->GetColumns());
         Data().Attach(std::move(rows));
+        report_gain_ = Currency();
         Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
         const auto custom = Criteria();
         Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());

@@ -56,7 +56,8 @@ class dsrRealizedExchProfitloss final : public framework::ReportBase,
 
     PaymentColumns columns_;
     std::optional<CGLAccts> accounts_;
-    /// None from the first payment that could not be worked out: a total without it is wrong.
+    /// None from the first payment that could not be worked out: a total without it is wrong. The
+    /// report's: none before there are rows, too.
     std::optional<Totals> group_;
     std::optional<Currency> report_gain_;
     std::int32_t currency_id_ = 0;
