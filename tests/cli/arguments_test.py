@@ -87,6 +87,15 @@ HINTED = [
 
 
 class Arguments(VarnelTest):
+    def test_options_of_a_dialog_are_refused_when_nothing_can_answer_them(self):
+        balances = ["run", "trial-balance-summary", "--company", "shop.db"]
+        for arguments, message in (
+                (["--configure"], "--configure needs a terminal"),
+                (["--option", "zero=yes"], 'no check box "zero"; it has chkIncludeZeroBalance')):
+            code, output, errors = self.run_varnel(*balances, *arguments, start_new_session=True)
+            self.assertEqual((USAGE, b""), (code, output))
+            self.assertIn(message, errors)
+
     def test_a_malformed_argument_is_named_and_exits_with_2(self):
         for arguments, message in REFUSED:
             with self.subTest(arguments=arguments):
