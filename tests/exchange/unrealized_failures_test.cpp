@@ -67,10 +67,11 @@ const std::vector<ForeignRow> kRows{{1'065, 3, "100", "150"},
                                     {1'200, 2, "10", "13"}};
 
 constexpr std::pair<const char*, const char*> kFigures[] = {
-    {"gfAccountType", "txtForeign"},  {"gfAccountType", "txtBooked"},
-    {"gfAccountType", "txtRevalued"}, {"gfAccountType", "txtGain"},
-    {"gfCurrency", "txtBookedTotal"}, {"gfCurrency", "txtRevaluedTotal"},
-    {"gfCurrency", "txtGainTotal"},   {"ReportFooter", "txtGainGrandTotal"}};
+    {"gfAccountType", "txtAccount"},      {"gfAccountType", "txtForeign"},
+    {"gfAccountType", "txtBooked"},       {"gfAccountType", "txtRevalued"},
+    {"gfAccountType", "txtGain"},         {"gfCurrency", "txtBookedTotal"},
+    {"gfCurrency", "txtRevaluedTotal"},   {"gfCurrency", "txtGainTotal"},
+    {"ReportFooter", "txtGainGrandTotal"}};
 
 /// The second run of the host's life, the first being over other rows; its call `failing` fails.
 /// Nothing when that ends the run with an error for the caller.
@@ -105,10 +106,13 @@ TEST(UnrealizedFaultSweepTest, EveryFailureIsToldAndEveryFigureIsRightOrBlank) {
         SCOPED_TRACE("host call " + std::to_string(k));
         UnrealizedRun run;
         const auto bands = SecondRun(run, k);
-        if (!bands) continue;
-        if (run.host->message_boxes.empty()) break;
-        EXPECT_THAT(run.host->message_boxes[0], HasSubstr("Host call"));
-        ExpectRightOrBlank(*bands, right);
+        if (bands && run.host->message_boxes.empty()) break;
+        if (bands) {
+            EXPECT_THAT(run.host->message_boxes[0], HasSubstr("Host call"));
+            ExpectRightOrBlank(*bands, right);
+        }
+        run.host->calls.FailAt(0);
+        EXPECT_EQ(run(kRows).bands, right.bands) << "the run after it";
     }
     EXPECT_GT(k, 50);
 }
