@@ -47,13 +47,14 @@ std::string Statement(CurrencyInfo& info, const std::string& project_ids) {
     return statement;
 }
 
-Currency SumOfGains(Recordset& rows, CurrencyInfo& info, const RateCollection* rates) {
+Currency SumOfGains(Recordset& rows, CurrencyInfo& info, const RateCollection* rates,
+                    const std::string& date) {
     framework::LedgerBalanceColumns columns;
     Mark(), columns.Resolve(rows.GetColumns());
     Currency total;
     for (; !(Mark(), rows.AtEnd()); (Mark(), rows.MoveNext())) {
         const LedgerBalance balance = (Mark(), columns.Read(rows.Current()));
-        Mark(), total += EvaluateAtKeyedRate(info, rates, balance).gain;
+        Mark(), total += EvaluateAtKeyedRate(info, rates, date, balance).gain;
     }
     return total;
 }
@@ -67,7 +68,7 @@ Currency UnrealizedGain(Application& application, Date end_date, const RateColle
     const auto rows = (Mark(), framework::RunQuery(application, statement, parameters));
     // With one currency all is worth what was booked.
     if (!(Mark(), info.CieIsForeignCurrencyUsed())) return {};
-    return SumOfGains(*rows, info, rates);
+    return SumOfGains(*rows, info, rates, end_date.ToIso());
 }
 
 const Variant& Argument(Arguments arguments, std::size_t index) {

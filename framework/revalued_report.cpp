@@ -22,6 +22,12 @@ constexpr Member<RevaluedReport> kMembers[] = {
      [](RevaluedReport& r, const Variant& v) { r.IExchangeRates_Reevaluate(v.ToBool()); }},
 };
 
+[[noreturn]] void RaiseNoRate(CurrencyInfo& info, std::int32_t currency_id, std::string_view date) {
+    throw Error(error_number::kInvalidArgument, "ExchangeRates",
+                "There is no exchange rate for " + info.GetCurrencies().Item(currency_id).code +
+                    " at " + std::string(date));
+}
+
 }  // namespace
 
 RevaluedReport::RevaluedReport(MemberParts& members) {
@@ -43,13 +49,20 @@ Revaluation Revaluer::Evaluate(const LedgerBalance& balance) const {
 }
 
 Revaluation EvaluateAtKeyedRate(CurrencyInfo& info, const RateCollection* rates,
-                                const LedgerBalance& balance) {
+                                std::string_view date, const LedgerBalance& balance) {
     if (rates == nullptr)
         throw Error(error_number::kObjectNotSet, "ExchangeRates",
                     "There are no exchange rates: set them before the report runs");
+    if (!rates->Has(balance.currency_id)) RaiseNoRate(info, balance.currency_id, date);
     const Currency revalued =
         info.RoundProduct(balance.foreign, rates->Item(balance.currency_id), kCents);
     return {revalued, revalued - balance.home};
+}
+
+Revaluation EvaluateAtKeyedRate(CurrencyInfo& info, IExchangeRates& rates,
+                                const LedgerBalance& balance) {
+    return EvaluateAtKeyedRate(info, rates.IExchangeRates_ExchangeRates().get(),
+                               rates.IExchangeRates_ExchangeRatesDate(), balance);
 }
 
 }  // namespace varnel::framework

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "host/currency_info.h"
 #include "host/exchange_rates.h"
@@ -66,8 +67,13 @@ class Revaluer {
 };
 
 /// The balance at the rate that `rates` has for its currency, whether or not anything revalues, to
-/// the cent. Error 91 without rates, error 5 naming the currency's id when there is none for it.
+/// the cent. Error 91 without rates; error 5 naming the currency and `date`, the date of the rates,
+/// when there is none for it.
 Revaluation EvaluateAtKeyedRate(CurrencyInfo& info, const RateCollection* rates,
+                                std::string_view date, const LedgerBalance& balance);
+
+/// The same with the rates of a report.
+Revaluation EvaluateAtKeyedRate(CurrencyInfo& info, IExchangeRates& rates,
                                 const LedgerBalance& balance);
 
 }  // namespace varnel::framework

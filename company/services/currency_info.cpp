@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "company/services/query.h"
 #include "company/services/rate_table.h"
 #include "company/services/setting_names.h"
 #include "host/company.h"
@@ -25,10 +26,18 @@ void CompanyCurrencyInfo::RaiseNoRate(const std::string& codes, const std::strin
                     "; enter one in the company's rate table or give one");
 }
 
+// A list of the world's currencies must not ask for rates that nobody needs. A line in a currency
+// that no account has is an error when it is revalued.
+bool CompanyCurrencyInfo::IsInUse(const CurrencyRecord& record) {
+    return record.ar_account_id != 0 || record.ap_account_id != 0 ||
+           !Query(database_, "SELECT InGLAcctId FROM GLAcct WHERE ExCurrencyId = ?", {record.id})
+                ->AtEnd();
+}
+
 void CompanyCurrencyInfo::RequireRates(const RateCollection& rates, const std::string& date) {
     std::string missing;
     for (const auto& record : currencies_.All())
-        if (record.id != currencies_.HomeId() && !rates.Has(record.id))
+        if (record.id != currencies_.HomeId() && !rates.Has(record.id) && IsInUse(record))
             missing += (missing.empty() ? "" : ", ") + record.code;
     if (!missing.empty()) RaiseNoRate(missing, date);
 }

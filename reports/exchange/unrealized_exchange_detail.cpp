@@ -217,8 +217,7 @@ void Report::Detail_Format() {
                              .booked_rate = {},
                              .foreign = (Mark(), row.Amount(columns_.foreign)),
                              .home = (Mark(), row.Amount(columns_.home))};
-    const auto& rates = IExchangeRates_ExchangeRates();
-    const auto worth = (Mark(), EvaluateAtKeyedRate(GetCurrencyInfo(), rates.get(), line));
+    const auto worth = (Mark(), EvaluateAtKeyedRate(GetCurrencyInfo(), *this, line));
     if (before) Mark(), period_ = *before + Position::Of(line, worth);
 
     ShowKey();

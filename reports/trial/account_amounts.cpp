@@ -34,12 +34,12 @@ Currency AccountAmounts::ForeignBalance(const TrialAccount& account) {
 Currency AccountAmounts::Revalued(const TrialAccount& account) {
     const BalanceScope scope = ScopeOf(account);
     auto& balances = company_.Balances();
-    const auto worth = framework::EvaluateAtKeyedRate(
-        company_.GetCurrencyInfo(), rates_.IExchangeRates_ExchangeRates().get(),
-        {.currency_id = account.currency_id,
-         .booked_rate = {},
-         .foreign = balances.AccountBalance(account.id, scope, true),
-         .home = balances.AccountBalance(account.id, scope, false)});
+    const auto worth =
+        framework::EvaluateAtKeyedRate(company_.GetCurrencyInfo(), rates_,
+                                       {.currency_id = account.currency_id,
+                                        .booked_rate = {},
+                                        .foreign = balances.AccountBalance(account.id, scope, true),
+                                        .home = balances.AccountBalance(account.id, scope, false)});
     difference_ += worth.gain;
     return worth.revalued;
 }

@@ -101,11 +101,10 @@ AccountAmounts::Period dsrGIFIReport::BalancePeriod() {
 
 TrialAccount dsrGIFIReport::CurrentAccount() const {
     const Row& row = CurrentRow();
-    const bool own_currency = !row.IsNull(columns_.currency_id);
+    const auto currency = (Mark(), row.Integer(columns_.currency_id));
     return {.id = (Mark(), row.Integer(columns_.id)),
             .type = (Mark(), row.Integer(columns_.type)),
-            .currency_id =
-                own_currency ? (Mark(), row.Integer(columns_.currency_id)) : HomeCurrencyId()};
+            .currency_id = currency == 0 ? HomeCurrencyId() : currency};
 }
 
 void dsrGIFIReport::ShowAccount(const TrialAccount& account) {

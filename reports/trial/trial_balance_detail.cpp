@@ -259,7 +259,7 @@ Currency dsrTrialBalanceDetail::LineAmount(std::int32_t currency_id) {
     const auto worth =
         (Mark(),
          EvaluateAtKeyedRate(
-             GetCurrencyInfo(), IExchangeRates_ExchangeRates().get(),
+             GetCurrencyInfo(), *this,
              {.currency_id = currency_id, .booked_rate = {}, .foreign = foreign, .home = booked}));
     amounts_->AddDifference(worth.gain);
     return worth.revalued;

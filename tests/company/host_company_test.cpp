@@ -138,6 +138,18 @@ TEST_F(SmallCompany, RefusesRatesThatItCannotTake) {
                     HasSubstr("\"" + std::string(text) + "\" is no exchange rate"));
 }
 
+TEST_F(SmallCompany, NeedsNoRateForACurrencyThatNoAccountHas) {
+    const auto host = Open(
+        "INSERT INTO WorldCurrency (InCurrencyId, CurrencyCode, Descr, Decimals) "
+        "VALUES (9, 'CHF', 'Swiss franc', 2);");
+    auto& info = host->CurrentCompany().GetCurrencyInfo();
+    Rates rates;
+    info.ConfigureExchangeRates(rates, Day("2025-03-31"), true, {});
+    EXPECT_TRUE(rates.reevaluate);
+    EXPECT_THAT(ErrorOf([&] { info.EvaluateValueWithExchangeRate(Rate(), 9, Amount("1"), rates); }),
+                AllOf(HasSubstr("CHF"), HasSubstr("2025-03-31")));
+}
+
 TEST_F(SmallCompany, DatesTheRatesOfAnOpenEndByTheNewest) {
     Rates rates;
     Open("")->CurrentCompany().GetCurrencyInfo().ConfigureExchangeRates(rates, kOpenEnd, true, {});

@@ -34,7 +34,8 @@ bool InSegments(const test::LedgerLine& line, const std::string& clause) {
 }
 
 void FillCurrencies(test::MemoryCurrencyInfo& info) {
-    info.records.push_back({.id = 4, .code = "JPY", .description = "Yen", .decimals = 0});
+    info.records.push_back(
+        {.id = 4, .code = "JPY", .description = "Yen", .decimals = 0, .ap_account_id = 20});
     info.records.push_back({.id = 2, .code = "USD", .description = "US dollar"});
     info.rate_table[2] = {{Day("2024-12-31"), Rate::Parse("1.4")},
                           {Day("2025-01-31"), Rate::Parse("1.45255")}};
@@ -87,7 +88,7 @@ INSERT INTO CompanySetting VALUES ('CompanyName', 'Small Company'), ('HomeCurren
     ('UseAccountNumbers', 'True'), ('ItemAdjustGL', 'True'),
     ('ItemAdjustStartDate', '2024-07-01'), ('SessionDate', '2025-04-30'), ('Unset', NULL);
 INSERT INTO WorldCurrency VALUES (1, 'CAD', 'Canadian dollar', '$', 2, 0, 0),
-    (2, 'USD', 'US dollar', 'US$', 2, 12, 21), (4, 'JPY', 'Yen', NULL, 0, NULL, NULL);
+    (2, 'USD', 'US dollar', 'US$', 2, 12, 21), (4, 'JPY', 'Yen', NULL, 0, NULL, 20);
 INSERT INTO ExchangeRate VALUES (2, '2024-12-31', 1.4), (2, '2025-01-31', 1.45255),
     (4, '2025-01-10', 0.0095);
 INSERT INTO AcctTypeInfo VALUES (1, 1, 'Assets', 0), (2, 1, 'Liabilities', 0),

@@ -65,10 +65,13 @@ TEST_F(Revaluing, LeavesHomeCurrencyAndACompanyOfOneCurrencyAsBooked) {
 TEST_F(Revaluing, TakesTheKeyedRateWhetherItIsOnOrOff) {
     rates.IExchangeRates_Reevaluate(false);
     const auto* given = rates.IExchangeRates_ExchangeRates().get();
-    EXPECT_EQ(Text(EvaluateAtKeyedRate(info, given, Balance(2, "10", "13"))), "13.7300 0.7300");
-    EXPECT_EQ(ErrorOf([&] { EvaluateAtKeyedRate(info, given, Balance(3, "10", "13")); }),
-              error_number::kInvalidArgument);
-    EXPECT_EQ(ErrorOf([&] { EvaluateAtKeyedRate(info, nullptr, Balance(2, "10", "13")); }),
+    EXPECT_EQ(Text(EvaluateAtKeyedRate(info, given, "31 March", Balance(2, "10", "13"))),
+              "13.7300 0.7300");
+    info.records.push_back({.id = 3, .code = "EUR", .description = "Euro"});
+    EXPECT_EQ(test::DescriptionOf(
+                  [&] { EvaluateAtKeyedRate(info, given, "31 March", Balance(3, "10", "13")); }),
+              "There is no exchange rate for EUR at 31 March");
+    EXPECT_EQ(ErrorOf([&] { EvaluateAtKeyedRate(info, nullptr, "", Balance(2, "10", "13")); }),
               error_number::kObjectNotSet);
 }
 
