@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "company/demo/random.h"
+#include "host/date.h"
+
+namespace varnel::test {
+
+/// Ten-thousandths, debit positive: figures as plain integers, apart from the library's amounts.
+using Units = std::int64_t;
+
+/// Currency 1 is the home currency; the rates of the others in ten-thousandths, by id.
+inline constexpr int kHomeCurrency = 1;
+inline constexpr Units kRates[] = {0, 10'000, 13'725, 6'650};
+inline constexpr const char* kCurrencyCodes[] = {"", "CAD", "USD", "EUR"};
+/// Of account types 1 to 3, which accumulate, and 4 to 6, which begin anew each year.
+inline constexpr int kFirstIncomeType = 4;
+
+struct BookAccount {
+    int id;
+    std::string number;
+    int type;
+    /// 0 has none of its own, which is the home currency.
+    int currency_id;
+    bool inactive;
+    std::string gifi;
+
+    bool IsForeign() const { return currency_id > kHomeCurrency; }
+    bool IsOfTheYear() const { return type >= kFirstIncomeType; }
+    std::string Name() const { return "Account " + std::to_string(id); }
+};
+
+struct BookLine {
+    int entry;
+    Date date;
+    int account_id;
+    Units amount, foreign;
+    /// 0 where there is none.
+    int currency_id, project_id, segment_id;
+
+    /// What the line came from: one document for every three entries.
+    std::string Source() const { return entry % 2 == 0 ? "GJ" : "INV"; }
+    int SourceKey() const { return entry / 3; }
+    std::string Key() const { return Source() + "|" + std::to_string(SourceKey()); }
+};
+
+struct BookYear {
+    Date first, last;
+};
+
+/// A made-up company: entries balance, but not by segment, project or currency.
+struct Books {
+    /// In the order of their numbers, which is not that of their ids.
+    std::vector<BookAccount> accounts;
+    std::vector<BookLine> lines;
+    /// In order; there may be gaps between them, and lines outside of all.
+    std::vector<BookYear> years;
+    /// Ids; 0 where the company has none.
+    int retained_earnings = 0, current_earnings = 0, unrealized = 0;
+
+    Date YearStart(Date day) const;
+};
+
+Books MakeBooks(company::demo::Random& random);
+/// A day of the years in which lines are; often one at the edge of a fiscal year.
+Date SomeDay(const Books& books, company::demo::Random& random);
+/// Statements that put these books into a database in place of others.
+std::string ScriptOf(const Books& books);
+
+}  // namespace varnel::test

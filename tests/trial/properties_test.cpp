@@ -1,0 +1,260 @@
+// What must hold of the figures of any company, over a thousand made-up ones. VARNEL_COMPANIES is
+// their number and VARNEL_SEED the first of them, to see one that failed again.
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <map>
+
+#include "company/scripted_dialogs.h"
+#include "company/sqlite_company_database.h"
+#include "tests/company/host_small_company.h"
+#include "tests/trial/books_figures.h"
+
+namespace varnel::test {
+namespace {
+
+using company::demo::Random;
+
+constexpr const char* kCompany = R"sql(
+INSERT INTO CompanySetting VALUES ('HomeCurrencyId', '1'), ('UseAccountNumbers', 'True');
+INSERT INTO WorldCurrency (InCurrencyId, CurrencyCode) VALUES (1, 'CAD'), (2, 'USD'), (3, 'EUR');
+INSERT INTO AcctTypeInfo VALUES (1, 1, 'Assets', 0), (2, 1, 'Liabilities', 0), (3, 1, 'Equity', 0),
+    (4, 2, 'Revenue', 0), (5, 2, 'Expenses', 0), (6, 2, 'Sundry', 1);
+)sql";
+
+std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? otherwise : std::strtoull(value, nullptr, 10);
+}
+
+// Without the checks of a file from elsewhere, which take longer than a report of so few lines.
+std::shared_ptr<Application> Open(const company::CompanyFile& file) {
+    company::HostOptions options;
+    options.language = "en-CA";
+    options.dialogs = std::make_shared<company::ScriptedDialogs>(
+        company::ScriptedDialogs::Answers{{"chkIncludeZeroBalanceAccount", "True"}});
+    options.message_sink = [](const std::string& text) { ADD_FAILURE() << text; };
+    return std::make_shared<company::CompanyHost>(
+        std::make_unique<company::SqliteCompanyDatabase>(file.Path()), options);
+}
+
+using Check =
+    std::function<void(const Books&, const std::shared_ptr<Application>& host, Random& random)>;
+
+void ForEveryCompany(const Check& check) {
+    const company::CompanyFile file(kCompany);
+    const std::uint64_t first = FromEnvironment("VARNEL_SEED", 1);
+    const std::uint64_t end = first + FromEnvironment("VARNEL_COMPANIES", 1'000);
+    ASSERT_LT(first, end) << "VARNEL_COMPANIES is a number";
+    for (std::uint64_t seed = first; seed < end && !testing::Test::HasFailure(); ++seed) {
+        SCOPED_TRACE("VARNEL_SEED=" + std::to_string(seed));
+        Random random(seed);
+        const Books books = MakeBooks(random);
+        file.Run(ScriptOf(books));
+        check(books, Open(file), random);
+    }
+}
+
+std::vector<int> SomeOf(int highest, Random& random) {
+    std::vector<int> ids;
+    for (int id = 1; id <= highest; ++id)
+        if (random.Chance(400)) ids.push_back(id);
+    return ids;
+}
+
+Question SomePeriod(const Books& books, Random& random) {
+    Question question;
+    const Date a = SomeDay(books, random);
+    const Date b = SomeDay(books, random);
+    if (!random.Chance(100)) question.from = std::min(a, b);
+    if (!random.Chance(100)) question.to = std::max(a, b);
+    return question;
+}
+
+Question SomeSegments(Question question, Random& random) {
+    question.segments = SomeOf(4, random);
+    question.also_without_segment = random.Chance(500);
+    return question;
+}
+
+Question Anything(const Books& books, Random& random) {
+    Question question = SomePeriod(books, random);
+    if (random.Chance(600)) question = SomeSegments(question, random);
+    question.revalue = random.Chance(400);
+    question.foreign = random.Chance(400);
+    question.include_zero = random.Chance(300);
+    question.hide_inactive = random.Chance(300);
+    if (random.Chance(300)) question.projects = SomeOf(2, random);
+    if (random.Chance(300))
+        question.accounts = SomeOf(static_cast<int>(books.accounts.size()), random);
+    return question;
+}
+
+TEST(TrialFigures, AreThoseAddedUpFromTheLines) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        Question question = Anything(books, random);
+        SCOPED_TRACE(InWords(question));
+        EXPECT_EQ(InWords(RunDetail(host, question)), InWords(ExpectedDetail(books, question)));
+        question.projects.clear();
+        EXPECT_EQ(InWords(RunSummary(host, question)), InWords(ExpectedSummary(books, question)));
+        EXPECT_EQ(InWords(RunGifi(host, question)), InWords(ExpectedGifi(books, question)));
+    });
+}
+
+TEST(TrialBalances, BalanceWithoutAFilterInAnyPeriod) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        const Question question = SomePeriod(books, random);
+        SCOPED_TRACE(InWords(question));
+        const Summary summary = RunSummary(host, question);
+        EXPECT_EQ(summary.debit, summary.credit);
+        const Detail detail = RunDetail(host, question);
+        EXPECT_EQ(detail.debit, detail.credit);
+        EXPECT_EQ(detail.balance, 0);
+        EXPECT_TRUE(summary.adjustment == 0 && detail.adjustment == 0);
+    });
+}
+
+TEST(TrialBalances, AdjustASegmentedLedgerUntilItBalances) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        Question question = SomeSegments(SomePeriod(books, random), random);
+        question.also_without_segment |= question.segments.empty();
+        question.revalue = random.Chance(300);
+        SCOPED_TRACE(InWords(question));
+        const Summary summary = RunSummary(host, question);
+        EXPECT_EQ(summary.debit, summary.credit);
+        const Detail detail = RunDetail(host, question);
+        EXPECT_EQ(detail.debit, detail.credit);
+    });
+}
+
+TEST(TrialDetail, ClosesEachAccountAtItsLineOfTheSummary) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        Question question = SomePeriod(books, random);
+        if (random.Chance(700)) question = SomeSegments(question, random);
+        SCOPED_TRACE(InWords(question));
+        const Summary summary = RunSummary(host, question);
+        const Detail detail = RunDetail(host, question);
+        for (const auto& account : books.accounts)
+            EXPECT_EQ(detail.Of(account.number).closing, summary.Of(account.number))
+                << account.number;
+    });
+}
+
+// The last day of one period and the first of the next, both in the same fiscal year.
+TEST(TrialDetail, OpensEachPeriodAtTheCloseOfTheOneBefore) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        Question whole = SomePeriod(books, random);
+        whole.from = std::max(whole.from, books.YearStart(whole.to));
+        if (random.Chance(500)) whole = SomeSegments(whole, random);
+        Question first = whole, second = whole;
+        first.to = whole.from + static_cast<int>(random.Between(0, whole.to - whole.from));
+        second.from = first.to + 1;
+        if (second.from > second.to) return;
+        SCOPED_TRACE(InWords(first) + "; " + InWords(second));
+        const Detail before = RunDetail(host, first);
+        const Detail after = RunDetail(host, second);
+        const Detail both = RunDetail(host, whole);
+        for (const auto& account : books.accounts) {
+            EXPECT_EQ(before.Of(account.number).closing, after.Of(account.number).forward);
+            EXPECT_EQ(before.Of(account.number).forward, both.Of(account.number).forward);
+            EXPECT_EQ(after.Of(account.number).closing, both.Of(account.number).closing);
+        }
+    });
+}
+
+// A new fiscal year begins with nothing earned; what the old one earned is retained.
+TEST(TrialDetail, OpensAFiscalYearWithTheEarningsOfTheOneBeforeRetained) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        for (std::size_t year = 1; year < books.years.size(); ++year) {
+            Question old, next;
+            old.from = books.years[year - 1].first;
+            old.to = books.years[year].first - 1;
+            next.from = books.years[year].first;
+            next.to = books.years[year].last;
+            if (random.Chance(500)) old.segments = next.segments = SomeOf(3, random);
+            SCOPED_TRACE(InWords(old) + "; " + InWords(next));
+            const Detail before = RunDetail(host, old);
+            const Detail after = RunDetail(host, next);
+            Units earned = 0, retained = 0;
+            for (const auto& account : books.accounts) {
+                const Units closing = before.Of(account.number).closing;
+                const Units opening = after.Of(account.number).forward;
+                if (account.IsOfTheYear()) earned += closing;
+                if (account.id == books.retained_earnings)
+                    retained = opening - closing;
+                else
+                    EXPECT_EQ(opening, account.IsOfTheYear() ? 0 : closing) << account.number;
+            }
+            EXPECT_EQ(retained, earned);
+        }
+    });
+}
+
+// The lines that a ledger opened by the key would list, up to the last day.
+Units AddedUpBehind(const std::string& key, const Books& books, const Question& question) {
+    const int id = std::stoi(key.substr(key.find('|') + 1));
+    EXPECT_EQ(key.starts_with("GLUnrealized|"), id == books.unrealized) << key;
+    const auto account = std::find_if(books.accounts.begin(), books.accounts.end(),
+                                      [id](const auto& known) { return known.id == id; });
+    const Date year_start = std::min(question.from, books.YearStart(question.to));
+    Units sum = 0;
+    for (const auto& line : books.lines) {
+        const bool counts = !account->IsOfTheYear() || line.date >= year_start;
+        if (line.account_id == id && counts && line.date <= question.to) sum += line.amount;
+    }
+    return sum;
+}
+
+TEST(TrialSummary, LeadsFromEachAccountToLinesThatAddUpToIt) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        const Question question = SomePeriod(books, random);
+        SCOPED_TRACE(InWords(question));
+        std::size_t without_key = 0;
+        const Summary summary = RunSummary(host, question);
+        for (const auto& line : summary.lines) {
+            if (line.key.empty())
+                ++without_key;
+            else
+                EXPECT_EQ(line.amount, AddedUpBehind(line.key, books, question)) << line.account;
+        }
+        EXPECT_LE(without_key, 2U) << "only earnings lead nowhere";
+    });
+}
+
+TEST(TrialDetail, LeadsFromEachLineToItsDocument) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        const Question question = SomePeriod(books, random);
+        SCOPED_TRACE(InWords(question));
+        std::map<std::string, Units> printed, posted;
+        for (const auto& account : RunDetail(host, question).accounts)
+            for (const auto& line : account.lines)
+                if (!line.key.starts_with("GLUnrealized|"))
+                    printed[account.account + " " + line.key] += line.amount;
+        for (const auto& account : books.accounts)
+            for (const auto& line : books.lines)
+                if (line.account_id == account.id && account.id != books.unrealized &&
+                    line.amount != 0 && line.date >= question.from && line.date <= question.to)
+                    posted[account.number + " " + line.Key()] += line.amount;
+        EXPECT_EQ(printed, posted);
+    });
+}
+
+TEST(GifiReport, AddsUpLinesOfTheSummaryWhenItsPeriodLiesInOneYear) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        Question question = SomePeriod(books, random);
+        question.from = std::max(question.from, books.YearStart(question.to));
+        if (random.Chance(500)) question = SomeSegments(question, random);
+        SCOPED_TRACE(InWords(question));
+        const Summary summary = RunSummary(host, question);
+        std::map<std::string, Units> expected, printed;
+        for (const auto& account : books.accounts)
+            if (!account.inactive && !account.gifi.empty())
+                expected[account.gifi] += summary.Of(account.number);
+        for (const auto& code : RunGifi(host, question).codes) printed[code.code] = code.total;
+        EXPECT_EQ(printed, expected);
+    });
+}
+
+}  // namespace
+}  // namespace varnel::test

@@ -1,0 +1,234 @@
+#include "tests/trial/trial_figures.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <tuple>
+
+#include "framework/cls_report.h"
+#include "host/exchange_rates.h"
+#include "reports/trial/trial_balance_detail.h"
+#include "tests/support/collected_bands.h"
+
+namespace varnel::test {
+
+namespace {
+
+std::string Listed(const std::vector<int>& ids) {
+    std::string text;
+    for (const int id : ids) text += (text.empty() ? "" : ",") + std::to_string(id);
+    return text;
+}
+
+void Configure(IReport& report, const std::shared_ptr<Application>& host,
+               const Question& question) {
+    report.IReport_Application(host);
+    report.IReport_DateFrom(question.from);
+    report.IReport_DateTo(question.to);
+    report.IReport_DisplayForeignCurrency(question.foreign);
+    report.IReport_Initialize();
+    auto& segments = dynamic_cast<ISegmentFilter&>(report);
+    segments.ISegmentFilter_SegmentFilter(Listed(question.segments));
+    segments.ISegmentFilter_SegmentNoneFilter(question.also_without_segment);
+    auto& rates = dynamic_cast<IExchangeRates&>(report);
+    const auto collection = std::make_shared<RateCollection>();
+    for (const int currency : {2, 3})
+        collection->Set(currency, Rate::FromScaled(kRates[currency] * (Rate::kScale / 10'000)));
+    rates.IExchangeRates_ExchangeRates(collection);
+    rates.IExchangeRates_Reevaluate(question.revalue);
+    auto* const options = dynamic_cast<IReportConfig*>(&report);
+    if (options != nullptr && question.include_zero)
+        options->IReportConfig_ShowConfigurationScreen();
+}
+
+Units Amount(const CollectedControl& control) {
+    const auto* const amount = std::get_if<Currency>(&control.value);
+    return amount == nullptr || !control.visible ? 0 : amount->Scaled();
+}
+
+Units DebitLessCredit(const CollectedBand& band, const std::string& suffix = "") {
+    return Amount(band["txtDebit" + suffix]) - Amount(band["txtCredit" + suffix]);
+}
+
+Units Balance(const CollectedBand& band, const std::string& amount, const std::string& type) {
+    const Units balance = Amount(band[amount]);
+    EXPECT_GE(balance, 0) << amount;
+    return band.Text(type) == "CT" ? -balance : balance;
+}
+
+// Lines of one entry have no order among themselves.
+auto Rank(const Detail::Line& line) {
+    return std::tuple(line.date, line.entry, line.amount, line.foreign);
+}
+
+class DetailReader {
+  public:
+    void Read(const CollectedBand& band) {
+        if (band.section == "ghAccount") BeginAccount(band);
+        if (band.section == "Detail") AddLine(band);
+        if (band.section == "gfAccount") EndAccount(band);
+        if (band.section == "ReportFooter") ReadTotals(band);
+    }
+
+    Detail detail;
+
+  private:
+    void BeginAccount(const CollectedBand& band) {
+        auto& account = detail.accounts.emplace_back();
+        account.account = band.Text("txtGLAcctId");
+        account.key = band["txtBalanceForward"].tag;
+        account.forward = Balance(band, "txtBalanceForward", "lblBalanceForwardType");
+        account.unrealized = Balance(band, "txtGPUnrealized", "lblGPUnrealizedType");
+        running_ = account.forward + account.unrealized;
+    }
+
+    void AddLine(const CollectedBand& band) {
+        const Units amount = DebitLessCredit(band);
+        running_ += amount;
+        EXPECT_EQ(Balance(band, "txtBalance", "lblBalanceType"), running_);
+        detail.accounts.back().lines.push_back({.date = std::get<Date>(band["txtDetDate"].value),
+                                                .entry = std::stoi(band.Text("txtSeqNo")),
+                                                .amount = amount,
+                                                .key = band["txtDebit"].tag,
+                                                .foreign = Amount(band["txtCurrency"])});
+    }
+
+    void EndAccount(const CollectedBand& band) {
+        auto& account = detail.accounts.back();
+        account.has_footer = true;
+        account.debit = Amount(band["txtDebitTotal"]);
+        account.credit = Amount(band["txtCreditTotal"]);
+        account.closing = Balance(band, "txtBalanceTotal", "lblBalanceTotalType");
+        std::sort(account.lines.begin(), account.lines.end(),
+                  [](const auto& a, const auto& b) { return Rank(a) < Rank(b); });
+    }
+
+    void ReadTotals(const CollectedBand& band) {
+        detail.adjustment = DebitLessCredit(band, "Adj");
+        detail.debit = Amount(band["txtDebitGrandTotal"]);
+        detail.credit = Amount(band["txtCreditGrandTotal"]);
+        detail.balance = Balance(band, "txtBalanceGrandTotal", "lblBalanceGrandTotalType");
+    }
+
+    Units running_ = 0;
+};
+
+std::string Words(std::initializer_list<std::string> words) {
+    std::string text;
+    for (const auto& word : words) text += (text.empty() ? "" : " ") + word;
+    return text;
+}
+
+std::string Decimal(Units amount) { return Currency::FromScaled(amount).ToText(2); }
+
+}  // namespace
+
+Units Summary::Of(const std::string& account) const {
+    for (const auto& line : lines)
+        if (line.account == account) return line.amount;
+    return 0;
+}
+
+Detail::Account Detail::Of(const std::string& account) const {
+    for (const auto& printed : accounts)
+        if (printed.account == account) return printed;
+    return {.account = account, .key = {}};
+}
+
+Summary RunSummary(const std::shared_ptr<Application>& host, const Question& question) {
+    const auto report = clsReport().TrialBalanceSummary();
+    Configure(*report, host, question);
+    Summary summary;
+    for (const auto& band : Collect(*report->IReport_ReportDesigner()).bands) {
+        if (band.section == "Detail")
+            summary.lines.push_back({band.Text("txtAcctId"), DebitLessCredit(band),
+                                     band["txtDebit"].tag, Amount(band["txtCurrency"])});
+        if (band.section == "ReportFooter") {
+            summary.adjustment = DebitLessCredit(band, "Adj");
+            summary.debit = Amount(band["txtDebitGrandTotal"]);
+            summary.credit = Amount(band["txtCreditGrandTotal"]);
+        }
+    }
+    return summary;
+}
+
+Detail RunDetail(const std::shared_ptr<Application>& host, const Question& question) {
+    const auto report = clsReport().TrialBalanceDetail(question.hide_inactive);
+    Configure(*report, host, question);
+    auto& selection = dynamic_cast<reports::dsrTrialBalanceDetail&>(*report).GetSelection();
+    selection.project_ids = Listed(question.projects);
+    if (question.accounts.size() == 1)
+        selection.single_account = question.accounts.front();
+    else
+        selection.account_ids = Listed(question.accounts);
+    DetailReader reader;
+    for (const auto& band : Collect(*report->IReport_ReportDesigner()).bands) reader.Read(band);
+    return reader.detail;
+}
+
+Gifi RunGifi(const std::shared_ptr<Application>& host, const Question& question) {
+    const auto report = clsReport().GIFIReport();
+    Configure(*report, host, question);
+    Gifi gifi;
+    for (const auto& band : Collect(*report->IReport_ReportDesigner()).bands) {
+        if (band.section == "ghGIFI") gifi.codes.push_back({.code = band.Text("txtGIFIAcctId")});
+        if (band.section == "Detail") {
+            const std::string& text = band.Text("txtDescr");
+            gifi.codes.back().lines.push_back(
+                {text.substr(0, text.find(' ')), Amount(band["txtAmount"]), band["txtAmount"].tag});
+        }
+        if (band.section == "gfGIFI") gifi.codes.back().total = Amount(band["txtTotal"]);
+        if (band.section == "ReportFooter")
+            gifi.count = std::get<std::int32_t>(band["txtCount"].value);
+    }
+    return gifi;
+}
+
+std::vector<std::string> InWords(const Summary& summary) {
+    std::vector<std::string> words;
+    for (const auto& line : summary.lines)
+        words.push_back(
+            Words({line.account, Decimal(line.amount), line.key, Decimal(line.foreign)}));
+    words.push_back(Words(
+        {"total", Decimal(summary.adjustment), Decimal(summary.debit), Decimal(summary.credit)}));
+    return words;
+}
+
+std::vector<std::string> InWords(const Detail& detail) {
+    std::vector<std::string> words;
+    for (const auto& account : detail.accounts) {
+        words.push_back(Words(
+            {account.account, account.key, Decimal(account.forward), Decimal(account.unrealized)}));
+        for (const auto& line : account.lines)
+            words.push_back(Words({line.date.ToIso(), std::to_string(line.entry),
+                                   Decimal(line.amount), line.key, Decimal(line.foreign)}));
+        if (account.has_footer)
+            words.push_back(Words({"subtotal", Decimal(account.debit), Decimal(account.credit),
+                                   Decimal(account.closing)}));
+    }
+    words.push_back(Words({"total", Decimal(detail.adjustment), Decimal(detail.debit),
+                           Decimal(detail.credit), Decimal(detail.balance)}));
+    return words;
+}
+
+std::vector<std::string> InWords(const Gifi& gifi) {
+    std::vector<std::string> words;
+    for (const auto& code : gifi.codes) {
+        for (const auto& line : code.lines)
+            words.push_back(Words({line.account, Decimal(line.amount), line.key}));
+        words.push_back(Words({code.code, Decimal(code.total)}));
+    }
+    words.push_back(std::to_string(gifi.count));
+    return words;
+}
+
+std::string InWords(const Question& question) {
+    return Words({question.from.ToIso(), "to", question.to.ToIso(), "segments",
+                  Listed(question.segments), question.also_without_segment ? "and none" : "",
+                  question.revalue ? "revalued" : "", question.foreign ? "foreign" : "",
+                  question.include_zero ? "with zeros" : "", "projects", Listed(question.projects),
+                  "accounts", Listed(question.accounts),
+                  question.hide_inactive ? "active only" : ""});
+}
+
+}  // namespace varnel::test
