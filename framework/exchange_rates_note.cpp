@@ -15,7 +15,7 @@ constexpr Twips kNoteHeight = 220;
 ControlLayout Note() {
     return {.name = kExchangeRatesNote,
             .kind = ControlKind::kLabel,
-            .box = {0, kHeaderBlockHeight, 10'800, kNoteHeight},
+            .box = {0, kHeaderBlockHeight, kLayoutWidth, kNoteHeight},
             .style = kQuiet,
             .can_grow = true,
             .stretch = Stretch::kWiden};

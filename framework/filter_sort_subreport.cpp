@@ -21,7 +21,7 @@ ControlLayout Caption(std::string_view name, std::int16_t text) {
 
 ControlLayout TextLine(std::string_view name) {
     return {.name = name,
-            .box = {kTextLeft, 0, 10'800 - kTextLeft, kLineHeight},
+            .box = {kTextLeft, 0, kLayoutWidth - kTextLeft, kLineHeight},
             .style = kQuiet,
             .can_grow = true,
             .stretch = Stretch::kWiden};

@@ -14,7 +14,7 @@ constexpr std::int32_t kAdjustmentMessage = 12802;
 ControlLayout ItemAdjustmentNoteControl() {
     return {.name = kItemAdjustmentNote,
             .kind = ControlKind::kLabel,
-            .box = {0, 80, 10'800, 210},
+            .box = {0, 80, kLayoutWidth, 210},
             .style = kRemark,
             .visible = false,
             .can_grow = true,

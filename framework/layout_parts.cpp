@@ -1,7 +1,5 @@
 #include "framework/layout_parts.h"
 
-#include "framework/standard_header.h"
-
 namespace varnel::framework {
 
 namespace {
@@ -23,7 +21,7 @@ ControlLayout ColumnCaption(std::string_view name, const ColumnPlace& place, std
 ControlLayout CaptionRule() {
     return {.name = kCaptionRule,
             .kind = ControlKind::kLine,
-            .box = {0, kCaptionTop + kCaptionHeight - kThin, 10'800, kThin},
+            .box = {0, kPageHeaderHeight - kThin, kLayoutWidth, kThin},
             .style = kHairline,
             .stretch = Stretch::kWiden};
 }
@@ -52,7 +50,22 @@ ControlLayout TotalRule(std::string_view name, const ColumnPlace& place, Twips t
             .kind = ControlKind::kLine,
             .box = {place.left, top, place.width, thickness},
             .style = kTotalLine,
-            .stretch = Stretch::kShift};
+            .stretch = place.stretch};
+}
+
+ControlLayout Growing(ControlLayout text) {
+    text.can_grow = true;
+    return text;
+}
+
+ControlLayout Bound(ControlLayout text, std::string_view field) {
+    text.data_field = field;
+    return text;
+}
+
+ControlLayout Hidden(ControlLayout control) {
+    control.visible = false;
+    return control;
 }
 
 }  // namespace varnel::framework

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "framework/standard_header.h"
 #include "framework/styles.h"
 #include "host/layout.h"
 
@@ -10,6 +11,8 @@ namespace varnel::framework {
 /// Height of a line of text, and of a column caption.
 inline constexpr Twips kLineHeight = 220;
 inline constexpr Twips kCaptionHeight = 270;
+/// Height in the design of a page header with captions.
+inline constexpr Twips kPageHeaderHeight = kHeaderBlockHeight + kCaptionGap + kCaptionHeight;
 
 /// Where a column stands. `stretch` says what it does on wider paper.
 struct ColumnPlace {
@@ -28,7 +31,9 @@ struct ColumnPlace {
     constexpr Twips Right() const { return left + width; }
 };
 
-/// The caption of a column in the page header; ReplacePageHeaderControls gives it its top.
+inline constexpr auto kWholeWidth = ColumnPlace::Left(0, kLayoutWidth, Stretch::kWiden);
+
+/// The caption of a column in the page header, under the block.
 ControlLayout ColumnCaption(std::string_view name, const ColumnPlace& place, std::int16_t text);
 /// The rule under the captions.
 ControlLayout CaptionRule();
@@ -42,5 +47,11 @@ ControlLayout ColumnLabel(std::string_view name, const ColumnPlace& place, Twips
 /// A rule over a total.
 ControlLayout TotalRule(std::string_view name, const ColumnPlace& place, Twips top,
                         Twips thickness = kThin);
+
+/// The control as a text that goes on in further lines; one that shows a field of the row; one that
+/// is not seen until a handler shows it.
+ControlLayout Growing(ControlLayout text);
+ControlLayout Bound(ControlLayout text, std::string_view field);
+ControlLayout Hidden(ControlLayout control);
 
 }  // namespace varnel::framework

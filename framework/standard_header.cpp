@@ -18,7 +18,7 @@ std::vector<ControlLayout> PageHeaderControls(std::vector<ControlLayout> column_
     std::vector<ControlLayout> controls = {
         {.name = kHeaderBlock,
          .kind = ControlKind::kBlock,
-         .box = {0, 0, 10'800, kHeaderBlockHeight},
+         .box = {0, 0, kLayoutWidth, kHeaderBlockHeight},
          .stretch = Stretch::kWiden},
         {.name = "hdrCompany",
          .kind = ControlKind::kLabel,
@@ -49,7 +49,7 @@ std::vector<ControlLayout> PageHeaderControls(std::vector<ControlLayout> column_
          .stretch = Stretch::kShift},
         {.name = kFilterSubReport,
          .kind = ControlKind::kSubReport,
-         .box = {0, kHeaderBlockHeight + kFilterGap, 10'800, 0},
+         .box = {0, kHeaderBlockHeight + kFilterGap, kLayoutWidth, 0},
          .stretch = Stretch::kWiden},
     };
     controls.insert(controls.end(), column_controls.begin(), column_controls.end());

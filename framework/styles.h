@@ -17,6 +17,9 @@ inline constexpr TextStyle kPeriod = {.size = 190};
 inline constexpr TextStyle kHairline = {.ink = Ink::kRule};
 inline constexpr TextStyle kTotalLine = {.ink = Ink::kText};
 
+/// Width that layouts are designed for.
+inline constexpr Twips kLayoutWidth = 10'800;
+
 /// Thickness of rules.
 inline constexpr Twips kThin = 8;
 inline constexpr Twips kThick = 20;

@@ -2,7 +2,6 @@
 
 #include "framework/exchange_rates_note.h"
 #include "framework/layout_parts.h"
-#include "framework/standard_header.h"
 
 namespace varnel::reports {
 
@@ -20,14 +19,9 @@ constexpr auto kHome = ColumnPlace::Amount(6'540, kAmountWidth);
 constexpr auto kRevalued = ColumnPlace::Amount(7'980, kAmountWidth);
 constexpr auto kGain = ColumnPlace::Amount(9'420, kAmountWidth);
 
-constexpr auto kAccount = ColumnPlace::Left(1'100, 10'800 - 1'100, Stretch::kWiden);
+constexpr auto kAccount = ColumnPlace::Left(1'100, kLayoutWidth - 1'100, Stretch::kWiden);
 constexpr auto kTotalLabel = ColumnPlace::Left(0, 1'900);
 constexpr auto kTotalText = ColumnPlace::Left(1'960, kTextRight - 1'960, Stretch::kWiden);
-
-ControlLayout Growing(ControlLayout text) {
-    text.can_grow = true;
-    return text;
-}
 
 std::vector<ControlLayout> Captions() {
     return {ColumnCaption("lblDateCap", kDate, 1912),
@@ -73,13 +67,11 @@ SectionLayout Lines() {
 SectionLayout Totals() {
     constexpr Twips kPeriodTop = 150;
     constexpr Twips kClosingTop = 400;
-    constexpr ColumnPlace kWholeWidth{0, 10'800, Align::kLeft, Stretch::kWiden};
-    auto rule = TotalRule("linTotals", kWholeWidth, 90, kThick);
-    rule.stretch = Stretch::kWiden;
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
             .height = 640,
-            .controls = {rule, ColumnLabel("lblPeriod", kTotalLabel, kPeriodTop, kBodyBold, 2681),
+            .controls = {TotalRule("linTotals", kWholeWidth, 90, kThick),
+                         ColumnLabel("lblPeriod", kTotalLabel, kPeriodTop, kBodyBold, 2681),
                          ColumnText("txtPeriodForeign", kForeign, kPeriodTop, kBodyBold),
                          ColumnText("txtPeriodHome", kHome, kPeriodTop, kBodyBold),
                          ColumnText("txtPeriodRevalued", kRevalued, kPeriodTop, kBodyBold),
@@ -101,7 +93,7 @@ const Layout& UnrealizedExchangeDetailLayout() {
             {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
             {.name = "PageHeader",
              .kind = SectionKind::kPageHeader,
-             .height = kHeaderBlockHeight + kCaptionGap + kCaptionHeight,
+             .height = kPageHeaderHeight,
              .controls = PageHeaderControlsWithRates(Captions())},
             AccountHeader(),
             Lines(),

@@ -1,8 +1,7 @@
 #include "reports/journal/general_journal_layout.h"
 
 #include "framework/item_adjustment_note.h"
-#include "framework/standard_header.h"
-#include "framework/styles.h"
+#include "framework/layout_parts.h"
 
 namespace varnel::reports {
 
@@ -10,166 +9,86 @@ namespace {
 
 using namespace framework;
 
-constexpr Twips kSeqNoWidth = 680;
-constexpr Twips kDateLeft = 740;
-constexpr Twips kDateWidth = 1'040;
 constexpr Twips kTextLeft = 1'840;
-constexpr Twips kAmountWidth = 1'320;
-constexpr Twips kCreditLeft = 9'480;
-constexpr Twips kDebitLeft = 8'100;
 constexpr Twips kProjectLeft = 7'280;
-constexpr Twips kProjectWidth = 760;
-constexpr Twips kTextWidth = kProjectLeft - 60 - kTextLeft;
+
+constexpr auto kSeqNo = ColumnPlace::Left(0, 680);
+constexpr auto kDate = ColumnPlace::Left(740, 1'040);
+constexpr auto kAccount =
+    ColumnPlace::Left(kTextLeft, kProjectLeft - 60 - kTextLeft, Stretch::kWiden);
+constexpr auto kText = ColumnPlace::Left(kTextLeft, kLayoutWidth - kTextLeft, Stretch::kWiden);
+constexpr auto kProject = ColumnPlace::Left(kProjectLeft, 760, Stretch::kShift);
+constexpr auto kDebit = ColumnPlace::Amount(8'100, 1'320);
+constexpr auto kCredit = ColumnPlace::Amount(9'480, 1'320);
 // Only with foreign amounts.
-constexpr Twips kForeignLeft = 9'120;
-constexpr Twips kForeignWidth = 1'220;
-constexpr Twips kCodeLeft = 10'400;
-constexpr Twips kCodeWidth = 400;
-constexpr Twips kLine = 220;
+constexpr auto kForeign = ColumnPlace::Amount(9'120, 1'220);
+constexpr auto kCode = ColumnPlace::Left(10'400, 400, Stretch::kShift);
 
 std::vector<ControlLayout> Captions() {
-    const auto caption = [](std::string_view name, Twips left, Twips width, std::int16_t text,
-                            Align align, Stretch stretch) {
-        return ControlLayout{.name = name,
-                             .kind = ControlKind::kLabel,
-                             .box = {left, 990, width, 270},
-                             .style = kCaption,
-                             .align = align,
-                             .caption = text,
-                             .stretch = stretch};
-    };
-    auto foreign =
-        caption("lblForeignCap", kForeignLeft, kForeignWidth, 5846, Align::kRight, Stretch::kShift);
-    foreign.visible = false;
-    return {
-        caption("lblSeqNoCap", 0, kSeqNoWidth, 30045, Align::kLeft, Stretch::kNone),
-        caption("lblDateCap", kDateLeft, kDateWidth, 1912, Align::kLeft, Stretch::kNone),
-        caption("lblAccountCap", kTextLeft, kTextWidth, 30025, Align::kLeft, Stretch::kWiden),
-        caption("lblProjectCap", kProjectLeft, kProjectWidth, 30046, Align::kLeft, Stretch::kShift),
-        caption("lblDebitCap", kDebitLeft, kAmountWidth, 2656, Align::kRight, Stretch::kShift),
-        caption("lblCreditCap", kCreditLeft, kAmountWidth, 2657, Align::kRight, Stretch::kShift),
-        foreign,
-        {.name = kCaptionRule,
-         .kind = ControlKind::kLine,
-         .box = {0, 1'250, 10'800, kThin},
-         .style = kHairline,
-         .stretch = Stretch::kWiden}};
-}
-
-ControlLayout Amount(std::string_view name, Twips left, Twips top, TextStyle style,
-                     std::string_view column = {}) {
-    return {.name = name,
-            .box = {left, top, kAmountWidth, kLine},
-            .style = style,
-            .align = Align::kRight,
-            .column = column,
-            .stretch = Stretch::kShift};
-}
-
-ControlLayout RuleAbove(std::string_view name, Twips left, Twips thickness) {
-    return {.name = name,
-            .kind = ControlKind::kLine,
-            .box = {left, 0, kAmountWidth, thickness},
-            .style = kTotalLine,
-            .stretch = Stretch::kShift};
+    return {ColumnCaption("lblSeqNoCap", kSeqNo, 30045),
+            ColumnCaption("lblDateCap", kDate, 1912),
+            ColumnCaption("lblAccountCap", kAccount, 30025),
+            ColumnCaption("lblProjectCap", kProject, 30046),
+            ColumnCaption("lblDebitCap", kDebit, 2656),
+            ColumnCaption("lblCreditCap", kCredit, 2657),
+            Hidden(ColumnCaption("lblForeignCap", kForeign, 5846)),
+            CaptionRule()};
 }
 
 SectionLayout EntryHeader() {
-    return {.name = "ghSeqNo",
-            .kind = SectionKind::kGroupHeader,
-            .height = kGroupHeight,
-            .group_field = "SeqNo",
-            .repeat = true,
-            .controls = {{.name = "txtSeqNo",
-                          .box = {0, 70, kSeqNoWidth, kLine},
-                          .style = kBodyBold,
-                          .column = "entry"},
-                         {.name = "txtDate",
-                          .box = {kDateLeft, 70, kDateWidth, kLine},
-                          .style = kBodyBold,
-                          .column = "date"},
-                         {.name = "txtDescription",
-                          .box = {kTextLeft, 70, 10'800 - kTextLeft, kLine},
-                          .style = kBodyBold,
-                          .column = "description",
-                          .can_grow = true,
-                          .stretch = Stretch::kWiden}}};
+    return {
+        .name = "ghSeqNo",
+        .kind = SectionKind::kGroupHeader,
+        .height = kGroupHeight,
+        .group_field = "SeqNo",
+        .repeat = true,
+        .controls = {ColumnText("txtSeqNo", kSeqNo, 70, kBodyBold, "entry"),
+                     ColumnText("txtDate", kDate, 70, kBodyBold, "date"),
+                     Growing(ColumnText("txtDescription", kText, 70, kBodyBold, "description"))}};
 }
 
 SectionLayout Lines() {
+    const auto code = ColumnText("txtForeignCode", kCode, 0, kQuiet, "currency");
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {{.name = "txtAccount",
-                          .box = {kTextLeft, 0, kTextWidth, kLine},
-                          .style = kBody,
-                          .column = "account",
-                          .can_grow = true,
-                          .stretch = Stretch::kWiden},
-                         {.name = "txtProject",
-                          .box = {kProjectLeft, 0, kProjectWidth, kLine},
-                          .style = kQuiet,
-                          .column = "project",
-                          .can_grow = true,
-                          .stretch = Stretch::kShift},
-                         Amount("txtDebit", kDebitLeft, 0, kBody, "debit"),
-                         Amount("txtCredit", kCreditLeft, 0, kBody, "credit"),
-                         {.name = "txtForeign",
-                          .box = {kForeignLeft, 0, kForeignWidth, kLine},
-                          .style = kQuiet,
-                          .align = Align::kRight,
-                          .column = "foreign",
-                          .visible = false,
-                          .stretch = Stretch::kShift},
-                         {.name = "txtForeignCode",
-                          .box = {kCodeLeft, 0, kCodeWidth, kLine},
-                          .style = kQuiet,
-                          .data_field = "CurrencyCode",
-                          .column = "currency",
-                          .visible = false,
-                          .stretch = Stretch::kShift}}};
+            .controls = {Growing(ColumnText("txtAccount", kAccount, 0, kBody, "account")),
+                         Growing(ColumnText("txtProject", kProject, 0, kQuiet, "project")),
+                         ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
+                         ColumnText("txtCredit", kCredit, 0, kBody, "credit"),
+                         Hidden(ColumnText("txtForeign", kForeign, 0, kQuiet, "foreign")),
+                         Hidden(Bound(code, "CurrencyCode"))}};
 }
 
 SectionLayout Remarks() {
     return {.name = "gfComment",
             .kind = SectionKind::kGroupFooter,
             .height = kDetailHeight,
-            .controls = {{.name = "txtRemarks",
-                          .box = {kTextLeft, 0, 10'800 - kTextLeft, kLine},
-                          .style = kRemark,
-                          .data_field = "Remarks",
-                          .can_grow = true,
-                          .stretch = Stretch::kWiden}}};
+            .controls = {Growing(Bound(ColumnText("txtRemarks", kText, 0, kRemark), "Remarks"))}};
 }
 
 SectionLayout EntryFooter() {
-    return {.name = "gfSeqNo",
-            .kind = SectionKind::kGroupFooter,
-            .height = kGroupHeight,
-            .controls = {RuleAbove("linDebitTotal", kDebitLeft, kThin),
-                         RuleAbove("linCreditTotal", kCreditLeft, kThin),
-                         Amount("txtDebitTotal", kDebitLeft, 25, kBodyBold),
-                         Amount("txtCreditTotal", kCreditLeft, 25, kBodyBold)}};
+    return {
+        .name = "gfSeqNo",
+        .kind = SectionKind::kGroupFooter,
+        .height = kGroupHeight,
+        .controls = {TotalRule("linDebitTotal", kDebit, 0), TotalRule("linCreditTotal", kCredit, 0),
+                     ColumnText("txtDebitTotal", kDebit, 25, kBodyBold),
+                     ColumnText("txtCreditTotal", kCredit, 25, kBodyBold)}};
 }
 
 SectionLayout GrandTotals() {
-    return {
-        .name = "ReportFooter",
-        .kind = SectionKind::kReportFooter,
-        .height = kReportFooterHeight,
-        .controls = {{.name = "linGrandTotal",
-                      .kind = ControlKind::kLine,
-                      .box = {0, 90, 10'800, kThick},
-                      .style = kTotalLine,
-                      .stretch = Stretch::kWiden},
-                     {.name = "lblGrandTotal",
-                      .kind = ControlKind::kLabel,
-                      .box = {0, 170, 1'800, kLine},
-                      .style = kHeading,
-                      .caption = 1641},
-                     {.name = "txtCount", .box = {kTextLeft, 170, 3'000, kLine}, .style = kQuiet},
-                     Amount("txtDebitGrandTotal", kDebitLeft, 170, kHeading),
-                     Amount("txtCreditGrandTotal", kCreditLeft, 170, kHeading)}};
+    constexpr Twips kTop = 170;
+    constexpr auto kLabel = ColumnPlace::Left(0, 1'800);
+    constexpr auto kCount = ColumnPlace::Left(kTextLeft, 3'000);
+    return {.name = "ReportFooter",
+            .kind = SectionKind::kReportFooter,
+            .height = kReportFooterHeight,
+            .controls = {TotalRule("linGrandTotal", kWholeWidth, 90, kThick),
+                         ColumnLabel("lblGrandTotal", kLabel, kTop, kHeading, 1641),
+                         ColumnText("txtCount", kCount, kTop, kQuiet),
+                         ColumnText("txtDebitGrandTotal", kDebit, kTop, kHeading),
+                         ColumnText("txtCreditGrandTotal", kCredit, kTop, kHeading)}};
 }
 
 }  // namespace
@@ -181,7 +100,7 @@ const Layout& GeneralJournalLayout() {
             {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
             {.name = "PageHeader",
              .kind = SectionKind::kPageHeader,
-             .height = 1'260,
+             .height = kPageHeaderHeight,
              .controls = PageHeaderControls(Captions())},
             EntryHeader(),
             {.name = "ghComment", .kind = SectionKind::kGroupHeader, .group_field = "Remarks"},

@@ -15,23 +15,21 @@ constexpr auto kDescription = ColumnPlace::Left(1'260, 7'700, Stretch::kWiden);
 constexpr auto kAmount = ColumnPlace::Amount(9'020, 1'780);
 
 SectionLayout Code() {
-    auto code = ColumnText("txtGIFIAcctId", kCode, 60, kBodyBold, "gifi");
-    code.data_field = "GIFIAcctId";
     return {.name = "ghGIFI",
             .kind = SectionKind::kGroupHeader,
             .height = kGroupHeight,
             .group_field = "GIFIAcctId",
             .repeat = true,
-            .controls = {code}};
+            .controls = {
+                Bound(ColumnText("txtGIFIAcctId", kCode, 60, kBodyBold, "gifi"), "GIFIAcctId")}};
 }
 
 SectionLayout Accounts() {
-    auto description = ColumnText("txtDescr", kDescription, 0, kBody, "account");
-    description.can_grow = true;
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {description, ColumnText("txtAmount", kAmount, 0, kBody, "amount")}};
+            .controls = {Growing(ColumnText("txtDescr", kDescription, 0, kBody, "account")),
+                         ColumnText("txtAmount", kAmount, 0, kBody, "amount")}};
 }
 
 SectionLayout CodeTotal() {
@@ -56,7 +54,7 @@ const Layout& GifiReportLayout() {
         .name = "dsrGIFIReport",
         .sections = {{.name = "PageHeader",
                       .kind = SectionKind::kPageHeader,
-                      .height = 1'260,
+                      .height = kPageHeaderHeight,
                       .controls = PageHeaderControlsWithRates(
                           {ColumnCaption("lblCodeCap", kCode, 1741),
                            ColumnCaption("lblDescrCap", kDescription, 1789),

@@ -27,13 +27,11 @@ constexpr ColumnPlace kBeforeBalance{6'300, 2'660, Align::kRight, Stretch::kShif
 constexpr ColumnPlace kBeforeDebit{2'240, 4'000, Align::kRight, Stretch::kWiden};
 
 std::vector<ControlLayout> Captions() {
-    auto currency = ColumnCaption("lblCurrencyCap", kForeign, 5846);
-    currency.visible = false;
     return {ColumnCaption("lblSeqNoCap", kSeqNo, 2664),
             ColumnCaption("lblSourceCap", kSource, 2648),
             ColumnCaption("lblDateCap", kDate, 1912),
             ColumnCaption("lblDescrCap", kDescription, 1789),
-            currency,
+            Hidden(ColumnCaption("lblCurrencyCap", kForeign, 5846)),
             ColumnCaption("lblDebitCap", kDebit, 2656),
             ColumnCaption("lblCreditCap", kCredit, 2657),
             ColumnCaption("lblBalanceCap", kBalance, 2637),
@@ -41,16 +39,14 @@ std::vector<ControlLayout> Captions() {
 }
 
 SectionLayout AccountHeader() {
-    auto number = ColumnText("txtGLAcctId", kAccount, 70, kBodyBold, "account");
-    number.data_field = "GLAcctId";
-    auto name = ColumnText("txtDescr", kAccountName, 70, kBodyBold, "description");
-    name.data_field = "Descr";
+    const auto number = ColumnText("txtGLAcctId", kAccount, 70, kBodyBold, "account");
+    const auto name = ColumnText("txtDescr", kAccountName, 70, kBodyBold, "description");
     return {.name = "ghAccount",
             .kind = SectionKind::kGroupHeader,
             .height = kGroupHeight + kLineHeight,
             .group_field = "InGLAcctId",
             .repeat = true,
-            .controls = {number, name,
+            .controls = {Bound(number, "GLAcctId"), Bound(name, "Descr"),
                          ColumnLabel("lblBalanceForward_", kBeforeBalance, 70, kQuiet, 3011),
                          ColumnText("txtBalanceForward", kBalance, 70, kBody, "balance"),
                          ColumnText("lblBalanceForwardType", kType, 70, kQuiet, "type"),
@@ -60,21 +56,15 @@ SectionLayout AccountHeader() {
 }
 
 SectionLayout Lines() {
-    const auto bound = [](ControlLayout control, std::string_view field) {
-        control.data_field = field;
-        return control;
-    };
-    auto description =
-        bound(ColumnText("txtDetDesc", kDescription, 0, kBody, "description"), "DetDesc");
-    description.can_grow = true;
-    auto foreign = ColumnText("txtCurrency", kForeign, 0, kQuiet, "foreign");
-    foreign.visible = false;
+    const auto description = ColumnText("txtDetDesc", kDescription, 0, kBody, "description");
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {bound(ColumnText("txtSeqNo", kSeqNo, 0, kBody, "entry"), "SeqNo"),
-                         bound(ColumnText("txtSource", kSource, 0, kBody, "source"), "Source"),
-                         ColumnText("txtDetDate", kDate, 0, kBody, "date"), description, foreign,
+            .controls = {Bound(ColumnText("txtSeqNo", kSeqNo, 0, kBody, "entry"), "SeqNo"),
+                         Bound(ColumnText("txtSource", kSource, 0, kBody, "source"), "Source"),
+                         ColumnText("txtDetDate", kDate, 0, kBody, "date"),
+                         Growing(Bound(description, "DetDesc")),
+                         Hidden(ColumnText("txtCurrency", kForeign, 0, kQuiet, "foreign")),
                          ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
                          ColumnText("txtCredit", kCredit, 0, kBody, "credit"),
                          ColumnText("txtBalance", kBalance, 0, kBody, "balance"),
@@ -138,7 +128,7 @@ const Layout& TrialBalanceDetailLayout() {
     static const Layout layout{.name = "dsrTrialBalanceDetail",
                                .sections = {{.name = "PageHeader",
                                              .kind = SectionKind::kPageHeader,
-                                             .height = 1'260,
+                                             .height = kPageHeaderHeight,
                                              .controls = PageHeaderControlsWithRates(Captions())},
                                             AccountHeader(),
                                             Lines(),

@@ -3,7 +3,6 @@
 #include "framework/exchange_rates_note.h"
 #include "framework/item_adjustment_note.h"
 #include "framework/layout_parts.h"
-#include "framework/standard_header.h"
 
 namespace varnel::reports {
 
@@ -24,28 +23,22 @@ constexpr Twips kTotalRuleTop = 320;
 constexpr Twips kTotalTop = 360;
 
 std::vector<ControlLayout> Captions() {
-    auto currency = ColumnCaption("lblCurrency", kForeign, 5846);
-    currency.visible = false;
     return {ColumnCaption("lblCodeCap", kCode, 1741),
             ColumnCaption("lblDescrCap", kDescription, 1789),
-            currency,
+            Hidden(ColumnCaption("lblCurrency", kForeign, 5846)),
             ColumnCaption("lblDebitCap", kDebit, 2656),
             ColumnCaption("lblCreditCap", kCredit, 2657),
             CaptionRule()};
 }
 
 SectionLayout Accounts() {
-    auto code = ColumnText("txtAcctId", kCode, kRowTop, kBody, "code");
-    code.data_field = "GLAcctId";
-    auto description = ColumnText("txtDescr", kDescription, kRowTop, kBody, "description");
-    description.data_field = "Descr";
-    description.can_grow = true;
-    auto foreign = ColumnText("txtCurrency", kForeign, kRowTop, kQuiet, "foreign");
-    foreign.visible = false;
+    const auto description = ColumnText("txtDescr", kDescription, kRowTop, kBody, "description");
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {code, description, foreign,
+            .controls = {Bound(ColumnText("txtAcctId", kCode, kRowTop, kBody, "code"), "GLAcctId"),
+                         Growing(Bound(description, "Descr")),
+                         Hidden(ColumnText("txtCurrency", kForeign, kRowTop, kQuiet, "foreign")),
                          ColumnText("txtDebit", kDebit, kRowTop, kBody, "debit"),
                          ColumnText("txtCredit", kCredit, kRowTop, kBody, "credit")}};
 }
@@ -71,7 +64,7 @@ const Layout& TrialBalanceSummaryLayout() {
     static const Layout layout{.name = "dsrTrialBalanceSummary",
                                .sections = {{.name = "PageHeader",
                                              .kind = SectionKind::kPageHeader,
-                                             .height = 1'260,
+                                             .height = kPageHeaderHeight,
                                              .controls = PageHeaderControlsWithRates(Captions())},
                                             Accounts(),
                                             {.name = "PageFooter",
