@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "framework/cell_values.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/period_caption.h"
@@ -121,9 +122,7 @@ std::string dsrUnRealExchProfitloss::BuildStatement() {
 
 void dsrUnRealExchProfitloss::PutAmount(Control& control, Currency amount,
                                         std::int32_t currency_id) {
-    text_.clear();
-    Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, currency_id, text_);
-    control.SetValue(amount, text_);
+    Mark(), PutAmountIn(GetCurrencyInfo(), control, amount, currency_id, text_);
 }
 
 void dsrUnRealExchProfitloss::PutTotals(const TotalControls& controls, const Totals& totals) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "framework/cell_values.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/ledger_balance_columns.h"
@@ -230,29 +231,20 @@ void Report::Detail_Format() {
 }
 
 void Report::ShowKey() {
-    const Row& row = CurrentRow();
-    Mark(), text_ = row.Text(columns_.source);
-    text_ += '|';
-    row.AppendText(columns_.source_key, text_);
+    Mark(), ReadDocumentKey(CurrentRow(), columns_.source, columns_.source_key, text_);
     for (Control* control : line_controls_) control->SetTag(text_);
 }
 
 void Report::ShowDate(Control& control, Date date) {
-    text_.clear();
-    Mark(), App().GetFormats().AppendShortDate(date, text_);
-    control.SetValue(date, text_);
+    Mark(), PutDate(App().GetFormats(), control, date, text_);
 }
 
 void Report::PutForeign(Control& control, Currency amount) {
-    text_.clear();
-    Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, ex_currency_id_, text_);
-    control.SetValue(amount, text_);
+    Mark(), PutAmountIn(GetCurrencyInfo(), control, amount, ex_currency_id_, text_);
 }
 
 void Report::PutHome(Control& control, Currency amount) {
-    text_.clear();
-    Mark(), App().GetFormats().AppendAmount(amount, text_);
-    control.SetValue(amount, text_);
+    Mark(), PutAmount(App().GetFormats(), control, amount, text_);
 }
 
 void Report::PutPosition(AmountControls& controls, const std::optional<Position>& position) {

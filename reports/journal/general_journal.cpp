@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "framework/cell_values.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/item_adjustment_note.h"
 #include "framework/period_caption.h"
@@ -137,9 +138,7 @@ void dsrGeneralJournal::MoveAmountColumns() {
 }
 
 void dsrGeneralJournal::PutAmount(Control& control, Currency amount) {
-    text_.clear();
-    Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, HomeCurrencyId(), text_);
-    control.SetValue(amount, text_);
+    Mark(), PutAmountIn(GetCurrencyInfo(), control, amount, HomeCurrencyId(), text_);
 }
 
 void dsrGeneralJournal::PutTotals(Control& debit, Control& credit, const Totals& totals) {
@@ -171,9 +170,7 @@ void dsrGeneralJournal::ghSeqNo_Format() {
     Mark(), text_ += row.Text(columns_.reference);
     txtDescription.SetText(Trimmed(text_));
 
-    Mark(), text_ = row.Text(columns_.source);
-    text_ += '|';
-    row.AppendText(columns_.source_key, text_);
+    Mark(), ReadDocumentKey(row, columns_.source, columns_.source_key, text_);
     for (Control* header : {&txtSeqNo, &txtDate, &txtDescription}) header->SetTag(text_);
     ShowDate();
 }
@@ -181,9 +178,7 @@ void dsrGeneralJournal::ghSeqNo_Format() {
 void dsrGeneralJournal::ShowDate() {
     if (CurrentRow().IsNull(columns_.date)) return;
     const Date date = (Mark(), CurrentRow().Day(columns_.date));
-    text_.clear();
-    Mark(), App().GetFormats().AppendShortDate(date, text_);
-    txtDate.SetValue(date, text_);
+    Mark(), PutDate(App().GetFormats(), txtDate, date, text_);
 }
 
 bool dsrGeneralJournal::ShowsForeignAmount() const {
@@ -205,9 +200,8 @@ void dsrGeneralJournal::ShowAccount() {
 void dsrGeneralJournal::ShowForeignAmount() {
     const Row& row = CurrentRow();
     const Currency amount = (Mark(), row.Amount(columns_.foreign_amount));
-    text_.clear();
-    Mark(), GetCurrencyInfo().FormatWorldCurrency(amount, row.Integer(columns_.currency_id), text_);
-    txtForeign.SetValue(amount, text_);
+    const std::int32_t currency_id = (Mark(), row.Integer(columns_.currency_id));
+    Mark(), PutAmountIn(GetCurrencyInfo(), txtForeign, amount, currency_id, text_);
     txtForeign.SetVisible(true);
     txtForeignCode.SetVisible(true);
 }

@@ -40,7 +40,7 @@ TEST(JournalFailureTest, AFailingHandlerIsToldAndTheRunGoesOnWithRightTotals) {
     ASSERT_EQ(run.host->message_boxes.size(), 1u);
     EXPECT_THAT(
         FailingStatement(run.host->message_boxes[0], "There is no currency 99", "Detail_Format"),
-        testing::HasSubstr("FormatWorldCurrency"));
+        testing::HasSubstr("PutAmountIn(GetCurrencyInfo(), txtForeign,"));
     EXPECT_THAT(bands.Texts("Detail", "txtDebit"), ElementsAre("10.00", "20.00", ""));
     EXPECT_FALSE(bands.Of("Detail")[1]["txtForeign"].visible);
     EXPECT_THAT(bands.Texts("gfSeqNo", "txtDebitTotal"), ElementsAre("30.00"));

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "host/application.h"
+#include "host/currency_info.h"
+#include "host/row.h"
+#include "host/surface.h"
+
+namespace varnel::framework {
+
+// What stands in a control, as text and as value in one. `scratch` is overwritten; it saves
+// allocations from row to row.
+
+/// In the user's short date format.
+void PutDate(Formats& formats, Control& control, Date date, std::string& scratch);
+
+/// In the general currency format.
+void PutAmount(Formats& formats, Control& control, Currency amount, std::string& scratch);
+
+/// In the format of its own currency.
+void PutAmountIn(CurrencyInfo& info, Control& control, Currency amount, std::int32_t currency_id,
+                 std::string& scratch);
+
+/// The drill-down key of the document that posted a row: its source and its key there, "GJ|1043".
+void ReadDocumentKey(const Row& row, Column source, Column key, std::string& out);
+
+}  // namespace varnel::framework
