@@ -25,8 +25,12 @@ Rate Rate::Parse(std::string_view text) {
 
 std::string Rate::ToText(int least_decimals) const {
     std::string text;
-    decimal::Append(scaled_, kDecimals, least_decimals, text);
+    AppendText(text, least_decimals);
     return text;
+}
+
+void Rate::AppendText(std::string& out, int least_decimals) const {
+    decimal::Append(scaled_, kDecimals, least_decimals, out);
 }
 
 Currency Multiply(Currency amount, Rate rate, int decimals) {

@@ -27,6 +27,7 @@ class Rate {
     constexpr bool IsZero() const { return scaled_ == 0; }
     /// Plain decimal text with at least four decimals: "1.3725", "0.73105263".
     std::string ToText(int least_decimals = 4) const;
+    void AppendText(std::string& out, int least_decimals = 4) const;
     friend constexpr auto operator<=>(Rate, Rate) = default;
 
   private:

@@ -12,14 +12,15 @@
 #include "host/date.h"
 #include "host/layout.h"
 #include "host/object.h"
+#include "host/rate.h"
 
 namespace varnel {
 
 class BandedReport;
 
 /// What stands behind a printed text, for spreadsheets and data exports: an amount, a date, a
-/// count, or nothing.
-using ControlValue = std::variant<std::monostate, Currency, Date, std::int32_t>;
+/// count, an exchange rate, or nothing.
+using ControlValue = std::variant<std::monostate, Currency, Date, std::int32_t, Rate>;
 
 /// A live control: what handlers and late-bound hosts change. Geometry in twips, relative to its
 /// section.

@@ -37,6 +37,8 @@ void AppendValue(std::string& out, const Control& control) {
         amount->AppendText(out, kLeastDecimals);
     } else if (const auto* date = std::get_if<Date>(&value)) {
         date->AppendIso(out);
+    } else if (const auto* rate = std::get_if<Rate>(&value)) {
+        rate->AppendText(out);
     } else if (const auto* count = std::get_if<std::int32_t>(&value)) {
         char digits[16];
         out.append(digits, std::to_chars(digits, digits + sizeof digits, *count).ptr);

@@ -29,6 +29,7 @@ void AppendValue(std::string& out, const ControlValue& value) {
     out += '"';
     if (const auto* amount = std::get_if<Currency>(&value)) amount->AppendText(out);
     if (const auto* date = std::get_if<Date>(&value)) date->AppendIso(out);
+    if (const auto* rate = std::get_if<Rate>(&value)) rate->AppendText(out);
     out += '"';
 }
 

@@ -226,7 +226,7 @@ void dsrRealizedExchProfitloss::ShowDate() {
 void dsrRealizedExchProfitloss::PutRate(Control& control, Rate rate) {
     text_.clear();
     Mark(), AppendRate(App().GetFormats(), rate, text_);
-    control.SetText(text_);
+    control.SetValue(rate, text_);
 }
 
 void dsrRealizedExchProfitloss::PutAmount(Control& control, std::optional<Currency> amount) {

@@ -18,14 +18,15 @@ constexpr Twips kInvoiceLeft = 3'560;
 constexpr Twips kInvoiceWidth = 1'060;
 constexpr Twips kChequeLeft = 4'680;
 constexpr Twips kChequeWidth = 1'140;
-constexpr Twips kPaidLeft = 5'860;
+constexpr Twips kPaidLeft = 5'940;
 constexpr Twips kCodeLeft = 7'230;
 constexpr Twips kCodeWidth = 400;
-constexpr Twips kInvoiceRateLeft = 7'680;
-constexpr Twips kPaymentRateLeft = 8'580;
-constexpr Twips kRateWidth = 860;
-constexpr Twips kGainLeft = 9'480;
-constexpr Twips kAmountWidth = 1'320;
+constexpr Twips kInvoiceRateLeft = 7'420;
+constexpr Twips kPaymentRateLeft = 8'460;
+constexpr Twips kInvoiceRateWidth = 960;
+constexpr Twips kPaymentRateWidth = 1'060;
+constexpr Twips kGainLeft = 9'560;
+constexpr Twips kAmountWidth = 1'240;
 constexpr Twips kLine = 220;
 
 std::vector<ControlLayout> Captions() {
@@ -50,8 +51,8 @@ std::vector<ControlLayout> Captions() {
             left("lblInvoiIdCap", kInvoiceLeft, kInvoiceWidth, 30035),
             left("lblChqNoCap", kChequeLeft, kChequeWidth, 30036),
             right("lblPaidCap", kPaidLeft, kAmountWidth, 30037),
-            right("lblExchangeRateCap", kInvoiceRateLeft, kRateWidth, 30035),
-            right("lblPmtRateCap", kPaymentRateLeft, kRateWidth, 30034),
+            right("lblExchangeRateCap", kInvoiceRateLeft, kInvoiceRateWidth, 30049),
+            right("lblPmtRateCap", kPaymentRateLeft, kPaymentRateWidth, 30050),
             right("lblGainCap", kGainLeft, kAmountWidth, 30033),
             {.name = kCaptionRule,
              .kind = ControlKind::kLine,
@@ -112,23 +113,24 @@ SectionLayout Payments() {
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {
-                {.name = "txtPmtDate",
-                 .box = {0, 0, kDateWidth, kLine},
-                 .style = kBody,
-                 .column = "date"},
-                BoundText("txtName", {kNameLeft, 0, kNameWidth, kLine}, kBody, "Name", "name",
-                          Stretch::kWiden),
-                BoundText("txtInvoiId", {kInvoiceLeft, 0, kInvoiceWidth, kLine}, kBody, "InvoiId",
-                          "invoice", Stretch::kShift),
-                BoundText("txtChqNo", {kChequeLeft, 0, kChequeWidth, kLine}, kBody, "ChqNo",
-                          "cheque", Stretch::kShift),
-                Figure("txtExchangeRate", kInvoiceRateLeft, kRateWidth, 0, kQuiet, "invoice_rate"),
-                Figure("txtPmtRate", kPaymentRateLeft, kRateWidth, 0, kQuiet, "payment_rate"),
-                Figure("txtPaid", kPaidLeft, kAmountWidth, 0, kBody, "paid"),
-                BoundText("txtCurrencyCode", {kCodeLeft, 0, kCodeWidth, kLine}, kQuiet,
-                          "CurrencyCode", "currency", Stretch::kShift),
-                Figure("txtGain", kGainLeft, kAmountWidth, 0, kBody, "gain")}};
+            .controls = {{.name = "txtPmtDate",
+                          .box = {0, 0, kDateWidth, kLine},
+                          .style = kBody,
+                          .column = "date"},
+                         BoundText("txtName", {kNameLeft, 0, kNameWidth, kLine}, kBody, "Name",
+                                   "name", Stretch::kWiden),
+                         BoundText("txtInvoiId", {kInvoiceLeft, 0, kInvoiceWidth, kLine}, kBody,
+                                   "InvoiId", "invoice", Stretch::kShift),
+                         BoundText("txtChqNo", {kChequeLeft, 0, kChequeWidth, kLine}, kBody,
+                                   "ChqNo", "cheque", Stretch::kShift),
+                         Figure("txtExchangeRate", kInvoiceRateLeft, kInvoiceRateWidth, 0, kQuiet,
+                                "invoice_rate"),
+                         Figure("txtPmtRate", kPaymentRateLeft, kPaymentRateWidth, 0, kQuiet,
+                                "payment_rate"),
+                         Figure("txtPaid", kPaidLeft, kAmountWidth, 0, kBody, "paid"),
+                         BoundText("txtCurrencyCode", {kCodeLeft, 0, kCodeWidth, kLine}, kQuiet,
+                                   "CurrencyCode", "currency", Stretch::kShift),
+                         Figure("txtGain", kGainLeft, kAmountWidth, 0, kBody, "gain")}};
 }
 
 SectionLayout TypeFooter() {
