@@ -46,11 +46,6 @@ constexpr std::string_view kGroupAndOrder =
 
 using Report = dsrUnRealExchProfitloss;
 
-constexpr Member<Report> kMembers[] = {
-    {"RatesPreset", [](Report& r) -> Variant { return r.RatesPreset(); },
-     [](Report& r, const Variant& v) { r.RatesPreset(v.ToBool()); }},
-};
-
 }  // namespace
 
 dsrUnRealExchProfitloss::dsrUnRealExchProfitloss()
@@ -58,8 +53,7 @@ dsrUnRealExchProfitloss::dsrUnRealExchProfitloss()
                  {.title_text = 30010, .date_display = DateDisplay::kClosingDate}),
       SegmentFilter(Members()),
       FilterableReport(Members()),
-      RevaluedReport(Members()) {
-    Members().Add<Report>(*this, kMembers);
+      RatesAtStart(Members()) {
     Handle("PageHeader_Format", &Report::PageHeader_Format);
     Handle("ghCurrency_Format", &Report::ghCurrency_Format);
     Handle("ghAccountType_Format", &Report::ghAccountType_Format);
@@ -87,7 +81,7 @@ void dsrUnRealExchProfitloss::ActiveReport_ReportStart() {
         report_ = {};
         report_.known = false;
         Mark(), home_id_ = GetCurrencyInfo().CieHomeCurrencyId();
-        if (!rates_preset_) ConfigureRates();
+        Mark(), ConfigureRates(GetCurrencyInfo(), DateTo(), FilterPieces());
         Mark(), revaluer_.emplace(GetCurrencyInfo(), *this);
         accounts_ = {};
         Mark(), accounts_.Init(AppRef(), 0);
@@ -101,12 +95,6 @@ void dsrUnRealExchProfitloss::ActiveReport_ReportStart() {
         Mark(), At(kPeriodLabel).SetText(ClosingDateCaption(App(), DateTo()));
         Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), {}, nullptr);
     });
-}
-
-void dsrUnRealExchProfitloss::ConfigureRates() {
-    constexpr bool kUseRateTable = true;
-    const auto pieces = FilterPieces();
-    Mark(), GetCurrencyInfo().ConfigureExchangeRates(*this, DateTo(), kUseRateTable, pieces);
 }
 
 std::string dsrUnRealExchProfitloss::BuildStatement() {

@@ -8,8 +8,8 @@
 #include "framework/custom_criteria.h"
 #include "framework/ledger_balance_columns.h"
 #include "framework/report_base.h"
-#include "framework/revalued_report.h"
 #include "framework/segment_filter.h"
+#include "reports/exchange/rates_at_start.h"
 
 namespace varnel::reports {
 
@@ -19,13 +19,9 @@ namespace varnel::reports {
 class dsrUnRealExchProfitloss final : public framework::ReportBase,
                                       public framework::SegmentFilter,
                                       public framework::FilterableReport,
-                                      public framework::RevaluedReport {
+                                      public RatesAtStart {
   public:
     dsrUnRealExchProfitloss();
-
-    /// A run takes the rates that the host has set and does not ask the company for any.
-    bool RatesPreset() const { return rates_preset_; }
-    void RatesPreset(bool preset) { rates_preset_ = preset; }
 
     void ActiveReport_ReportStart() override;
 
@@ -45,7 +41,6 @@ class dsrUnRealExchProfitloss final : public framework::ReportBase,
         Control& gain;
     };
 
-    void ConfigureRates();
     std::string BuildStatement();
     void AddBalance();
     void AddAccount(const Totals& account);
@@ -61,7 +56,6 @@ class dsrUnRealExchProfitloss final : public framework::ReportBase,
     void gfCurrency_Format();
     void ReportFooter_Format();
 
-    bool rates_preset_ = false;
     std::int32_t home_id_ = 0;
     std::int32_t currency_id_ = 0;
     std::int32_t account_id_ = 0;

@@ -26,8 +26,6 @@ constexpr Member<Report> kMembers[] = {
      [](Report& r, const Variant& v) { r.ExCurrencyId(v.ToInteger32()); }},
     {"GLAcctId", [](Report& r) -> Variant { return r.GLAcctId(); },
      [](Report& r, const Variant& v) { r.GLAcctId(v.ToInteger32()); }},
-    {"RatesPreset", [](Report& r) -> Variant { return r.RatesPreset(); },
-     [](Report& r, const Variant& v) { r.RatesPreset(v.ToBool()); }},
 };
 
 constexpr std::string_view kSelectLines =
@@ -64,7 +62,7 @@ Report::dsrUnRealExchProfitlossDetail()
                  {.title_text = 30011, .date_display = DateDisplay::kFromTo}),
       SegmentFilter(Members()),
       FilterableReport(Members()),
-      RevaluedReport(Members()) {
+      RatesAtStart(Members()) {
     Members().Add<Report>(*this, kMembers);
     Handle("PageHeader_Format", &Report::PageHeader_Format);
     Handle("ghGLAcct_Format", &Report::ghGLAcct_Format);
@@ -101,7 +99,8 @@ void Report::ActiveReport_ReportStart() {
         forward_.reset();
         period_.reset();
         ShowNames();
-        ConfigureRates();
+        Mark(), ConfigureRates(GetCurrencyInfo(), DateTo(), FilterPieces());
+        RequireRate();
         forward_ = BroughtForward();
         const std::string statement = LinesStatement();
         const Variant parameters[] = {ex_currency_id_, gl_acct_id_, DateFrom(), DateTo()};
@@ -126,15 +125,6 @@ void Report::ShowNames() {
         At(name).SetText(account);
         At(name).SetTag(AccountKey(gl_acct_id_));
     }
-}
-
-void Report::ConfigureRates() {
-    if (!rates_preset_) {
-        constexpr bool kUseRateTable = true;
-        const auto pieces = FilterPieces();
-        Mark(), GetCurrencyInfo().ConfigureExchangeRates(*this, DateTo(), kUseRateTable, pieces);
-    }
-    RequireRate();
 }
 
 // Told once, here, rather than at every line.

@@ -7,8 +7,8 @@
 
 #include "framework/custom_criteria.h"
 #include "framework/report_base.h"
-#include "framework/revalued_report.h"
 #include "framework/segment_filter.h"
+#include "reports/exchange/rates_at_start.h"
 
 namespace varnel::reports {
 
@@ -17,11 +17,11 @@ namespace varnel::reports {
 /// closing one.
 ///
 /// Late-bound properties: `ExCurrencyId` and `GLAcctId`, the internal ids of the currency and the
-/// account; `RatesPreset`, when the host has set the exchange rates and none are to be asked for.
+/// account.
 class dsrUnRealExchProfitlossDetail final : public framework::ReportBase,
                                             public framework::SegmentFilter,
                                             public framework::FilterableReport,
-                                            public framework::RevaluedReport {
+                                            public RatesAtStart {
   public:
     dsrUnRealExchProfitlossDetail();
 
@@ -29,8 +29,6 @@ class dsrUnRealExchProfitlossDetail final : public framework::ReportBase,
     void ExCurrencyId(std::int32_t currency_id) { ex_currency_id_ = currency_id; }
     std::int32_t GLAcctId() const { return gl_acct_id_; }
     void GLAcctId(std::int32_t account_id) { gl_acct_id_ = account_id; }
-    bool RatesPreset() const { return rates_preset_; }
-    void RatesPreset(bool preset) { rates_preset_ = preset; }
 
     void ActiveReport_ReportStart() override;
 
@@ -53,7 +51,6 @@ class dsrUnRealExchProfitlossDetail final : public framework::ReportBase,
     };
 
     void ShowNames();
-    void ConfigureRates();
     void RequireRate();
     std::string BalanceStatement() const;
     std::string LinesStatement() const;
@@ -76,7 +73,6 @@ class dsrUnRealExchProfitlossDetail final : public framework::ReportBase,
 
     std::int32_t ex_currency_id_ = 0;
     std::int32_t gl_acct_id_ = 0;
-    bool rates_preset_ = false;
 
     LineColumns columns_;
     std::string currency_code_;
