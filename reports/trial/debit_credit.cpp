@@ -1,19 +1,15 @@
 #include "reports/trial/debit_credit.h"
 
-namespace varnel::reports {
+#include "framework/cell_values.h"
 
-void PutAmount(Formats& formats, Control& control, Currency amount, std::string& scratch) {
-    scratch.clear();
-    formats.AppendAmount(amount, scratch);
-    control.SetValue(amount, scratch);
-}
+namespace varnel::reports {
 
 void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency amount,
                   std::string& scratch) {
     debit.Clear();
     credit.Clear();
     if (amount.IsZero()) return;
-    PutAmount(formats, amount > Currency() ? debit : credit, amount.Abs(), scratch);
+    framework::PutAmount(formats, amount > Currency() ? debit : credit, amount.Abs(), scratch);
 }
 
 void Adjust(Formats& formats, Control& debit, Control& credit, DebitCredit& totals,

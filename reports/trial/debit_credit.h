@@ -22,11 +22,8 @@ struct DebitCredit {
     Currency Difference() const { return debit - credit; }
 };
 
-/// The text of an amount in the general currency format, with its value. `scratch` saves
-/// allocations from row to row.
-void PutAmount(Formats& formats, Control& control, Currency amount, std::string& scratch);
-
-/// A debit-positive amount in its column, the other one empty; zero leaves both empty.
+/// A debit-positive amount in its column, the other one empty; zero leaves both empty. `scratch`
+/// saves allocations from row to row.
 void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency amount,
                   std::string& scratch);
 

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "framework/cell_values.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/item_adjustment_note.h"
@@ -9,7 +10,6 @@
 #include "framework/query_runner.h"
 #include "framework/standard_header.h"
 #include "framework/texts.h"
-#include "reports/trial/debit_credit.h"
 #include "reports/trial/gifi_report_layout.h"
 
 namespace varnel::reports {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/cell_values.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/gl_config.h"
@@ -277,14 +278,10 @@ void dsrTrialBalanceDetail::ShowForeignAmount(std::int32_t currency_id) {
 }
 
 void dsrTrialBalanceDetail::ShowKey() {
-    const Row& row = CurrentRow();
-    if (amounts_->IsUnrealized(current_.account)) {
+    if (amounts_->IsUnrealized(current_.account))
         text_ = current_.key;
-    } else {
-        Mark(), text_ = row.Text(columns_.source);
-        text_ += '|';
-        row.AppendText(columns_.source_key, text_);
-    }
+    else
+        Mark(), ReadDocumentKey(CurrentRow(), columns_.source, columns_.source_key, text_);
     for (Control* control :
          {&txtSeqNo, &txtSource, &txtDetDate, &txtDetDesc, &txtDebit, &txtCredit, &running_.amount})
         control->SetTag(text_);
@@ -311,9 +308,7 @@ void dsrTrialBalanceDetail::Detail_Format() {
     Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
     ShowForeignAmount(currency_id);
     const Date date = (Mark(), CurrentRow().Day(columns_.date));
-    text_.clear();
-    Mark(), App().GetFormats().AppendShortDate(date, text_);
-    txtDetDate.SetValue(date, text_);
+    Mark(), PutDate(App().GetFormats(), txtDetDate, date, text_);
 }
 
 void dsrTrialBalanceDetail::gfAccount_Format() {

@@ -1,5 +1,6 @@
 #include "reports/trial/trial_balance_summary.h"
 
+#include "framework/cell_values.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/gl_config.h"
@@ -153,8 +154,8 @@ void dsrTrialBalanceSummary::Detail_Format() {
     txtCredit.Clear();
     txtCurrency.SetVisible(false);
     const TrialAccount account = CurrentAccount();
-    for (Control* control : {&txtDebit, &txtCredit, &txtAcctId, &txtDescr})
-        control->SetTag(amounts_->Key(account));
+    const std::string key = amounts_->Key(account);
+    for (Control* control : {&txtDebit, &txtCredit, &txtAcctId, &txtDescr}) control->SetTag(key);
     const Currency amount = (Mark(), amounts_->Amount(account));
     if (IsLeftOut(amount)) return Detail.Skip();
     totals_.Add(amount);
