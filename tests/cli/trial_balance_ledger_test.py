@@ -1,4 +1,4 @@
-"""Balances of the demo company as another accounting program has them: ledger, of ledger-cli.org."""
+"""Balances of the demo company as another accounting program has them: ledger (ledger-cli.org)."""
 
 import json
 import shutil
@@ -46,7 +46,7 @@ def amount(band, control):
     return Decimal(band["controls"].get(control, {}).get("value", 0))
 
 
-@unittest.skipUnless(shutil.which("ledger"), "ledger is not installed; script/bootstrap installs it")
+@unittest.skipUnless(shutil.which("ledger"), "no ledger here; script/bootstrap installs it")
 class TrialBalanceLedger(VarnelTest):
     @classmethod
     def setUpClass(cls):

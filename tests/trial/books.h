@@ -41,7 +41,7 @@ struct BookLine {
     /// 0 where there is none.
     int currency_id, project_id, segment_id;
 
-    /// What the line came from: one document for every three entries.
+    /// The document that the line came from; a document may have several entries.
     std::string Source() const { return entry % 2 == 0 ? "GJ" : "INV"; }
     int SourceKey() const { return entry / 3; }
     std::string Key() const { return Source() + "|" + std::to_string(SourceKey()); }

@@ -44,7 +44,7 @@ class Figures {
         const Units booked = Sum(&BookLine::amount, account, Start(account), to);
         if (!question_.revalue || !account.IsForeign()) return booked;
         const Units worth = Revalued(Foreign(account, to), account.currency_id);
-        difference += worth - booked;
+        difference_ += worth - booked;
         return worth;
     }
     bool CarriesDifference(const BookAccount& account) const {
@@ -53,7 +53,7 @@ class Figures {
     Units LineAmount(const BookLine& line) {
         if (!question_.revalue || line.currency_id <= kHomeCurrency) return line.amount;
         const Units worth = Revalued(line.foreign, line.currency_id);
-        difference += worth - line.amount;
+        difference_ += worth - line.amount;
         return worth;
     }
     std::string Key(const BookAccount& account) const {
@@ -64,7 +64,7 @@ class Figures {
     }
 
     /// What revaluation has changed so far.
-    Units difference = 0;
+    Units Difference() const { return difference_; }
 
   private:
     Date Start(const BookAccount& account) const {
@@ -89,6 +89,7 @@ class Figures {
     const Books& books_;
     const Question& question_;
     Date income_start_;
+    Units difference_ = 0;
 };
 
 // A period that begins before the last fiscal year it touches counts income from its first day.
@@ -133,7 +134,7 @@ Detail::Account AccountOf(const Books& books, const Question& question, Figures&
                           const BookAccount& account) {
     Detail::Account printed{.account = account.number, .key = figures.Key(account)};
     printed.forward = figures.Amount(account, question.from - 1);
-    if (account.id == books.unrealized) printed.unrealized = -figures.difference;
+    if (account.id == books.unrealized) printed.unrealized = -figures.Difference();
     printed.lines = LinesOf(books, question, figures, account);
     printed.closing = printed.forward + printed.unrealized;
     for (const auto& line : printed.lines) {
@@ -141,7 +142,7 @@ Detail::Account AccountOf(const Books& books, const Question& question, Figures&
         printed.closing += line.amount;
     }
     printed.has_footer = question.include_zero || printed.debit != 0 || printed.credit != 0 ||
-                         printed.closing != 0 || figures.difference != 0;
+                         printed.closing != 0 || figures.Difference() != 0;
     return printed;
 }
 
@@ -162,7 +163,7 @@ Summary ExpectedSummary(const Books& books, const Question& question) {
     Figures figures(books, question, TrialIncomeStart(books, question));
     for (const auto& account : books.accounts) {
         const Units amount = figures.CarriesDifference(account)
-                                 ? -figures.difference
+                                 ? -figures.Difference()
                                  : figures.Amount(account, question.to);
         AddTo(summary, amount);
         if (amount == 0 && (!question.include_zero || account.inactive)) continue;
@@ -184,7 +185,7 @@ Detail ExpectedDetail(const Books& books, const Question& question) {
         detail.debit += printed.debit;
         detail.credit += printed.credit;
         detail.balance += printed.closing;
-        if (IsPrinted(question, printed, figures.difference))
+        if (IsPrinted(question, printed, figures.Difference()))
             detail.accounts.push_back(std::move(printed));
     }
     Balance(detail, question);
@@ -202,7 +203,7 @@ Gifi ExpectedGifi(const Books& books, const Question& question) {
         auto& printed = gifi.codes.emplace_back(Gifi::Code{.code = code});
         for (const auto& account : accounts) {
             const Units amount = figures.CarriesDifference(account)
-                                     ? -figures.difference
+                                     ? -figures.Difference()
                                      : figures.Amount(account, question.to);
             if (amount == 0) continue;
             printed.lines.push_back({account.number, amount, figures.Key(account)});

@@ -7,7 +7,6 @@
 #include <map>
 
 #include "company/scripted_dialogs.h"
-#include "company/sqlite_company_database.h"
 #include "tests/company/host_small_company.h"
 #include "tests/trial/books_figures.h"
 
@@ -28,22 +27,22 @@ std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
     return value == nullptr ? otherwise : std::strtoull(value, nullptr, 10);
 }
 
-// Without the checks of a file from elsewhere, which take longer than a report of so few lines.
 std::shared_ptr<Application> Open(const company::CompanyFile& file) {
     company::HostOptions options;
     options.language = "en-CA";
     options.dialogs = std::make_shared<company::ScriptedDialogs>(
         company::ScriptedDialogs::Answers{{"chkIncludeZeroBalanceAccount", "True"}});
     options.message_sink = [](const std::string& text) { ADD_FAILURE() << text; };
-    return std::make_shared<company::CompanyHost>(
-        std::make_unique<company::SqliteCompanyDatabase>(file.Path()), options);
+    return company::OpenCompany(file.Path(), options);
 }
 
 using Check =
     std::function<void(const Books&, const std::shared_ptr<Application>& host, Random& random)>;
 
+// All companies, one after the other, are in the same open file.
 void ForEveryCompany(const Check& check) {
     const company::CompanyFile file(kCompany);
+    const auto host = Open(file);
     const std::uint64_t first = FromEnvironment("VARNEL_SEED", 1);
     const std::uint64_t end = first + FromEnvironment("VARNEL_COMPANIES", 1'000);
     ASSERT_LT(first, end) << "VARNEL_COMPANIES is a number";
@@ -52,7 +51,8 @@ void ForEveryCompany(const Check& check) {
         Random random(seed);
         const Books books = MakeBooks(random);
         file.Run(ScriptOf(books));
-        check(books, Open(file), random);
+        host->CurrentContext().CurrentCompany().BeginRun();
+        check(books, host, random);
     }
 }
 
