@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "framework/cell_values.h"
 #include "framework/dialect.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/period_caption.h"
@@ -189,10 +190,7 @@ void dsrRealizedExchProfitloss::ghCurrPmtType_Format() {
 
 void dsrRealizedExchProfitloss::ShowKeys() {
     const Row& row = CurrentRow();
-    text_.clear();
-    row.AppendText(columns_.source, text_);
-    text_ += '|';
-    row.AppendText(columns_.invoice_id, text_);
+    Mark(), ReadDocumentKey(row, columns_.source, columns_.invoice_id, text_);
     for (Control* control : {&txtName, &txtInvoiId, &txtExchangeRate}) control->SetTag(text_);
 
     Control* const of_payment[] = {&txtPmtDate, &txtChqNo, &txtPmtRate, &txtPaid};
@@ -218,9 +216,7 @@ AppliedPayment dsrRealizedExchProfitloss::ReadPayment() {
 void dsrRealizedExchProfitloss::ShowDate() {
     if (CurrentRow().IsNull(columns_.date)) return;
     const Date date = (Mark(), CurrentRow().Day(columns_.date));
-    text_.clear();
-    Mark(), App().GetFormats().AppendShortDate(date, text_);
-    txtPmtDate.SetValue(date, text_);
+    Mark(), PutDate(App().GetFormats(), txtPmtDate, date, text_);
 }
 
 void dsrRealizedExchProfitloss::PutRate(Control& control, Rate rate) {
@@ -229,12 +225,8 @@ void dsrRealizedExchProfitloss::PutRate(Control& control, Rate rate) {
     control.SetValue(rate, text_);
 }
 
-void dsrRealizedExchProfitloss::PutAmount(Control& control, std::optional<Currency> amount) {
-    control.Clear();
-    if (!amount) return;
-    text_.clear();
-    Mark(), App().GetFormats().AppendAmount(*amount, text_);
-    control.SetValue(*amount, text_);
+void dsrRealizedExchProfitloss::PutHome(Control& control, Currency amount) {
+    Mark(), PutAmount(App().GetFormats(), control, amount, text_);
 }
 
 // Nothing of the row before is left and the totals are added up before the host formats anything.
@@ -251,13 +243,11 @@ void dsrRealizedExchProfitloss::Detail_Format() {
     if (group) Mark(), group_ = Totals{group->paid + paid, group->gain + gain};
     if (report_gain) Mark(), report_gain_ = *report_gain + gain;
 
-    PutAmount(txtGain, gain);
+    PutHome(txtGain, gain);
     PutRate(txtExchangeRate, payment.invoice_rate);
     PutRate(txtPmtRate, payment.payment_rate);
     ShowDate();
-    text_.clear();
-    Mark(), GetCurrencyInfo().FormatWorldCurrency(paid, currency_id_, text_);
-    txtPaid.SetValue(paid, text_);
+    Mark(), PutAmountIn(GetCurrencyInfo(), txtPaid, paid, currency_id_, text_);
 }
 
 void dsrRealizedExchProfitloss::gfCurrPmtType_Format() {
@@ -265,12 +255,12 @@ void dsrRealizedExchProfitloss::gfCurrPmtType_Format() {
     txtPaidTotal.Clear();
     txtGainTotal.Clear();
     if (!group) return;
-    PutAmount(txtPaidTotal, group->paid);
-    PutAmount(txtGainTotal, group->gain);
+    PutHome(txtPaidTotal, group->paid);
+    PutHome(txtGainTotal, group->gain);
 }
 
 void dsrRealizedExchProfitloss::ReportFooter_Format() {
-    PutAmount(txtGainGrandTotal, report_gain_);
+    if (report_gain_) PutHome(txtGainGrandTotal, *report_gain_);
 }
 
 }  // namespace varnel::reports

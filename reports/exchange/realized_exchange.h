@@ -44,8 +44,8 @@ class dsrRealizedExchProfitloss final : public framework::ReportBase,
     AppliedPayment ReadPayment();
     void ShowDate();
     void PutRate(Control& control, Rate rate);
-    /// In the general currency format; blank without an amount.
-    void PutAmount(Control& control, std::optional<Currency> amount);
+    /// In the general currency format.
+    void PutHome(Control& control, Currency amount);
 
     void PageHeader_Format();
     void ghCurrency_Format();

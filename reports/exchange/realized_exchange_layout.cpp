@@ -1,7 +1,6 @@
 #include "reports/exchange/realized_exchange_layout.h"
 
-#include "framework/standard_header.h"
-#include "framework/styles.h"
+#include "framework/layout_parts.h"
 
 namespace varnel::reports {
 
@@ -11,87 +10,37 @@ using namespace framework;
 
 // From the left: when, who, which invoice, which cheque; then the amount, its two rates and what
 // they make of it.
-constexpr Twips kDateWidth = 1'000;
-constexpr Twips kNameLeft = 1'060;
-constexpr Twips kNameWidth = 2'440;
-constexpr Twips kInvoiceLeft = 3'560;
-constexpr Twips kInvoiceWidth = 1'060;
-constexpr Twips kChequeLeft = 4'680;
-constexpr Twips kChequeWidth = 1'140;
-constexpr Twips kPaidLeft = 5'940;
-constexpr Twips kCodeLeft = 7'230;
-constexpr Twips kCodeWidth = 400;
-constexpr Twips kInvoiceRateLeft = 7'420;
-constexpr Twips kPaymentRateLeft = 8'460;
-constexpr Twips kInvoiceRateWidth = 960;
-constexpr Twips kPaymentRateWidth = 1'060;
-constexpr Twips kGainLeft = 9'560;
-constexpr Twips kAmountWidth = 1'240;
-constexpr Twips kLine = 220;
+constexpr auto kDate = ColumnPlace::Left(0, 1'000);
+constexpr auto kName = ColumnPlace::Left(1'060, 2'440, Stretch::kWiden);
+constexpr auto kInvoice = ColumnPlace::Left(3'560, 1'060, Stretch::kShift);
+constexpr auto kCheque = ColumnPlace::Left(4'680, 1'140, Stretch::kShift);
+constexpr auto kPaid = ColumnPlace::Amount(5'940, 1'240);
+constexpr auto kCode = ColumnPlace::Left(7'230, 400, Stretch::kShift);
+constexpr auto kInvoiceRate = ColumnPlace::Amount(7'420, 960);
+constexpr auto kPaymentRate = ColumnPlace::Amount(8'460, 1'060);
+constexpr auto kGain = ColumnPlace::Amount(9'560, 1'240);
 
 std::vector<ControlLayout> Captions() {
-    const auto caption = [](std::string_view name, Twips left, Twips width, std::int16_t text,
-                            Align align, Stretch stretch) {
-        return ControlLayout{.name = name,
-                             .kind = ControlKind::kLabel,
-                             .box = {left, 990, width, 270},
-                             .style = kCaption,
-                             .align = align,
-                             .caption = text,
-                             .stretch = stretch};
-    };
-    const auto left = [&](std::string_view name, Twips at, Twips width, std::int16_t text) {
-        return caption(name, at, width, text, Align::kLeft, Stretch::kShift);
-    };
-    const auto right = [&](std::string_view name, Twips at, Twips width, std::int16_t text) {
-        return caption(name, at, width, text, Align::kRight, Stretch::kShift);
-    };
-    return {caption("lblPmtDateCap", 0, kDateWidth, 1912, Align::kLeft, Stretch::kNone),
-            caption("lblNameCap", kNameLeft, kNameWidth, 30048, Align::kLeft, Stretch::kWiden),
-            left("lblInvoiIdCap", kInvoiceLeft, kInvoiceWidth, 30035),
-            left("lblChqNoCap", kChequeLeft, kChequeWidth, 30036),
-            right("lblPaidCap", kPaidLeft, kAmountWidth, 30037),
-            right("lblExchangeRateCap", kInvoiceRateLeft, kInvoiceRateWidth, 30049),
-            right("lblPmtRateCap", kPaymentRateLeft, kPaymentRateWidth, 30050),
-            right("lblGainCap", kGainLeft, kAmountWidth, 30033),
-            {.name = kCaptionRule,
-             .kind = ControlKind::kLine,
-             .box = {0, 1'250, 10'800, kThin},
-             .style = kHairline,
-             .stretch = Stretch::kWiden}};
-}
-
-ControlLayout Figure(std::string_view name, Twips left, Twips width, Twips top, TextStyle style,
-                     std::string_view column = {}) {
-    return {.name = name,
-            .box = {left, top, width, kLine},
-            .style = style,
-            .align = Align::kRight,
-            .column = column,
-            .stretch = Stretch::kShift};
-}
-
-ControlLayout BoundText(std::string_view name, const Box& box, TextStyle style,
-                        std::string_view field, std::string_view column, Stretch stretch) {
-    return {.name = name,
-            .box = box,
-            .style = style,
-            .data_field = field,
-            .column = column,
-            .can_grow = true,
-            .stretch = stretch};
+    return {ColumnCaption("lblPmtDateCap", kDate, 1912),
+            ColumnCaption("lblNameCap", kName, 30048),
+            ColumnCaption("lblInvoiIdCap", kInvoice, 30035),
+            ColumnCaption("lblChqNoCap", kCheque, 30036),
+            ColumnCaption("lblPaidCap", kPaid, 30037),
+            ColumnCaption("lblExchangeRateCap", kInvoiceRate, 30049),
+            ColumnCaption("lblPmtRateCap", kPaymentRate, 30050),
+            ColumnCaption("lblGainCap", kGain, 30033),
+            CaptionRule()};
 }
 
 SectionLayout CurrencyHeader() {
+    auto currency = ColumnText("txtCurrency", kWholeWidth, 100, kHeading);
+    currency.box.height = 240;
     return {.name = "ghCurrency",
             .kind = SectionKind::kGroupHeader,
             .height = 340,
             .group_field = "ExCurrencyId",
             .repeat = true,
-            .controls = {{.name = "txtCurrency",
-                          .box = {0, 100, 10'800, 240},
-                          .style = kHeading,
-                          .stretch = Stretch::kWiden}}};
+            .controls = {currency}};
 }
 
 SectionLayout TypeHeader() {
@@ -100,76 +49,48 @@ SectionLayout TypeHeader() {
             .height = kGroupHeight,
             .group_field = "CurrPmtType",
             .repeat = true,
-            .controls = {{.name = "txtAccount",
-                          .box = {0, 70, 10'800, kLine},
-                          .style = kBodyBold,
-                          .column = "account",
-                          .can_grow = true,
-                          .stretch = Stretch::kWiden}}};
+            .controls = {Growing(ColumnText("txtAccount", kWholeWidth, 70, kBodyBold, "account"))}};
 }
 
 // In the order of the columns of data exports.
 SectionLayout Payments() {
+    const auto bound = [](std::string_view name, const ColumnPlace& place, const TextStyle& style,
+                          std::string_view field, std::string_view column) {
+        return Growing(Bound(ColumnText(name, place, 0, style, column), field));
+    };
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {{.name = "txtPmtDate",
-                          .box = {0, 0, kDateWidth, kLine},
-                          .style = kBody,
-                          .column = "date"},
-                         BoundText("txtName", {kNameLeft, 0, kNameWidth, kLine}, kBody, "Name",
-                                   "name", Stretch::kWiden),
-                         BoundText("txtInvoiId", {kInvoiceLeft, 0, kInvoiceWidth, kLine}, kBody,
-                                   "InvoiId", "invoice", Stretch::kShift),
-                         BoundText("txtChqNo", {kChequeLeft, 0, kChequeWidth, kLine}, kBody,
-                                   "ChqNo", "cheque", Stretch::kShift),
-                         Figure("txtExchangeRate", kInvoiceRateLeft, kInvoiceRateWidth, 0, kQuiet,
-                                "invoice_rate"),
-                         Figure("txtPmtRate", kPaymentRateLeft, kPaymentRateWidth, 0, kQuiet,
-                                "payment_rate"),
-                         Figure("txtPaid", kPaidLeft, kAmountWidth, 0, kBody, "paid"),
-                         BoundText("txtCurrencyCode", {kCodeLeft, 0, kCodeWidth, kLine}, kQuiet,
-                                   "CurrencyCode", "currency", Stretch::kShift),
-                         Figure("txtGain", kGainLeft, kAmountWidth, 0, kBody, "gain")}};
+            .controls = {ColumnText("txtPmtDate", kDate, 0, kBody, "date"),
+                         bound("txtName", kName, kBody, "Name", "name"),
+                         bound("txtInvoiId", kInvoice, kBody, "InvoiId", "invoice"),
+                         bound("txtChqNo", kCheque, kBody, "ChqNo", "cheque"),
+                         ColumnText("txtExchangeRate", kInvoiceRate, 0, kQuiet, "invoice_rate"),
+                         ColumnText("txtPmtRate", kPaymentRate, 0, kQuiet, "payment_rate"),
+                         ColumnText("txtPaid", kPaid, 0, kBody, "paid"),
+                         bound("txtCurrencyCode", kCode, kQuiet, "CurrencyCode", "currency"),
+                         ColumnText("txtGain", kGain, 0, kBody, "gain")}};
 }
 
 SectionLayout TypeFooter() {
-    const auto rule = [](std::string_view name, Twips left) {
-        return ControlLayout{.name = name,
-                             .kind = ControlKind::kLine,
-                             .box = {left, 0, kAmountWidth, kThin},
-                             .style = kTotalLine,
-                             .stretch = Stretch::kShift};
-    };
+    constexpr auto kLabel = ColumnPlace::Left(kName.left, kName.width);
     return {.name = "gfCurrPmtType",
             .kind = SectionKind::kGroupFooter,
             .height = kGroupHeight,
-            .controls = {{.name = "lblSubtotal",
-                          .kind = ControlKind::kLabel,
-                          .box = {kNameLeft, 25, kNameWidth, kLine},
-                          .style = kQuiet,
-                          .caption = 2710},
-                         rule("linPaidTotal", kPaidLeft),
-                         rule("linGainTotal", kGainLeft),
-                         Figure("txtPaidTotal", kPaidLeft, kAmountWidth, 25, kBodyBold),
-                         Figure("txtGainTotal", kGainLeft, kAmountWidth, 25, kBodyBold)}};
+            .controls = {ColumnLabel("lblSubtotal", kLabel, 25, kQuiet, 2710),
+                         TotalRule("linPaidTotal", kPaid, 0), TotalRule("linGainTotal", kGain, 0),
+                         ColumnText("txtPaidTotal", kPaid, 25, kBodyBold),
+                         ColumnText("txtGainTotal", kGain, 25, kBodyBold)}};
 }
 
 SectionLayout GrandTotal() {
+    constexpr auto kLabel = ColumnPlace::Left(0, 1'800);
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
             .height = kReportFooterHeight,
-            .controls = {{.name = "linGrandTotal",
-                          .kind = ControlKind::kLine,
-                          .box = {0, 90, 10'800, kThick},
-                          .style = kTotalLine,
-                          .stretch = Stretch::kWiden},
-                         {.name = "lblGrandTotal",
-                          .kind = ControlKind::kLabel,
-                          .box = {0, 170, 1'800, kLine},
-                          .style = kHeading,
-                          .caption = 1641},
-                         Figure("txtGainGrandTotal", kGainLeft, kAmountWidth, 170, kHeading)}};
+            .controls = {TotalRule("linGrandTotal", kWholeWidth, 90, kThick),
+                         ColumnLabel("lblGrandTotal", kLabel, 170, kHeading, 1641),
+                         ColumnText("txtGainGrandTotal", kGain, 170, kHeading)}};
 }
 
 }  // namespace
@@ -180,7 +101,7 @@ const Layout& RealizedExchangeLayout() {
                                    {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
                                    {.name = "PageHeader",
                                     .kind = SectionKind::kPageHeader,
-                                    .height = 1'260,
+                                    .height = kPageHeaderHeight,
                                     .controls = PageHeaderControls(Captions())},
                                    CurrencyHeader(),
                                    TypeHeader(),
