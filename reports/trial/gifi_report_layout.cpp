@@ -37,7 +37,7 @@ SectionLayout CodeTotal() {
             .kind = SectionKind::kGroupFooter,
             .height = kGroupHeight,
             .controls = {TotalRule("linTotal", kAmount, 0),
-                         ColumnText("txtTotal", kAmount, 25, kBodyBold, "amount")}};
+                         ColumnText("txtTotal", kAmount, 25, kBodyBold)}};
 }
 
 SectionLayout Count() {

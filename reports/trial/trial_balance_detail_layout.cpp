@@ -40,7 +40,7 @@ std::vector<ControlLayout> Captions() {
 
 SectionLayout AccountHeader() {
     const auto number = ColumnText("txtGLAcctId", kAccount, 70, kBodyBold, "account");
-    const auto name = ColumnText("txtDescr", kAccountName, 70, kBodyBold, "description");
+    const auto name = ColumnText("txtDescr", kAccountName, 70, kBodyBold, "account_description");
     return {.name = "ghAccount",
             .kind = SectionKind::kGroupHeader,
             .height = kGroupHeight + kLineHeight,
@@ -48,8 +48,8 @@ SectionLayout AccountHeader() {
             .repeat = true,
             .controls = {Bound(number, "GLAcctId"), Bound(name, "Descr"),
                          ColumnLabel("lblBalanceForward_", kBeforeBalance, 70, kQuiet, 3011),
-                         ColumnText("txtBalanceForward", kBalance, 70, kBody, "balance"),
-                         ColumnText("lblBalanceForwardType", kType, 70, kQuiet, "type"),
+                         ColumnText("txtBalanceForward", kBalance, 70, kBody, "forward"),
+                         ColumnText("lblBalanceForwardType", kType, 70, kQuiet, "forward_type"),
                          ColumnLabel("lblGPUnrealized", kBeforeBalance, 290, kQuiet, 3805),
                          ColumnText("txtGPUnrealized", kBalance, 290, kBody, "unrealized"),
                          ColumnText("lblGPUnrealizedType", kType, 290, kQuiet, "unrealized_type")}};
@@ -79,10 +79,10 @@ SectionLayout AccountFooter() {
         .controls = {TotalRule("linDebitTotal", kDebit, 0), TotalRule("linCreditTotal", kCredit, 0),
                      TotalRule("linBalanceTotal", kBalance, 0),
                      ColumnLabel("lblSubTotal", kBeforeDebit, 25, kBodyBold, 2710),
-                     ColumnText("txtDebitTotal", kDebit, 25, kBodyBold, "debit"),
-                     ColumnText("txtCreditTotal", kCredit, 25, kBodyBold, "credit"),
-                     ColumnText("txtBalanceTotal", kBalance, 25, kBodyBold, "balance"),
-                     ColumnText("lblBalanceTotalType", kType, 25, kQuiet, "type")}};
+                     ColumnText("txtDebitTotal", kDebit, 25, kBodyBold),
+                     ColumnText("txtCreditTotal", kCredit, 25, kBodyBold),
+                     ColumnText("txtBalanceTotal", kBalance, 25, kBodyBold),
+                     ColumnText("lblBalanceTotalType", kType, 25, kQuiet)}};
 }
 
 // The adjusting line reads like an account: header, line, subtotal. The grand totals follow.
@@ -97,29 +97,28 @@ SectionLayout Totals() {
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
             .height = kGrandTotalTop + 360,
-            .controls = {
-                ColumnText("txtDescrAdj", kAccountName, kHeaderTop, kBodyBold, "description"),
-                ColumnText("txtDetDescAdj", kDescription, kLineTop, kRemark, "description"),
-                ColumnText("txtDebitAdj", kDebit, kLineTop, kBody, "debit"),
-                ColumnText("txtCreditAdj", kCredit, kLineTop, kBody, "credit"),
-                ColumnText("txtBalanceAdj", kBalance, kLineTop, kBody, "balance"),
-                ColumnText("lblBalanceTypeAdj", kType, kLineTop, kQuiet, "type"),
-                TotalRule("linDebitTotalAdj", kDebit, kSubTotalTop - 25),
-                TotalRule("linCreditTotalAdj", kCredit, kSubTotalTop - 25),
-                TotalRule("linBalanceTotalAdj", kBalance, kSubTotalTop - 25),
-                ColumnLabel("lblSubTotalAdj", kBeforeDebit, kSubTotalTop, kBodyBold, 2710),
-                ColumnText("txtDebitTotalAdj", kDebit, kSubTotalTop, kBodyBold, "debit"),
-                ColumnText("txtCreditTotalAdj", kCredit, kSubTotalTop, kBodyBold, "credit"),
-                ColumnText("txtBalanceTotalAdj", kBalance, kSubTotalTop, kBodyBold, "balance"),
-                ColumnText("lblBalanceTotalTypeAdj", kType, kSubTotalTop, kQuiet, "type"),
-                rule("linDebitGrandTotal", kDebit),
-                rule("linCreditGrandTotal", kCredit),
-                rule("linBalanceGrandTotal", kBalance),
-                ColumnLabel("lblGrTotal", kBeforeDebit, kGrandTotalTop, kBodyBold, 1641),
-                ColumnText("txtDebitGrandTotal", kDebit, kGrandTotalTop, kBodyBold, "debit"),
-                ColumnText("txtCreditGrandTotal", kCredit, kGrandTotalTop, kBodyBold, "credit"),
-                ColumnText("txtBalanceGrandTotal", kBalance, kGrandTotalTop, kBodyBold, "balance"),
-                ColumnText("lblBalanceGrandTotalType", kType, kGrandTotalTop, kQuiet, "type")}};
+            .controls = {ColumnText("txtDescrAdj", kAccountName, kHeaderTop, kBodyBold),
+                         ColumnText("txtDetDescAdj", kDescription, kLineTop, kRemark),
+                         ColumnText("txtDebitAdj", kDebit, kLineTop, kBody),
+                         ColumnText("txtCreditAdj", kCredit, kLineTop, kBody),
+                         ColumnText("txtBalanceAdj", kBalance, kLineTop, kBody),
+                         ColumnText("lblBalanceTypeAdj", kType, kLineTop, kQuiet),
+                         TotalRule("linDebitTotalAdj", kDebit, kSubTotalTop - 25),
+                         TotalRule("linCreditTotalAdj", kCredit, kSubTotalTop - 25),
+                         TotalRule("linBalanceTotalAdj", kBalance, kSubTotalTop - 25),
+                         ColumnLabel("lblSubTotalAdj", kBeforeDebit, kSubTotalTop, kBodyBold, 2710),
+                         ColumnText("txtDebitTotalAdj", kDebit, kSubTotalTop, kBodyBold),
+                         ColumnText("txtCreditTotalAdj", kCredit, kSubTotalTop, kBodyBold),
+                         ColumnText("txtBalanceTotalAdj", kBalance, kSubTotalTop, kBodyBold),
+                         ColumnText("lblBalanceTotalTypeAdj", kType, kSubTotalTop, kQuiet),
+                         rule("linDebitGrandTotal", kDebit),
+                         rule("linCreditGrandTotal", kCredit),
+                         rule("linBalanceGrandTotal", kBalance),
+                         ColumnLabel("lblGrTotal", kBeforeDebit, kGrandTotalTop, kBodyBold, 1641),
+                         ColumnText("txtDebitGrandTotal", kDebit, kGrandTotalTop, kBodyBold),
+                         ColumnText("txtCreditGrandTotal", kCredit, kGrandTotalTop, kBodyBold),
+                         ColumnText("txtBalanceGrandTotal", kBalance, kGrandTotalTop, kBodyBold),
+                         ColumnText("lblBalanceGrandTotalType", kType, kGrandTotalTop, kQuiet)}};
 }
 
 }  // namespace

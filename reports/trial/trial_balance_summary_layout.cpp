@@ -47,15 +47,14 @@ SectionLayout Totals() {
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
             .height = kReportFooterHeight,
-            .controls = {
-                ColumnText("txtDescrAdj", kDescription, kAdjustmentTop, kRemark, "description"),
-                ColumnText("txtDebitAdj", kDebit, kAdjustmentTop, kBody, "debit"),
-                ColumnText("txtCreditAdj", kCredit, kAdjustmentTop, kBody, "credit"),
-                TotalRule("linDebitGrandTotal", kDebit, kTotalRuleTop, kThick),
-                TotalRule("linCreditGrandTotal", kCredit, kTotalRuleTop, kThick),
-                ColumnLabel("lblGrTotal", kDescription, kTotalTop, kBodyBold, 1641),
-                ColumnText("txtDebitGrandTotal", kDebit, kTotalTop, kBodyBold, "debit"),
-                ColumnText("txtCreditGrandTotal", kCredit, kTotalTop, kBodyBold, "credit")}};
+            .controls = {ColumnText("txtDescrAdj", kDescription, kAdjustmentTop, kRemark),
+                         ColumnText("txtDebitAdj", kDebit, kAdjustmentTop, kBody),
+                         ColumnText("txtCreditAdj", kCredit, kAdjustmentTop, kBody),
+                         TotalRule("linDebitGrandTotal", kDebit, kTotalRuleTop, kThick),
+                         TotalRule("linCreditGrandTotal", kCredit, kTotalRuleTop, kThick),
+                         ColumnLabel("lblGrTotal", kDescription, kTotalTop, kBodyBold, 1641),
+                         ColumnText("txtDebitGrandTotal", kDebit, kTotalTop, kBodyBold),
+                         ColumnText("txtCreditGrandTotal", kCredit, kTotalTop, kBodyBold)}};
 }
 
 }  // namespace
