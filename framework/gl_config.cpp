@@ -58,10 +58,6 @@ constexpr Member<frmGLConfig> kMembers[] = {
     {"Properties", nullptr, nullptr, CallProperties},
     {"ShowProperty", nullptr, nullptr, CallShowProperty},
     {"PrepareInvConfigDialog", nullptr, nullptr, CallPrepare},
-    {"TranslateForm", nullptr, nullptr,
-     [](frmGLConfig& form, std::span<const Variant>) { return form.TranslateForm(), Variant(); }},
-    {"cmdOk_Click", nullptr, nullptr,
-     [](frmGLConfig& form, std::span<const Variant>) { return form.cmdOk_Click(), Variant(); }},
 };
 
 }  // namespace
@@ -75,7 +71,6 @@ void frmGLConfig::Form_Load() {
     Guard("Form_Load", [&] {
         full_height_ = InnerHeight();
         chkShowCommentsGLAccount.visible = false;
-        comments_visible_ = false;
         Resize();
     });
 }
@@ -106,15 +101,15 @@ void frmGLConfig::Properties(std::int16_t index, bool value) {
 void frmGLConfig::ShowProperty(std::int16_t index, bool visible) {
     Guard("ShowProperty", [&] {
         if (auto* box = BoxOf(index)) box->visible = visible;
-        if (index == kShowComments) comments_visible_ = visible;
         Resize();
     });
 }
 
 void frmGLConfig::Resize() {
     Guard("Resize", [&] {
-        const Twips saved = chkShowCommentsGLAccount.box.height + kBoxGap;
-        SetInnerHeight(comments_visible_ ? full_height_ : full_height_ - saved);
+        const auto& comments = chkShowCommentsGLAccount;
+        const Twips saved = comments.visible ? 0 : comments.box.height + kBoxGap;
+        SetInnerHeight(full_height_ - saved);
         cmdOk.box.top = InnerHeight() - kBottomMargin - cmdOk.box.height;
     });
 }

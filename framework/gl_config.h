@@ -38,7 +38,6 @@ class frmGLConfig final : public OptionsForm {
     CheckBox& chkIncludeZeroBalanceAccount = BoxAt(0);
     CheckBox& chkShowCommentsGLAccount = BoxAt(1);
     Twips full_height_ = 0;
-    bool comments_visible_ = false;
 };
 
 /// Asks the user whether to include accounts with a zero balance and returns the answer; `current`

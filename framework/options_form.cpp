@@ -4,11 +4,23 @@
 
 namespace varnel::framework {
 
+namespace {
+
+constexpr Member<OptionsForm> kMembers[] = {
+    {"TranslateForm", nullptr, nullptr,
+     [](OptionsForm& form, std::span<const Variant>) { return form.TranslateForm(), Variant(); }},
+    {"cmdOk_Click", nullptr, nullptr,
+     [](OptionsForm& form, std::span<const Variant>) { return form.cmdOk_Click(), Variant(); }},
+};
+
+}  // namespace
+
 OptionsForm::OptionsForm(const OptionsFormDesign& design)
     : cmdOk{design.ok.name, std::string(design.ok.caption), design.ok.box},
       design_(design),
       caption_(design.caption),
       inner_height_(design.inner_height) {
+    members_.Add<OptionsForm>(*this, kMembers);
     for (const auto& option : design.check_boxes)
         check_boxes_.push_back(
             {.name = option.name, .caption = std::string(option.caption), .box = option.box});

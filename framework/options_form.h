@@ -33,8 +33,8 @@ struct OptionsFormDesign {
 };
 
 /// What the options dialogs of reports share: check boxes and an OK button on a form whose captions
-/// the host translates. Late-bound it answers to the members that the dialog adds. Procedures run
-/// in form A under the dialog's name.
+/// the host translates. Late-bound it has `TranslateForm`, `cmdOk_Click` and the members that the
+/// dialog adds. Procedures run in form A under the dialog's name.
 ///
 /// It is shown from the start, for one modal display: make a new one for the next.
 class OptionsForm : public Object, public Form {

@@ -35,14 +35,6 @@ constexpr Member<FBankConcilConfig> kMembers[] = {
              ObjectAs<Application>(ArgumentOf("PrepareConfigDialog", arguments, 0)));
          return Variant();
      }},
-    {"TranslateForm", nullptr, nullptr,
-     [](FBankConcilConfig& form, std::span<const Variant>) {
-         return form.TranslateForm(), Variant();
-     }},
-    {"cmdOk_Click", nullptr, nullptr,
-     [](FBankConcilConfig& form, std::span<const Variant>) {
-         return form.cmdOk_Click(), Variant();
-     }},
 };
 
 }  // namespace
