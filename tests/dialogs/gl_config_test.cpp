@@ -45,6 +45,17 @@ TEST(GLConfig, LateBoundOnlyTrueChecksABox) {
     EXPECT_EQ(test::ErrorOf([&] { form.Get("Colour"); }), error_number::kUnknownMember);
 }
 
+TEST(GLConfig, LateBoundItIsTranslatedAndConfirmedLikeAnyOptionsForm) {
+    frmGLConfig form;
+    auto host = std::make_shared<MemoryHost>();
+    form.PrepareInvConfigDialog(host, 1);
+    test::TranslateInto(company::Language::kEnglish, *host, {1449, 5885, 9581, 1323});
+    form.Call("TranslateForm", {});
+    EXPECT_EQ(form.Caption(), "Advanced filter");
+    form.Call("cmdOk_Click", {});
+    EXPECT_FALSE(form.Shown());
+}
+
 TEST(GLConfig, WithoutOption2TheFormIsShorterByItsBoxAnd120AndOkMovesUp) {
     frmGLConfig form;
     EXPECT_FALSE(Comments(form).visible);
