@@ -68,4 +68,12 @@ ControlLayout Hidden(ControlLayout control) {
     return control;
 }
 
+ControlLayout ExportedText(std::string_view name, std::string_view column, std::string_view field) {
+    return {.name = name,
+            .kind = ControlKind::kBlock,
+            .box = {},
+            .data_field = field,
+            .column = column};
+}
+
 }  // namespace varnel::framework

@@ -54,4 +54,8 @@ ControlLayout Growing(ControlLayout text);
 ControlLayout Bound(ControlLayout text, std::string_view field);
 ControlLayout Hidden(ControlLayout control);
 
+/// A text that is for data exports alone: it takes no place and is not printed.
+ControlLayout ExportedText(std::string_view name, std::string_view column,
+                           std::string_view field = {});
+
 }  // namespace varnel::framework

@@ -36,7 +36,8 @@ enum class ControlKind : std::uint8_t {
     kLabel,
     kText,
     kLine,        // A rule: filled with the style's ink; its box says how thick.
-    kBlock,       // Takes its place and prints nothing: what other controls are positioned by.
+    kBlock,       // Prints nothing: what other controls are positioned by, or a text that only
+                  // data exports have.
     kSubReport,   // Holds a report that runs inside the section; its height is added.
     kPageNumber,  // A label whose "{0}" and "{1}" become page n of m; data exports leave it out.
 };

@@ -19,7 +19,8 @@ bool HasValue(const Control& control) {
 
 bool IsWritten(const Control& control) {
     const ControlKind kind = control.Design().kind;
-    const bool has_text = kind == ControlKind::kText || kind == ControlKind::kLabel;
+    const bool has_text =
+        kind == ControlKind::kText || kind == ControlKind::kLabel || kind == ControlKind::kBlock;
     return has_text && control.Visible() &&
            (!control.Text().empty() || HasValue(control) || !control.Tag().empty());
 }

@@ -1,6 +1,6 @@
 #include "reports/trial/account_amounts.h"
 
-#include "framework/revalued_report.h"
+#include "host/error.h"
 
 namespace varnel::reports {
 
@@ -17,6 +17,23 @@ AccountAmounts::AccountAmounts(Company& company, IExchangeRates& rates,
       period_(period),
       home_currency_id_(company.GetCurrencyInfo().CieHomeCurrencyId()) {}
 
+void AccountAmounts::Resolve(const Columns& columns) {
+    id_ = columns.At("InGLAcctId");
+    type_ = columns.At("AcctType");
+    currency_id_ = columns.At("ExCurrencyId");
+}
+
+// An account that cannot be read may be a foreign one.
+TrialAccount AccountAmounts::Read(const Row& row) try {
+    const std::int32_t currency_id = row.Integer(currency_id_);
+    return {.id = row.Integer(id_),
+            .type = row.Integer(type_),
+            .currency_id = currency_id == 0 ? home_currency_id_ : currency_id};
+} catch (...) {
+    if (rates_.IExchangeRates_Reevaluate()) difference_.Lose();
+    throw;
+}
+
 BalanceScope AccountAmounts::ScopeFrom(Date from) const {
     return {from, period_.to, period_.segment_clause, period_.project_ids};
 }
@@ -31,35 +48,50 @@ Currency AccountAmounts::ForeignBalance(const TrialAccount& account) {
     return company_.Balances().AccountBalance(account.id, ScopeOf(account), true);
 }
 
-Currency AccountAmounts::Revalued(const TrialAccount& account) {
+framework::LedgerBalance AccountAmounts::ForeignAndHome(const TrialAccount& account) try {
     const BalanceScope scope = ScopeOf(account);
     auto& balances = company_.Balances();
-    const auto worth =
-        framework::EvaluateAtKeyedRate(company_.GetCurrencyInfo(), rates_,
-                                       {.currency_id = account.currency_id,
-                                        .booked_rate = {},
-                                        .foreign = balances.AccountBalance(account.id, scope, true),
-                                        .home = balances.AccountBalance(account.id, scope, false)});
-    difference_ += worth.gain;
+    return {.currency_id = account.currency_id,
+            .booked_rate = {},
+            .foreign = balances.AccountBalance(account.id, scope, true),
+            .home = balances.AccountBalance(account.id, scope, false)};
+} catch (...) {
+    difference_.Lose();
+    throw;
+}
+
+Currency AccountAmounts::Revalue(const framework::LedgerBalance& balance) try {
+    const auto worth = framework::EvaluateAtKeyedRate(company_.GetCurrencyInfo(), rates_, balance);
+    difference_.Add(worth.gain);
     return worth.revalued;
+} catch (...) {
+    difference_.Lose();
+    throw;
+}
+
+Currency AccountAmounts::Unrealized() const {
+    if (difference_.Known()) return -difference_.Value();
+    throw Error(
+        error_number::kOther, "Varnel",
+        "The unrealized gain or loss cannot be worked out, because a foreign balance before "
+        "it could not be revalued");
 }
 
 Currency AccountAmounts::BalanceOf(const TrialAccount& account) {
-    auto& balances = company_.Balances();
     if (IsRetainedEarnings(account)) {
+        auto& balances = company_.Balances();
         const BalanceScope scope = ScopeFrom(kOpenStart);
         return balances.AccountBalance(account.id, scope, false) +
                balances.EarningsBefore(period_.year_start, scope);
     }
-    if (rates_.IExchangeRates_Reevaluate() && account.currency_id != home_currency_id_)
-        return Revalued(account);
-    return balances.AccountBalance(account.id, ScopeOf(account), false);
+    if (Revalues(account.currency_id)) return Revalue(ForeignAndHome(account));
+    return company_.Balances().AccountBalance(account.id, ScopeOf(account), false);
 }
 
 Currency AccountAmounts::Amount(const TrialAccount& account) {
     const bool carries_difference =
         !IsRetainedEarnings(account) && IsUnrealized(account) && rates_.IExchangeRates_Reevaluate();
-    return carries_difference ? -difference_ : BalanceOf(account);
+    return carries_difference ? Unrealized() : BalanceOf(account);
 }
 
 std::string AccountAmounts::Key(const TrialAccount& account) const {

@@ -3,8 +3,11 @@
 #include <cstdint>
 #include <string>
 
+#include "framework/revalued_report.h"
 #include "host/company.h"
 #include "host/exchange_rates.h"
+#include "host/row.h"
+#include "reports/trial/known_sum.h"
 
 namespace varnel::reports {
 
@@ -42,10 +45,15 @@ class AccountAmounts {
         std::string project_ids;
     };
 
-    /// Company and rates must outlive it.
+    /// Company and rates must outlive it. Before Read comes Resolve.
     AccountAmounts(Company& company, IExchangeRates& rates, const SpecialAccounts& special,
                    const Period& period);
 
+    /// The columns InGLAcctId, AcctType and ExCurrencyId of the account.
+    void Resolve(const Columns& columns);
+    TrialAccount Read(const Row& row);
+
+    std::int32_t HomeCurrencyId() const { return home_currency_id_; }
     bool IsRetainedEarnings(const TrialAccount& account) const {
         return account.id == special_.retained_earnings;
     }
@@ -61,9 +69,20 @@ class AccountAmounts {
     /// The sum of the foreign amounts of its lines.
     Currency ForeignBalance(const TrialAccount& account);
 
-    /// Revalued minus booked, over all accounts asked for so far and what was added.
-    Currency Difference() const { return difference_; }
-    void AddDifference(Currency difference) { difference_ += difference; }
+    bool Revalues(std::int32_t currency_id) const {
+        return rates_.IExchangeRates_Reevaluate() && currency_id != home_currency_id_;
+    }
+    /// What a foreign balance is worth at the rate of the day; the difference from what was booked
+    /// goes into Difference.
+    Currency Revalue(const framework::LedgerBalance& balance);
+    /// Revalued minus booked, over all that was asked for so far. Not known after a balance that
+    /// could not be revalued.
+    const KnownSum& Difference() const { return difference_; }
+    /// For a foreign balance that could not be read.
+    void LoseDifference() { difference_.Lose(); }
+    /// What revaluation brings on the unrealized account: minus the difference. An error when that
+    /// is not known.
+    Currency Unrealized() const;
 
     /// The drill-down key of an account's line: its id, "GLUnrealized|" and the id, or nothing for
     /// earnings.
@@ -73,14 +92,15 @@ class AccountAmounts {
     BalanceScope ScopeFrom(Date from) const;
     /// From the year start or from the beginning, by the account's type.
     BalanceScope ScopeOf(const TrialAccount& account);
-    Currency Revalued(const TrialAccount& account);
+    framework::LedgerBalance ForeignAndHome(const TrialAccount& account);
 
     Company& company_;
     IExchangeRates& rates_;
     SpecialAccounts special_;
     Period period_;
     std::int32_t home_currency_id_;
-    Currency difference_;
+    Column id_, type_, currency_id_;
+    KnownSum difference_;
 };
 
 }  // namespace varnel::reports

@@ -4,6 +4,11 @@
 
 namespace varnel::reports {
 
+void PutSum(Formats& formats, Control& control, const KnownSum& sum, std::string& scratch) {
+    control.Clear();
+    if (sum.Known()) framework::PutAmount(formats, control, sum.Value(), scratch);
+}
+
 void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency amount,
                   std::string& scratch) {
     debit.Clear();
@@ -12,11 +17,10 @@ void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency am
     framework::PutAmount(formats, amount > Currency() ? debit : credit, amount.Abs(), scratch);
 }
 
-void Adjust(Formats& formats, Control& debit, Control& credit, DebitCredit& totals,
-            std::string& scratch) {
-    const Currency missing = -totals.Difference();
+Currency Adjust(DebitCredit& totals) {
+    const Currency missing = totals.credit.Value() - totals.debit.Value();
     totals.Add(missing);
-    PutOnItsSide(formats, debit, credit, missing, scratch);
+    return missing;
 }
 
 }  // namespace varnel::reports

@@ -4,32 +4,43 @@
 
 #include "host/application.h"
 #include "host/surface.h"
+#include "reports/trial/known_sum.h"
 
 namespace varnel::reports {
 
 /// Totals of a debit and a credit column; both are sums of positive amounts.
 struct DebitCredit {
-    Currency debit;
-    Currency credit;
+    KnownSum debit;
+    KnownSum credit;
 
     /// A debit-positive amount, on its side.
     void Add(Currency amount) {
         if (amount > Currency())
-            debit += amount;
+            debit.Add(amount);
         else
-            credit -= amount;
+            credit.Add(-amount);
     }
-    Currency Difference() const { return debit - credit; }
+    /// For an amount that could not be worked out: it would be in one of them.
+    void Lose() {
+        debit.Lose();
+        credit.Lose();
+    }
+    bool Known() const { return debit.Known() && credit.Known(); }
+    bool IsZero() const { return debit.IsZero() && credit.IsZero(); }
+    /// Whether the two are known not to agree.
+    bool Differ() const { return Known() && debit.Value() != credit.Value(); }
 };
+
+/// Empty when it is not known.
+void PutSum(Formats& formats, Control& control, const KnownSum& sum, std::string& scratch);
 
 /// A debit-positive amount in its column, the other one empty; zero leaves both empty. `scratch`
 /// saves allocations from row to row.
 void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency amount,
                   std::string& scratch);
 
-/// What makes debits equal credits, on its side, and into the totals: under a segment filter the
-/// two need not agree.
-void Adjust(Formats& formats, Control& debit, Control& credit, DebitCredit& totals,
-            std::string& scratch);
+/// Adds to the totals what makes debits equal credits, which need not agree under a segment filter,
+/// and returns it, debit positive. Only of known totals.
+Currency Adjust(DebitCredit& totals);
 
 }  // namespace varnel::reports

@@ -10,6 +10,7 @@
 #include "framework/query_runner.h"
 #include "framework/standard_header.h"
 #include "framework/texts.h"
+#include "reports/trial/debit_credit.h"
 #include "reports/trial/gifi_report_layout.h"
 
 namespace varnel::reports {
@@ -43,17 +44,12 @@ dsrGIFIReport::dsrGIFIReport()
     Handle("ReportFooter_Format", &dsrGIFIReport::ReportFooter_Format);
 }
 
-void dsrGIFIReport::ChartColumns::Resolve(const Columns& columns) {
-    id = columns.At("InGLAcctId");
-    number = columns.At("GLAcctId");
-    description = columns.At("Descr");
-    type = columns.At("AcctType");
-    currency_id = columns.At("ExCurrencyId");
-}
-
 void dsrGIFIReport::IReport_Initialize() {
     ReportBase::IReport_Initialize();
-    Guard("IReport_Initialize", [&] { Mark(), special_ = ReadEarningsAccounts(CurrentCompany()); });
+    Guard("IReport_Initialize", [&] {
+        special_.reset();
+        Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
+    });
 }
 
 void dsrGIFIReport::ActiveReport_Initialize() {
@@ -69,12 +65,13 @@ void dsrGIFIReport::ActiveReport_ReportStart() {
         amounts_.reset();
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         const std::string statement = BuildStatement();
-        Mark(), special_.unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
+        if (!special_) Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
+        Mark(), special_->unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
         const auto period = BalancePeriod();
         Mark(),
-            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, special_, period);
+            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, *special_, period);
         auto rows = (Mark(), RunQuery(App(), statement, {}));
-        Mark(), columns_.Resolve(rows->GetColumns());
+        Mark(), ResolveColumns(rows->GetColumns());
         Data().Attach(std::move(rows));
         Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
         const auto custom = Criteria();
@@ -99,24 +96,24 @@ AccountAmounts::Period dsrGIFIReport::BalancePeriod() {
             .project_ids = {}};
 }
 
-TrialAccount dsrGIFIReport::CurrentAccount() const {
-    const Row& row = CurrentRow();
-    const auto currency = (Mark(), row.Integer(columns_.currency_id));
-    return {.id = (Mark(), row.Integer(columns_.id)),
-            .type = (Mark(), row.Integer(columns_.type)),
-            .currency_id = currency == 0 ? HomeCurrencyId() : currency};
+void dsrGIFIReport::ResolveColumns(const Columns& columns) {
+    amounts_->Resolve(columns);
+    number_ = columns.At("GLAcctId");
+    description_ = columns.At("Descr");
 }
 
-void dsrGIFIReport::ShowAccount(const TrialAccount& account) {
+void dsrGIFIReport::ShowDescription() {
     const Row& row = CurrentRow();
     text_.clear();
     if (use_account_numbers_) {
-        Mark(), row.AppendText(columns_.number, text_);
+        Mark(), row.AppendText(number_, text_);
         text_ += " - ";
     }
-    Mark(), text_ += row.Text(columns_.description);
+    Mark(), row.AppendText(description_, text_);
     txtDescr.SetText(text_);
-    const std::string key = amounts_->Key(account);
+}
+
+void dsrGIFIReport::ShowKey(const std::string& key) {
     txtDescr.SetTag(key);
     txtAmount.SetTag(key);
 }
@@ -136,18 +133,23 @@ void dsrGIFIReport::ghGIFI_Format() {
 void dsrGIFIReport::Detail_Format() {
     if (EndOfData()) return;
     txtAmount.Clear();
-    const TrialAccount account = CurrentAccount();
-    ShowAccount(account);
-    const Currency amount = (Mark(), amounts_->Amount(account));
+    ShowDescription();
+    ShowKey({});
+    Currency amount;
+    try {
+        const TrialAccount account = (Mark(), amounts_->Read(CurrentRow()));
+        ShowKey(amounts_->Key(account));
+        Mark(), amount = amounts_->Amount(account);
+        total_.Add(amount);
+    } catch (...) {
+        total_.Lose();
+        throw;
+    }
     if (amount.IsZero()) return Detail.Skip();
-    total_ += amount;
     Mark(), PutAmount(App().GetFormats(), txtAmount, amount, text_);
 }
 
-void dsrGIFIReport::gfGIFI_Format() {
-    txtTotal.Clear();
-    Mark(), PutAmount(App().GetFormats(), txtTotal, total_, text_);
-}
+void dsrGIFIReport::gfGIFI_Format() { Mark(), PutSum(App().GetFormats(), txtTotal, total_, text_); }
 
 void dsrGIFIReport::ReportFooter_Format() {
     Mark(), txtCount.SetValue(count_, std::to_string(count_) + " " + PlainText(App(), kCodes));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "framework/custom_criteria.h"
@@ -25,15 +26,11 @@ class dsrGIFIReport final : public framework::ReportBase,
     void ActiveReport_ReportStart() override;
 
   private:
-    struct ChartColumns {
-        Column id, number, description, type, currency_id;
-        void Resolve(const Columns& columns);
-    };
-
     std::string BuildStatement();
     AccountAmounts::Period BalancePeriod();
-    TrialAccount CurrentAccount() const;
-    void ShowAccount(const TrialAccount& account);
+    void ResolveColumns(const Columns& columns);
+    void ShowDescription();
+    void ShowKey(const std::string& key);
 
     void PageHeader_Format();
     void ghGIFI_Format();
@@ -41,10 +38,10 @@ class dsrGIFIReport final : public framework::ReportBase,
     void gfGIFI_Format();
     void ReportFooter_Format();
 
-    ChartColumns columns_;
+    Column number_, description_;
     std::unique_ptr<AccountAmounts> amounts_;
-    SpecialAccounts special_;
-    Currency total_;
+    std::optional<SpecialAccounts> special_;
+    KnownSum total_;
     std::int32_t count_ = 0;
     bool use_account_numbers_ = false;
     std::string text_;  // Scratch for texts built row by row.

@@ -28,7 +28,9 @@ SectionLayout Accounts() {
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {Growing(ColumnText("txtDescr", kDescription, 0, kBody, "account")),
+            .controls = {Growing(ColumnText("txtDescr", kDescription, 0, kBody)),
+                         ExportedText("txtAcctNumber", "account", "GLAcctId"),
+                         ExportedText("txtAcctDescr", "description", "Descr"),
                          ColumnText("txtAmount", kAmount, 0, kBody, "amount")}};
 }
 

@@ -90,21 +90,21 @@ dsrTrialBalanceDetail::dsrTrialBalanceDetail()
 }
 
 void dsrTrialBalanceDetail::LineColumns::Resolve(const Columns& columns) {
-    account_id = columns.At("InGlAcctId");
-    account_type = columns.At("AcctType");
-    account_currency = columns.At("ExCurrencyId");
-    line_id = columns.At("InGLDetId");
+    id = columns.At("InGLDetId");
     date = columns.At("DetDate");
     amount = columns.At("DetAmnt");
     foreign = columns.At("ForeignAmnt");
-    line_currency = columns.At("GLDetExCurrencyId");
+    currency_id = columns.At("GLDetExCurrencyId");
     source = columns.At("Source");
     source_key = columns.At("ExSrcKeyVal");
 }
 
 void dsrTrialBalanceDetail::IReport_Initialize() {
     ReportBase::IReport_Initialize();
-    Guard("IReport_Initialize", [&] { Mark(), special_ = ReadEarningsAccounts(CurrentCompany()); });
+    Guard("IReport_Initialize", [&] {
+        special_.reset();
+        Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
+    });
 }
 
 void dsrTrialBalanceDetail::IReportConfig_ShowConfigurationScreen() {
@@ -113,26 +113,30 @@ void dsrTrialBalanceDetail::IReportConfig_ShowConfigurationScreen() {
     });
 }
 
+// A report that could not start knows no total.
 void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
-        current_ = {};
-        totals_ = {};
-        balance_total_ = {};
+        totals_.Lose();
+        balance_total_.Lose();
         amounts_.reset();
         foreign_used_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
         PlaceColumns();
         const std::string statement = BuildStatement();
-        Mark(), special_.unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
+        if (!special_) Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
+        Mark(), special_->unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
         const auto period = ForwardPeriod();
         Mark(),
-            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, special_, period);
+            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, *special_, period);
         std::vector<Variant> parameters = {DateFrom(), DateTo()};
         if (selection_.single_account != 0) parameters.emplace_back(selection_.single_account);
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
         Mark(), columns_.Resolve(rows->GetColumns());
+        Mark(), amounts_->Resolve(rows->GetColumns());
         Data().Attach(std::move(rows));
+        totals_ = {};
+        balance_total_ = {};
         Mark(), At(kPeriodLabel).SetText(TrialPeriodCaption(App(), DateFrom(), DateTo()));
         const CustomCriteria accounts{Criteria().criteria, {}};
         Mark(),
@@ -187,35 +191,42 @@ void dsrTrialBalanceDetail::PlaceColumns() {
         control->SetWidth(right - control->Place().left);
 }
 
-TrialAccount dsrTrialBalanceDetail::CurrentAccount() const {
-    const Row& row = CurrentRow();
-    const auto id = (Mark(), row.Integer(columns_.account_id));
-    const auto type = (Mark(), row.Integer(columns_.account_type));
-    const auto currency = (Mark(), row.Integer(columns_.account_currency));
-    return {.id = id, .type = type, .currency_id = currency == 0 ? HomeCurrencyId() : currency};
-}
-
 Currency dsrTrialBalanceDetail::GetAccountBalanceForSpecialAccounts(const TrialAccount& account) {
     return amounts_->BalanceOf(account);
 }
 
-void dsrTrialBalanceDetail::ShowBalance(const BalanceControls& controls, Currency balance) {
-    controls.type.SetText(balance < Currency() ? kCreditType : kDebitType);
-    PutAmount(App().GetFormats(), controls.amount, balance.Abs(), text_);
+void dsrTrialBalanceDetail::ShowBalance(const BalanceControls& controls, const KnownSum& balance) {
+    controls.amount.Clear();
+    controls.type.Clear();
+    if (!balance.Known()) return;
+    controls.type.SetText(balance.Value() < Currency() ? kCreditType : kDebitType);
+    PutAmount(App().GetFormats(), controls.amount, balance.Value().Abs(), text_);
 }
 
-void dsrTrialBalanceDetail::BringForward(Currency balance) {
-    current_.balance = balance;
-    balance_total_ += balance;
+void dsrTrialBalanceDetail::AddToBalance(Currency amount) {
+    current_.balance.Add(amount);
+    balance_total_.Add(amount);
 }
 
-// On the unrealized account: what revaluation has changed so far, taken from its balance.
-Currency dsrTrialBalanceDetail::TakeUnrealized() {
-    if (!amounts_->IsUnrealized(current_.account)) return {};
-    const Currency unrealized = -amounts_->Difference();
-    current_.balance += unrealized;
-    balance_total_ += unrealized;
-    return unrealized;
+void dsrTrialBalanceDetail::LoseBalance() {
+    current_.balance.Lose();
+    balance_total_.Lose();
+}
+
+// The unrealized account takes besides what revaluation has changed so far.
+dsrTrialBalanceDetail::Forward dsrTrialBalanceDetail::BringForward() try {
+    Forward forward;
+    Mark(), current_.account = amounts_->Read(CurrentRow());
+    current_.key = amounts_->Key(current_.account);
+    Mark(), forward.balance = GetAccountBalanceForSpecialAccounts(current_.account);
+    if (amounts_->IsUnrealized(current_.account))
+        Mark(), forward.unrealized = amounts_->Unrealized();
+    AddToBalance(forward.balance);
+    AddToBalance(forward.unrealized);
+    return forward;
+} catch (...) {
+    LoseBalance();
+    throw;
 }
 
 void dsrTrialBalanceDetail::ShowUnrealized(Currency unrealized) {
@@ -225,7 +236,12 @@ void dsrTrialBalanceDetail::ShowUnrealized(Currency unrealized) {
         control->SetTag(shown ? current_.key : std::string());
     }
     ghAccount.SetHeight(shown ? ghAccount.Design().height : kGroupHeight);
-    if (shown) ShowBalance(unrealized_, unrealized);
+    if (shown) Mark(), ShowBalance(unrealized_, KnownSum(unrealized));
+}
+
+void dsrTrialBalanceDetail::ShowAccountKey() {
+    for (Control* control : {&txtGLAcctId, &txtDescr, &forward_.amount})
+        control->SetTag(current_.key);
 }
 
 void dsrTrialBalanceDetail::ghAccount_Format() {
@@ -233,48 +249,69 @@ void dsrTrialBalanceDetail::ghAccount_Format() {
     current_ = {};
     forward_.amount.Clear();
     forward_.type.Clear();
-    current_.account = CurrentAccount();
-    current_.key = amounts_->Key(current_.account);
-    for (Control* control : {&txtGLAcctId, &txtDescr, &forward_.amount})
-        control->SetTag(current_.key);
-    const Currency forward = (Mark(), GetAccountBalanceForSpecialAccounts(current_.account));
-    BringForward(forward);
-    const Currency unrealized = TakeUnrealized();
-    current_.left_out = !include_zero_balances_ && !HasLines() && forward.IsZero() &&
-                        unrealized.IsZero() && amounts_->Difference().IsZero();
-    if (current_.left_out) return ghAccount.Skip();
-    Mark(), ShowUnrealized(unrealized);
-    Mark(), ShowBalance(forward_, forward);
+    ShowAccountKey();
+    ShowUnrealized({});
+    const Forward forward = BringForward();
+    const bool left_out = !include_zero_balances_ && !HasLines() && forward.balance.IsZero() &&
+                          forward.unrealized.IsZero() && amounts_->Difference().IsZero();
+    if (left_out) return ghAccount.Skip();
+    ShowAccountKey();
+    ShowUnrealized(forward.unrealized);
+    Mark(), ShowBalance(forward_, KnownSum(forward.balance));
 }
 
 std::int32_t dsrTrialBalanceDetail::LineCurrency() const {
-    const auto currency = (Mark(), CurrentRow().Integer(columns_.line_currency));
-    return currency == 0 ? HomeCurrencyId() : currency;
+    const auto currency = (Mark(), CurrentRow().Integer(columns_.currency_id));
+    return currency == 0 ? amounts_->HomeCurrencyId() : currency;
 }
 
 Currency dsrTrialBalanceDetail::LineAmount(std::int32_t currency_id) {
     const Row& row = CurrentRow();
     const Currency booked = (Mark(), row.Amount(columns_.amount));
-    if (!IExchangeRates_Reevaluate() || currency_id == HomeCurrencyId()) return booked;
+    if (!amounts_->Revalues(currency_id)) return booked;
     const Currency foreign = (Mark(), row.Amount(columns_.foreign));
-    const auto worth =
-        (Mark(),
-         EvaluateAtKeyedRate(
-             GetCurrencyInfo(), *this,
-             {.currency_id = currency_id, .booked_rate = {}, .foreign = foreign, .home = booked}));
-    amounts_->AddDifference(worth.gain);
-    return worth.revalued;
+    return Mark(),
+           amounts_->Revalue(
+               {.currency_id = currency_id, .booked_rate = {}, .foreign = foreign, .home = booked});
 }
 
-void dsrTrialBalanceDetail::ShowForeignAmount(std::int32_t currency_id) {
-    if (!DisplayForeignCurrency() || currency_id == HomeCurrencyId()) return;
+// One foreign line that cannot be valued is told; the others of its account would only tell it
+// again.
+std::optional<Currency> dsrTrialBalanceDetail::AddLine() try {
+    const std::int32_t currency_id = LineCurrency();
+    if (amounts_->Revalues(currency_id) && !current_.balance.Known()) {
+        LoseLine();
+        return std::nullopt;
+    }
+    const Currency amount = LineAmount(currency_id);
+    current_.totals.Add(amount);
+    totals_.Add(amount);
+    AddToBalance(amount);
+    return amount;
+} catch (...) {
+    LoseLine();
+    throw;
+}
+
+void dsrTrialBalanceDetail::LoseLine() {
+    if (IExchangeRates_Reevaluate()) amounts_->LoseDifference();
+    current_.totals.Lose();
+    totals_.Lose();
+    LoseBalance();
+}
+
+void dsrTrialBalanceDetail::ShowForeignAmount() {
+    const std::int32_t currency_id = LineCurrency();
+    if (!DisplayForeignCurrency() || currency_id == amounts_->HomeCurrencyId()) return;
     const Currency foreign = (Mark(), CurrentRow().Amount(columns_.foreign));
+    const std::string& code = (Mark(), GetCurrencyInfo().GetCurrencies().Item(currency_id).code);
     text_.clear();
     Mark(), App().GetFormats().AppendAmount(foreign, text_);
     text_ += ' ';
-    Mark(), text_ += GetCurrencyInfo().GetCurrencies().Item(currency_id).code;
+    text_ += code;
     txtCurrency.SetValue(foreign, text_);
     txtCurrency.SetVisible(true);
+    txtCurrencyCode.SetText(code);
 }
 
 void dsrTrialBalanceDetail::ShowKey() {
@@ -297,16 +334,13 @@ void dsrTrialBalanceDetail::Detail_Format() {
     running_.amount.Clear();
     running_.type.Clear();
     txtCurrency.SetVisible(false);
-    const std::int32_t currency_id = LineCurrency();
-    const Currency amount = LineAmount(currency_id);
-    current_.totals.Add(amount);
-    totals_.Add(amount);
-    current_.balance += amount;
-    balance_total_ += amount;
+    txtCurrencyCode.Clear();
     ShowKey();
+    const auto amount = AddLine();
+    if (!amount) return;
     Mark(), ShowBalance(running_, current_.balance);
-    Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
-    ShowForeignAmount(currency_id);
+    Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, *amount, text_);
+    ShowForeignAmount();
     const Date date = (Mark(), CurrentRow().Day(columns_.date));
     Mark(), PutDate(App().GetFormats(), txtDetDate, date, text_);
 }
@@ -315,12 +349,12 @@ void dsrTrialBalanceDetail::gfAccount_Format() {
     for (Control* control :
          {&txtDebitTotal, &txtCreditTotal, &account_balance_.amount, &account_balance_.type})
         control->Clear();
-    const bool all_zero = current_.totals.debit.IsZero() && current_.totals.credit.IsZero() &&
-                          current_.balance.IsZero() && amounts_->Difference().IsZero();
+    const bool all_zero =
+        current_.totals.IsZero() && current_.balance.IsZero() && amounts_->Difference().IsZero();
     if (!include_zero_balances_ && all_zero) return gfAccount.Skip();
     auto& formats = App().GetFormats();
-    Mark(), PutAmount(formats, txtDebitTotal, current_.totals.debit, text_);
-    Mark(), PutAmount(formats, txtCreditTotal, current_.totals.credit, text_);
+    Mark(), PutSum(formats, txtDebitTotal, current_.totals.debit, text_);
+    Mark(), PutSum(formats, txtCreditTotal, current_.totals.credit, text_);
     Mark(), ShowBalance(account_balance_, current_.balance);
 }
 
@@ -341,25 +375,25 @@ void dsrTrialBalanceDetail::SetAdjControlsPosition(bool visible) {
 }
 
 void dsrTrialBalanceDetail::SetAdjControlsValue() {
-    const Currency adjustment = -totals_.Difference();
-    balance_total_ += adjustment;
+    const Currency adjustment = Adjust(totals_);
+    balance_total_.Add(adjustment);
     auto& formats = App().GetFormats();
-    Mark(), Adjust(formats, At("txtDebitAdj"), At("txtCreditAdj"), totals_, text_);
+    Mark(), PutOnItsSide(formats, At("txtDebitAdj"), At("txtCreditAdj"), adjustment, text_);
     Mark(),
         PutOnItsSide(formats, At("txtDebitTotalAdj"), At("txtCreditTotalAdj"), adjustment, text_);
-    Mark(), ShowBalance(adjustment_, adjustment);
-    Mark(), ShowBalance(adjustment_total_, adjustment);
+    Mark(), ShowBalance(adjustment_, KnownSum(adjustment));
+    Mark(), ShowBalance(adjustment_total_, KnownSum(adjustment));
     Mark(), At("txtDescrAdj").SetText(PlainText(App(), kAdjustment));
     At("txtDetDescAdj").SetText(SegmentFilterDisplay());
 }
 
 void dsrTrialBalanceDetail::ReportFooter_Format() {
-    const bool adjusts = IsSegmentFiltered() && !totals_.Difference().IsZero();
+    const bool adjusts = IsSegmentFiltered() && totals_.Differ();
     SetAdjControlsPosition(adjusts);
     if (adjusts) SetAdjControlsValue();
     auto& formats = App().GetFormats();
-    Mark(), PutAmount(formats, txtDebitGrandTotal, totals_.debit, text_);
-    Mark(), PutAmount(formats, txtCreditGrandTotal, totals_.credit, text_);
+    Mark(), PutSum(formats, txtDebitGrandTotal, totals_.debit, text_);
+    Mark(), PutSum(formats, txtCreditGrandTotal, totals_.credit, text_);
     Mark(), ShowBalance(grand_balance_, balance_total_);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "framework/custom_criteria.h"
@@ -41,16 +42,19 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
 
   private:
     struct LineColumns {
-        Column account_id, account_type, account_currency, line_id, date, amount, foreign,
-            line_currency, source, source_key;
+        Column id, date, amount, foreign, currency_id, source, source_key;
         void Resolve(const Columns& columns);
     };
     struct AccountState {
         TrialAccount account;
         std::string key;
         DebitCredit totals;
-        Currency balance;  // The running one.
-        bool left_out = false;
+        KnownSum balance;  // The running one.
+    };
+    /// What an account begins with.
+    struct Forward {
+        Currency balance;
+        Currency unrealized;
     };
     /// An amount with its "DT" or "CT" beside it.
     struct BalanceControls {
@@ -62,17 +66,20 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
     std::string AccountList();
     AccountAmounts::Period ForwardPeriod();
     void PlaceColumns();
-    TrialAccount CurrentAccount() const;
     Currency GetAccountBalanceForSpecialAccounts(const TrialAccount& account);
-    void BringForward(Currency balance);
-    Currency TakeUnrealized();
+    Forward BringForward();
+    void AddToBalance(Currency amount);
+    void LoseBalance();
     void ShowUnrealized(Currency unrealized);
-    bool HasLines() const { return !CurrentRow().IsNull(columns_.line_id); }
+    void ShowAccountKey();
+    bool HasLines() const { return !CurrentRow().IsNull(columns_.id); }
     std::int32_t LineCurrency() const;
     Currency LineAmount(std::int32_t currency_id);
-    void ShowForeignAmount(std::int32_t currency_id);
+    std::optional<Currency> AddLine();
+    void LoseLine();
+    void ShowForeignAmount();
     void ShowKey();
-    void ShowBalance(const BalanceControls& controls, Currency balance);
+    void ShowBalance(const BalanceControls& controls, const KnownSum& balance);
     void SetAdjControlsPosition(bool visible);
     void SetAdjControlsValue();
 
@@ -84,11 +91,11 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
 
     LineColumns columns_;
     std::unique_ptr<AccountAmounts> amounts_;
-    SpecialAccounts special_;
+    std::optional<SpecialAccounts> special_;
     Selection selection_;
     AccountState current_;
     DebitCredit totals_;
-    Currency balance_total_;
+    KnownSum balance_total_;
     bool include_zero_balances_ = false;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.
@@ -113,6 +120,7 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
     Control& txtDetDate = At("txtDetDate");
     Control& txtDetDesc = At("txtDetDesc");
     Control& txtCurrency = At("txtCurrency");
+    Control& txtCurrencyCode = At("txtCurrencyCode");
     Control& txtDebit = At("txtDebit");
     Control& txtCredit = At("txtCredit");
     Control& txtDebitTotal = At("txtDebitTotal");

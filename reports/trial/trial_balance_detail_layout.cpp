@@ -65,10 +65,11 @@ SectionLayout Lines() {
                          ColumnText("txtDetDate", kDate, 0, kBody, "date"),
                          Growing(Bound(description, "DetDesc")),
                          Hidden(ColumnText("txtCurrency", kForeign, 0, kQuiet, "foreign")),
+                         ExportedText("txtCurrencyCode", "currency"),
                          ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
                          ColumnText("txtCredit", kCredit, 0, kBody, "credit"),
                          ColumnText("txtBalance", kBalance, 0, kBody, "balance"),
-                         ColumnText("lblBalanceType", kType, 0, kQuiet, "type")}};
+                         ColumnText("lblBalanceType", kType, 0, kQuiet, "balance_type")}};
 }
 
 SectionLayout AccountFooter() {
@@ -87,10 +88,10 @@ SectionLayout AccountFooter() {
 
 // The adjusting line reads like an account: header, line, subtotal. The grand totals follow.
 SectionLayout Totals() {
-    constexpr Twips kHeaderTop = 60;
-    constexpr Twips kLineTop = 320;
-    constexpr Twips kSubTotalTop = 580;
-    constexpr Twips kGrandTotalTop = 960;
+    constexpr Twips kHeaderTop = 100;
+    constexpr Twips kLineTop = 360;
+    constexpr Twips kSubTotalTop = 620;
+    constexpr Twips kGrandTotalTop = 1'000;
     const auto rule = [](std::string_view name, const ColumnPlace& place) {
         return TotalRule(name, place, kGrandTotalTop - 40, kThick);
     };

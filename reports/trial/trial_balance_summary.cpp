@@ -1,6 +1,5 @@
 #include "reports/trial/trial_balance_summary.h"
 
-#include "framework/cell_values.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/gl_config.h"
@@ -42,17 +41,12 @@ dsrTrialBalanceSummary::dsrTrialBalanceSummary()
     Handle("ReportFooter_Format", &dsrTrialBalanceSummary::ReportFooter_Format);
 }
 
-void dsrTrialBalanceSummary::ChartColumns::Resolve(const Columns& columns) {
-    id = columns.At("InGLAcctId");
-    type = columns.At("AcctType");
-    currency_id = columns.At("ExCurrencyId");
-    currency_code = columns.At("CurrencyCode");
-    inactive = columns.At("Inactive");
-}
-
 void dsrTrialBalanceSummary::IReport_Initialize() {
     ReportBase::IReport_Initialize();
-    Guard("IReport_Initialize", [&] { Mark(), special_ = ReadEarningsAccounts(CurrentCompany()); });
+    Guard("IReport_Initialize", [&] {
+        special_.reset();
+        Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
+    });
 }
 
 void dsrTrialBalanceSummary::IReportConfig_ShowConfigurationScreen() {
@@ -67,21 +61,25 @@ void dsrTrialBalanceSummary::ActiveReport_Initialize() {
           [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
 }
 
+// A report that could not start knows no total.
 void dsrTrialBalanceSummary::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
-        totals_ = {};
+        totals_.Lose();
         amounts_.reset();
         foreign_used_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
         PlaceColumns();
         const std::string statement = BuildStatement();
-        Mark(), special_.unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
-        Mark(), amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, special_,
-                                                            BalancePeriod());
+        if (!special_) Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
+        Mark(), special_->unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
+        const auto period = BalancePeriod();
+        Mark(),
+            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, *special_, period);
         auto rows = (Mark(), RunQuery(App(), statement, {}));
-        Mark(), columns_.Resolve(rows->GetColumns());
+        Mark(), ResolveColumns(rows->GetColumns());
         Data().Attach(std::move(rows));
+        totals_ = {};
         Mark(), At(kPeriodLabel).SetText(TrialPeriodCaption(App(), DateFrom(), DateTo()));
         const auto custom = Criteria();
         Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());
@@ -123,28 +121,31 @@ void dsrTrialBalanceSummary::PlaceColumns() {
     }
 }
 
-TrialAccount dsrTrialBalanceSummary::CurrentAccount() const {
-    const Row& row = CurrentRow();
-    const std::int32_t currency = (Mark(), row.Integer(columns_.currency_id));
-    return {.id = row.Integer(columns_.id),
-            .type = row.Integer(columns_.type),
-            .currency_id = currency == 0 ? HomeCurrencyId() : currency};
+void dsrTrialBalanceSummary::ResolveColumns(const Columns& columns) {
+    amounts_->Resolve(columns);
+    currency_code_ = columns.At("CurrencyCode");
+    inactive_ = columns.At("Inactive");
+}
+
+void dsrTrialBalanceSummary::ShowKey(const std::string& key) {
+    for (Control* control : {&txtDebit, &txtCredit, &txtAcctId, &txtDescr}) control->SetTag(key);
 }
 
 void dsrTrialBalanceSummary::ShowForeignBalance(const TrialAccount& account) {
-    if (!DisplayForeignCurrency() || account.currency_id == HomeCurrencyId()) return;
+    if (!DisplayForeignCurrency() || account.currency_id == amounts_->HomeCurrencyId()) return;
     const Currency foreign = (Mark(), amounts_->ForeignBalance(account));
     if (foreign.IsZero()) return;
     text_.clear();
     Mark(), App().GetFormats().AppendAmount(foreign, text_);
     text_ += ' ';
-    Mark(), CurrentRow().AppendText(columns_.currency_code, text_);
+    Mark(), CurrentRow().AppendText(currency_code_, text_);
     txtCurrency.SetValue(foreign, text_);
     txtCurrency.SetVisible(true);
+    txtCurrencyCode.SetVisible(true);
 }
 
 bool dsrTrialBalanceSummary::IsLeftOut(Currency amount) const {
-    return amount.IsZero() && (!include_zero_balances_ || CurrentRow().Truth(columns_.inactive));
+    return amount.IsZero() && (!include_zero_balances_ || CurrentRow().Truth(inactive_));
 }
 
 // The amount and its total come before anything is formatted.
@@ -153,14 +154,22 @@ void dsrTrialBalanceSummary::Detail_Format() {
     txtDebit.Clear();
     txtCredit.Clear();
     txtCurrency.SetVisible(false);
-    const TrialAccount account = CurrentAccount();
-    const std::string key = amounts_->Key(account);
-    for (Control* control : {&txtDebit, &txtCredit, &txtAcctId, &txtDescr}) control->SetTag(key);
-    const Currency amount = (Mark(), amounts_->Amount(account));
+    txtCurrencyCode.SetVisible(false);
+    ShowKey({});
+    TrialAccount account;
+    Currency amount;
+    try {
+        Mark(), account = amounts_->Read(CurrentRow());
+        ShowKey(amounts_->Key(account));
+        Mark(), amount = amounts_->Amount(account);
+        totals_.Add(amount);
+    } catch (...) {
+        totals_.Lose();
+        throw;
+    }
     if (IsLeftOut(amount)) return Detail.Skip();
-    totals_.Add(amount);
-    if (!amounts_->IsRetainedEarnings(account)) ShowForeignBalance(account);
     Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
+    if (!amounts_->IsRetainedEarnings(account)) ShowForeignBalance(account);
 }
 
 void dsrTrialBalanceSummary::PageHeader_Format() {
@@ -174,18 +183,18 @@ void dsrTrialBalanceSummary::SeAdjControlsPosition(bool visible) {
 }
 
 void dsrTrialBalanceSummary::SetAdjControlsValue() {
+    const Currency adjustment = Adjust(totals_);
+    Mark(), PutOnItsSide(App().GetFormats(), txtDebitAdj, txtCreditAdj, adjustment, text_);
     Mark(), txtDescrAdj.SetText(PlainText(App(), kAdjustment));
-    Mark(), Adjust(App().GetFormats(), txtDebitAdj, txtCreditAdj, totals_, text_);
 }
 
 void dsrTrialBalanceSummary::ReportFooter_Format() {
-    for (Control* control : {&txtDescrAdj, &txtDebitAdj, &txtCreditAdj}) control->Clear();
-    const bool adjusts = IsSegmentFiltered() && !totals_.Difference().IsZero();
+    const bool adjusts = IsSegmentFiltered() && totals_.Differ();
     SeAdjControlsPosition(adjusts);
     if (adjusts) SetAdjControlsValue();
     auto& formats = App().GetFormats();
-    Mark(), PutAmount(formats, txtDebitGrandTotal, totals_.debit, text_);
-    Mark(), PutAmount(formats, txtCreditGrandTotal, totals_.credit, text_);
+    Mark(), PutSum(formats, txtDebitGrandTotal, totals_.debit, text_);
+    Mark(), PutSum(formats, txtCreditGrandTotal, totals_.credit, text_);
 }
 
 }  // namespace varnel::reports

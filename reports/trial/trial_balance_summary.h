@@ -29,15 +29,11 @@ class dsrTrialBalanceSummary final : public framework::ReportBase,
     void ActiveReport_ReportStart() override;
 
   private:
-    struct ChartColumns {
-        Column id, type, currency_id, currency_code, inactive;
-        void Resolve(const Columns& columns);
-    };
-
     std::string BuildStatement();
     AccountAmounts::Period BalancePeriod();
     void PlaceColumns();
-    TrialAccount CurrentAccount() const;
+    void ResolveColumns(const Columns& columns);
+    void ShowKey(const std::string& key);
     void ShowForeignBalance(const TrialAccount& account);
     bool IsLeftOut(Currency amount) const;
     void SeAdjControlsPosition(bool visible);
@@ -47,9 +43,9 @@ class dsrTrialBalanceSummary final : public framework::ReportBase,
     void Detail_Format();
     void ReportFooter_Format();
 
-    ChartColumns columns_;
+    Column currency_code_, inactive_;
     std::unique_ptr<AccountAmounts> amounts_;
-    SpecialAccounts special_;
+    std::optional<SpecialAccounts> special_;
     DebitCredit totals_;
     bool include_zero_balances_ = false;
     bool use_account_numbers_ = false;
@@ -62,6 +58,7 @@ class dsrTrialBalanceSummary final : public framework::ReportBase,
     Control& txtAcctId = At("txtAcctId");
     Control& txtDescr = At("txtDescr");
     Control& txtCurrency = At("txtCurrency");
+    Control& txtCurrencyCode = At("txtCurrencyCode");
     Control& txtDebit = At("txtDebit");
     Control& txtCredit = At("txtCredit");
     Control& txtDescrAdj = At("txtDescrAdj");

@@ -18,9 +18,9 @@ constexpr auto kCredit = ColumnPlace::Amount(9'310, 1'490);
 /// Off the rule under the captions.
 constexpr Twips kRowTop = 20;
 // Of the report footer: the adjusting line, then the totals.
-constexpr Twips kAdjustmentTop = 40;
-constexpr Twips kTotalRuleTop = 320;
-constexpr Twips kTotalTop = 360;
+constexpr Twips kAdjustmentTop = 80;
+constexpr Twips kTotalRuleTop = 360;
+constexpr Twips kTotalTop = 400;
 
 std::vector<ControlLayout> Captions() {
     return {ColumnCaption("lblCodeCap", kCode, 1741),
@@ -32,13 +32,14 @@ std::vector<ControlLayout> Captions() {
 }
 
 SectionLayout Accounts() {
+    const auto number = ColumnText("txtAcctId", kCode, kRowTop, kBody, "account");
     const auto description = ColumnText("txtDescr", kDescription, kRowTop, kBody, "description");
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
-            .controls = {Bound(ColumnText("txtAcctId", kCode, kRowTop, kBody, "code"), "GLAcctId"),
-                         Growing(Bound(description, "Descr")),
+            .controls = {Bound(number, "GLAcctId"), Growing(Bound(description, "Descr")),
                          Hidden(ColumnText("txtCurrency", kForeign, kRowTop, kQuiet, "foreign")),
+                         Hidden(ExportedText("txtCurrencyCode", "currency", "CurrencyCode")),
                          ColumnText("txtDebit", kDebit, kRowTop, kBody, "debit"),
                          ColumnText("txtCredit", kCredit, kRowTop, kBody, "credit")}};
 }
@@ -46,7 +47,7 @@ SectionLayout Accounts() {
 SectionLayout Totals() {
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
-            .height = kReportFooterHeight,
+            .height = kTotalTop + kLineHeight,
             .controls = {ColumnText("txtDescrAdj", kDescription, kAdjustmentTop, kRemark),
                          ColumnText("txtDebitAdj", kDebit, kAdjustmentTop, kBody),
                          ColumnText("txtCreditAdj", kCredit, kAdjustmentTop, kBody),
