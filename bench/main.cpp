@@ -15,6 +15,7 @@
 #include "bench/floors.h"
 #include "bench/measure.h"
 #include "bench/reports.h"
+#include "bench/wide_chart.h"
 #include "company/demo/demo_company.h"
 
 namespace {
@@ -40,6 +41,15 @@ std::string CompanyWith(const std::string& file, double ledger_lines) {
     return file;
 }
 
+std::string WideCompany(const std::string& folder, std::int64_t lines) {
+    const std::string file = folder + "/wide-" + std::to_string(lines) + ".db";
+    if (std::filesystem::exists(file)) return file;
+    const std::string unfinished = CompanyWith(file + ".new", static_cast<double>(lines));
+    WidenChart(unfinished);
+    std::filesystem::rename(unfinished, file);
+    return file;
+}
+
 std::string JournalCompany(const std::string& folder, std::int64_t journal_lines) {
     return CompanyWith(folder + "/journal-" + std::to_string(journal_lines) + ".db",
                        static_cast<double>(journal_lines) / kJournalShare);
@@ -52,9 +62,14 @@ std::string LedgerCompany(const std::string& folder, std::int64_t lines) {
 
 int RunsFor(std::int64_t lines) { return lines > 500'000 ? 3 : 5; }
 
+/// What the program takes to start and end, which a floor does not have.
+double start_up_seconds = 0;
+
 void PrintRow(const char* name, const Cost& cost, double floor_seconds) {
     std::printf("  %-28s %8.3f s %8.1f MiB", name, cost.seconds, cost.peak_mebibytes);
-    if (floor_seconds > 0) std::printf(" %8.2f x floor", cost.seconds / floor_seconds);
+    if (floor_seconds > 0)
+        std::printf(" %8.2f x floor, %5.2f x without start-up", cost.seconds / floor_seconds,
+                    (cost.seconds - start_up_seconds) / floor_seconds);
     std::printf("%s\n", cost.failed ? "   FAILED" : "");
     std::fflush(stdout);
 }
@@ -65,6 +80,15 @@ Cost RunReport(const Subject& subject, const std::string& format, const std::str
         format,         "-o",  output,         "--session-date", "2026-11-01"};
     arguments.insert(arguments.end(), subject.options.begin(), subject.options.end());
     return MeasureProgram(arguments, subject.runs);
+}
+
+/// A report without rows.
+void MeasureStartUp(const std::string& varnel, const std::string& company) {
+    const auto cost = MeasureProgram({varnel, "run", "general-journal", "--company", company,
+                                      "--from", "9000-01-01", "-O", "csv", "-o", "/dev/null"},
+                                     9);
+    start_up_seconds = cost.seconds;
+    std::printf("start-up, a report without rows %13.3f s\n\n", cost.seconds);
 }
 
 void MeasureFormats(const Subject& subject, const std::string& statement) {
@@ -98,7 +122,8 @@ void MeasureJournal(const std::string& varnel, const std::string& folder, std::i
 
 void MeasureReport(const ReportCase& report, const std::string& varnel, const std::string& folder,
                    std::int64_t lines) {
-    const std::string company = LedgerCompany(folder, lines);
+    const std::string company =
+        report.wide_chart ? WideCompany(folder, lines) : LedgerCompany(folder, lines);
     const std::string statement = report.statement(company);
     const std::int64_t rows = ReadRows(company, statement);
     std::printf("%s, %" PRId64 " rows of a ledger of %" PRId64 " lines\n", report.name.data(), rows,
@@ -111,6 +136,7 @@ void MeasureReport(const ReportCase& report, const std::string& varnel, const st
 }
 
 void MeasureSize(const std::string& varnel, const std::string& folder, std::int64_t lines) {
+    MeasureStartUp(varnel, JournalCompany(folder, lines));
     MeasureJournal(varnel, folder, lines);
     for (const auto& report : ReportCases()) MeasureReport(report, varnel, folder, lines);
 }

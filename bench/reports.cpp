@@ -14,7 +14,8 @@ std::string ControlAccounts(const std::string& company) {
     return ReadCell(
         company,
         "SELECT group_concat(Id) FROM (SELECT ARGLAccountId AS Id FROM WorldCurrency UNION SELECT "
-        "APGLAccountId FROM WorldCurrency UNION SELECT ExAcctId FROM GLAccountParam WHERE ParamName "
+        "APGLAccountId FROM WorldCurrency UNION SELECT ExAcctId FROM GLAccountParam WHERE "
+        "ParamName "
         "IN ('CustGLAR', 'SuppGLAP')) WHERE Id > 0");
 }
 
@@ -73,7 +74,27 @@ std::string RealizedExchange(const std::string&) {
            "CurrPmtDet_View.PmtDate, CurrPmtDet_View.ChqNo ";
 }
 
+Options WholeYears(const std::string&) { return {"--from", "2024-11-01", "--to", "2026-10-31"}; }
+
+/// All that a summary needs of the ledger: one sum an account over the covering index.
+std::string SumsByAccount(const std::string&) {
+    return "SELECT ExAcctId, SUM(DetAmnt), SUM(ForeignAmnt) FROM GLDet GROUP BY ExAcctId";
+}
+
+std::string TrialBalanceDetail(const std::string&) {
+    return "SELECT SubQuery.*, AcctType, InGlAcctId, GLAcctId, GLAcct.ExCurrencyId, GLAcct.Descr, "
+           "WorldCurrency.CurrencyCode FROM (GLAcct LEFT JOIN (Select InGLDetId, DetDate, DetAmnt, "
+           "ForeignAmnt, GLDet.ExCurrencyId as GLDetExCurrencyId, Source, ExSrcKeyVal, DetDesc, "
+           "SeqNo, ExAcctId FROM GLDet WHERE GLDet.DetAmnt <> 0 AND GLDet.DetDate BETWEEN "
+           "'2024-11-01' AND '2026-10-31' ) as SubQuery ON GLAcct.InGLAcctId = SubQuery.ExAcctId) "
+           "LEFT JOIN WorldCurrency ON GLAcct.ExCurrencyId = WorldCurrency.InCurrencyId ORDER BY "
+           "GLAcct.GLAcctId, SubQuery.DetDate, SubQuery.SeqNo";
+}
+
 constexpr ReportCase kCases[] = {
+    {"trial-balance-summary", NoOptions, SumsByAccount, true},
+    {"trial-balance-detail", WholeYears, TrialBalanceDetail, true},
+    {"gifi", NoOptions, SumsByAccount, true},
     {"unrealized-exchange", NoOptions, UnrealizedExchange},
     {"unrealized-exchange-detail", BusiestAccountOptions, UnrealizedExchangeDetail},
     {"realized-exchange", NoOptions, RealizedExchange},

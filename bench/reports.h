@@ -14,6 +14,8 @@ struct ReportCase {
     std::vector<std::string> (*options)(const std::string& company);
     /// Its statement over all dates, as SQLite takes it.
     std::string (*statement)(const std::string& company);
+    /// Whether it runs on a company of more than a thousand accounts.
+    bool wide_chart = false;
 };
 
 std::span<const ReportCase> ReportCases();
