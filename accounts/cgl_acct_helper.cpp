@@ -74,7 +74,8 @@ Currency UnrealizedGain(Application& application, Date end_date, const RateColle
 const Variant& Argument(Arguments arguments, std::size_t index) {
     if (index >= arguments.size())
         Raise(error_number::kInvalidArgument, "Varnel.CGLAcctHelper",
-              "The method needs " + std::to_string(index + 1) + " arguments or more");
+              "The method takes more arguments than the " + std::to_string(arguments.size()) +
+                  " it was given");
     return arguments[index];
 }
 

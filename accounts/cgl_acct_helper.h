@@ -25,8 +25,8 @@ class CGLAcctHelper final : public Object {
     /// each to the cent, less what was booked. `ex_project_id` is a comma-separated list of
     /// projects to take, empty for all. 0, without a look at the books, when not to be revalued.
     ///
-    /// Error 91 without an application or, when it is needed, without rates; error 5 naming the id
-    /// of a currency that has no rate.
+    /// Error 91 without an application or, when it is needed, without rates; error 5 naming
+    /// currency and date when there is no rate.
     Currency GetPLUnrealOnExchangeRateAmount(Date end_date, bool reevaluate,
                                              const std::shared_ptr<RateCollection>& exchange_rates,
                                              const std::string& ex_project_id);

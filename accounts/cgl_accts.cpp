@@ -78,7 +78,8 @@ void Load(Recordset& rows, KeyedCollection<CGLAcct>& accounts) {
 const Variant& Argument(Arguments arguments, std::size_t index) {
     if (index >= arguments.size())
         Raise(error_number::kInvalidArgument, "Varnel.CGLAccts",
-              "The method needs " + std::to_string(index + 1) + " arguments or more");
+              "The method takes more arguments than the " + std::to_string(arguments.size()) +
+                  " it was given");
     return arguments[index];
 }
 

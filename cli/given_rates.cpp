@@ -11,6 +11,8 @@ namespace varnel::cli {
 
 namespace {
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 company::GivenRate ReadRate(const std::string& where, const std::string& text) {
     try {
         return company::ParseGivenRate(text);
@@ -33,9 +35,11 @@ std::vector<company::GivenRate> ReadRates(const std::vector<std::string>& rates,
     if (file.empty()) return given;
     std::ifstream lines(file);
     std::string line;
-    for (int number = 1; std::getline(lines, line); ++number)
+    for (int number = 1; std::getline(lines, line); ++number) {
+        if (number == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
         if (!SaysNothing(line))
             given.push_back(ReadRate(file + ", line " + std::to_string(number), line));
+    }
     if (!lines.eof())
         throw UsageError("--rates: " + file + " cannot be read: " + std::strerror(errno));
     return given;

@@ -20,6 +20,7 @@
 #include "cli/run_monitor.h"
 #include "cli/run_options.h"
 #include "company/company_host.h"
+#include "host/error.h"
 
 namespace varnel::cli {
 
@@ -60,13 +61,20 @@ void CheckTerminal(const RunRequest& request) {
             "without one set its check boxes by --option NAME=yes");
 }
 
+void UseRates(company::CompanyHost& host, const RunSettings& settings) {
+    try {
+        host.CurrentCompany().UseRates(settings.rates);
+    } catch (const Error& error) {
+        throw UsageError("--rate: " + error.Description());
+    }
+}
+
 std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
                                                const RunSettings& settings, MessageLog& log,
                                                std::shared_ptr<DialogService> dialogs) {
     company::HostOptions options;
     options.language = settings.language;
     options.session_date = settings.session_date;
-    options.rates = settings.rates;
     // After a signal queries end in errors that are no news.
     options.message_sink = [&log](const std::string& text) {
         if (StopSignal() == 0) log.Add(text);
@@ -75,6 +83,7 @@ std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
     options.missing_text = [&log](std::int16_t number) { log.AddMissingText(number); };
     options.dialogs = std::move(dialogs);
     auto host = company::OpenCompany(request.company, options);
+    UseRates(*host, settings);
     SetRunningHost(host);
     return host;
 }
@@ -150,7 +159,7 @@ int RunReport(const RunRequest& request, Console& console) {
     if (written)
         output.Commit();
     else
-        PointAtFilter(request.filter, console);
+        PointAtFilter(entry.filter_gives_rates ? "" : request.filter, console);
     return Conclude(log, written, console);
 }
 

@@ -42,9 +42,9 @@ constexpr ReportEntry kReports[] = {
     {"bank-reconciliation", "BankReconciliation", "dsrBankReconciliation", None},
     {"current-bank-reconciliation", "CurrentBankReconciliation", "dsrCurrentBankReconciliation",
      None},
-    {"unrealized-exchange", "UnRealExchProfitLoss", "dsrUnRealExchProfitloss", None},
+    {"unrealized-exchange", "UnRealExchProfitLoss", "dsrUnRealExchProfitloss", None, "", "", true},
     {"unrealized-exchange-detail", "UnRealExchProfitLossDetail", "dsrUnRealExchProfitlossDetail",
-     None, "GLAcctId", "ExCurrencyId"},
+     None, "GLAcctId", "ExCurrencyId", true},
     {"realized-exchange", "RealizedExchProfitLoss", "dsrRealizedExchProfitloss", None},
 };
 

@@ -23,6 +23,8 @@ struct ReportEntry {
     /// is about; empty for reports that are about all.
     std::string_view account_property = {};
     std::string_view currency_property = {};
+    /// Whether the filter is not criteria but exchange rates: "USD=1.35|EUR=1.47".
+    bool filter_gives_rates = false;
 };
 
 /// Every report, those that this version does not have included.

@@ -50,6 +50,8 @@ Revaluation Revaluer::Evaluate(const LedgerBalance& balance) const {
 
 Revaluation EvaluateAtKeyedRate(CurrencyInfo& info, const RateCollection* rates,
                                 std::string_view date, const LedgerBalance& balance) {
+    if (!info.CieIsForeignCurrencyUsed() || balance.currency_id == info.CieHomeCurrencyId())
+        return {balance.home, {}};
     if (rates == nullptr)
         throw Error(error_number::kObjectNotSet, "ExchangeRates",
                     "There are no exchange rates: set them before the report runs");

@@ -66,9 +66,9 @@ class Revaluer {
     bool foreign_used_;
 };
 
-/// The balance at the rate that `rates` has for its currency, whether or not anything revalues, to
-/// the cent. Error 91 without rates; error 5 naming the currency and `date`, the date of the rates,
-/// when there is none for it.
+/// The same rule at the rate that `rates` has for its currency, whether or not anything revalues.
+/// Error 91 without rates; error 5 naming the currency and `date`, the date of the rates, when
+/// there is none for it.
 Revaluation EvaluateAtKeyedRate(CurrencyInfo& info, const RateCollection* rates,
                                 std::string_view date, const LedgerBalance& balance);
 

@@ -58,7 +58,8 @@ class CurrencyInfo {
     // What only reports that revalue need: error 445 in a host that leaves it out.
     /// Fills rates, their date and the revaluation switch of `target` for the closing date.
     /// `use_rate_table`: take what the company's own table says. `filter` is the report's filter,
-    /// split at "|".
+    /// split at "|". A currency without a rate is left out, never given a rate of 0: whoever needs
+    /// it finds it missing.
     virtual void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
                                         std::span<const std::string> filter);
     /// One foreign amount in home currency: at the rate of `rates` when it revalues, else at the

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "company/services/query.h"
 #include "company/services/rate_table.h"
 #include "company/services/setting_names.h"
 #include "host/company.h"
@@ -20,55 +19,33 @@ std::int32_t CompanyCurrencyInfo::UnrealizedGainLossAcctId() {
     return params_.Find(account_param::kUnrealizedGainLoss, kCompanySection);
 }
 
-void CompanyCurrencyInfo::RaiseNoRate(const std::string& codes, const std::string& date) {
+void CompanyCurrencyInfo::RaiseNoRate(const std::string& code, const std::string& date) {
     throw Error(error_number::kInvalidArgument, "CurrencyInfo",
-                "There is no exchange rate for " + codes + " on or before " + date +
+                "There is no exchange rate for " + code + " on or before " + date +
                     "; enter one in the company's rate table or give one");
 }
 
-// A list of the world's currencies must not ask for rates that nobody needs. A line in a currency
-// that no account has is an error when it is revalued.
-bool CompanyCurrencyInfo::IsInUse(const CurrencyRecord& record) {
-    return record.ar_account_id != 0 || record.ap_account_id != 0 ||
-           !Query(database_, "SELECT InGLAcctId FROM GLAcct WHERE ExCurrencyId = ?", {record.id})
-                ->AtEnd();
-}
-
-void CompanyCurrencyInfo::RequireRates(const RateCollection& rates, const std::string& date) {
-    std::string missing;
-    for (const auto& record : currencies_.All())
-        if (record.id != currencies_.HomeId() && !rates.Has(record.id) && IsInUse(record))
-            missing += (missing.empty() ? "" : ", ") + record.code;
-    if (!missing.empty()) RaiseNoRate(missing, date);
-}
-
-std::int32_t CompanyCurrencyInfo::ForeignId(const GivenRate& given) {
+void CompanyCurrencyInfo::AddRate(const GivenRate& given, RateCollection& rates) {
     const CurrencyRecord& record = currencies_.ItemByCode(given.currency_code);
     if (record.id == currencies_.HomeId())
         throw Error(error_number::kInvalidArgument, "CurrencyInfo",
                     record.code + " is the company's own currency and has no exchange rate");
-    return record.id;
+    if (rates.Has(record.id))
+        throw Error(error_number::kInvalidArgument, "CurrencyInfo",
+                    "The exchange rate of " + record.code + " is given twice");
+    rates.Set(record.id, given.rate);
 }
 
 void CompanyCurrencyInfo::UseRates(std::span<const GivenRate> rates) {
     RateCollection taken;
-    for (const auto& given : rates) {
-        const std::int32_t id = ForeignId(given);
-        if (taken.Has(id))
-            throw Error(error_number::kInvalidArgument, "CurrencyInfo",
-                        "The exchange rate of " + given.currency_code + " is given twice");
-        taken.Set(id, given.rate);
-    }
+    for (const auto& given : rates) AddRate(given, taken);
     given_ = std::move(taken);
 }
 
 std::shared_ptr<RateCollection> CompanyCurrencyInfo::RatesOf(std::span<const std::string> filter) {
     auto rates = std::make_shared<RateCollection>();
-    for (const auto& piece : filter) {
-        if (piece.empty()) continue;
-        const GivenRate given = ParseGivenRate(piece);
-        rates->Set(ForeignId(given), given.rate);
-    }
+    for (const auto& piece : filter)
+        if (!piece.empty()) AddRate(ParseGivenRate(piece), *rates);
     return rates;
 }
 
@@ -92,7 +69,6 @@ void CompanyCurrencyInfo::ConfigureExchangeRates(IExchangeRates& target, Date da
     target.IExchangeRates_ExchangeRates(rates);
     target.IExchangeRates_ExchangeRatesDate(date_text);
     target.IExchangeRates_Reevaluate(foreign_used);
-    if (foreign_used) RequireRates(*rates, date_text);
 }
 
 Currency CompanyCurrencyInfo::EvaluateValueWithExchangeRate(Rate booked_rate,

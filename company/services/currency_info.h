@@ -28,9 +28,8 @@ class CompanyCurrencyInfo final : public CurrencyInfo {
     /// more than one currency. Without `use_rate_table` rates that `target` has already stay. Rates
     /// that the user gave come before the table's; pieces of `filter`, as "USD=1.3725", before all.
     ///
-    /// A foreign currency that accounts have and without any rate raises error 5 naming currency
-    /// and date, after all that there is was set; so does a piece of `filter` that is no rate,
-    /// before anything is.
+    /// A currency that has no rate by then is left out: who needs it finds it missing. Error 5 for
+    /// a piece of `filter` that is no rate, before anything is set.
     void ConfigureExchangeRates(IExchangeRates& target, Date date, bool use_rate_table,
                                 std::span<const std::string> filter) override;
     /// Rounded once, to the cent. The amount itself in home currency and in a company of one
@@ -42,10 +41,8 @@ class CompanyCurrencyInfo final : public CurrencyInfo {
 
   private:
     std::shared_ptr<RateCollection> RatesOf(std::span<const std::string> filter);
-    std::int32_t ForeignId(const GivenRate& given);
-    bool IsInUse(const CurrencyRecord& record);
-    void RequireRates(const RateCollection& rates, const std::string& date);
-    [[noreturn]] void RaiseNoRate(const std::string& codes, const std::string& date);
+    void AddRate(const GivenRate& given, RateCollection& rates);
+    [[noreturn]] void RaiseNoRate(const std::string& code, const std::string& date);
 
     CompanyDatabase& database_;
     CompanyCurrencies& currencies_;

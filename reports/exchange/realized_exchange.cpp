@@ -9,6 +9,7 @@
 #include "framework/query_runner.h"
 #include "framework/standard_header.h"
 #include "framework/texts.h"
+#include "host/decimal.h"
 #include "reports/exchange/account_caption.h"
 #include "reports/exchange/realized_exchange_layout.h"
 
@@ -59,20 +60,26 @@ const PaymentKind* KindOf(std::int32_t payment_type) {
     return nullptr;
 }
 
-/// Four decimals, or as many more as the rate has. Exact through the binary number for every rate
-/// below 90 million.
+constexpr int kRateDecimals = 4;
+
+/// Rates are read like amounts, to four decimals. Error 6 for one that does not fit.
+Rate ReadRate(const Row& row, Column column) {
+    constexpr std::int64_t kUnit = Rate::kScale / Currency::kScale;
+    const Int128 scaled = Int128{row.Amount(column).Scaled()} * kUnit;
+    return Rate::FromScaled(decimal::Narrow(scaled, "The exchange rate"));
+}
+
 void AppendRate(Formats& formats, Rate rate, std::string& out) {
-    int decimals = Rate::kDecimals;
-    for (auto scaled = rate.Scaled(); decimals > 4 && scaled % 10 == 0; scaled /= 10) --decimals;
     const double number = static_cast<double>(rate.Scaled()) / static_cast<double>(Rate::kScale);
-    formats.AppendNumber(number, decimals, out);
+    formats.AppendNumber(number, kRateDecimals, out);
 }
 
 }  // namespace
 
 dsrRealizedExchProfitloss::dsrRealizedExchProfitloss()
-    : ReportBase(RealizedExchangeLayout(),
-                 {.title_text = 30012, .date_display = DateDisplay::kFromTo}),
+    : ReportBase(
+          RealizedExchangeLayout(),
+          {.title_text = 30012, .date_display = DateDisplay::kFromTo, .by_account_number = true}),
       SegmentFilter(Members()),
       FilterableReport(Members()) {
     Handle("PageHeader_Format", &dsrRealizedExchProfitloss::PageHeader_Format);
@@ -96,12 +103,6 @@ void dsrRealizedExchProfitloss::PaymentColumns::Resolve(const Columns& columns) 
     account_id = columns.At("ExGLAcctId");
     date = columns.At("PmtDate");
     currency_code = columns.At("CurrencyCode");
-}
-
-void dsrRealizedExchProfitloss::ActiveReport_Initialize() {
-    ReportBase::ActiveReport_Initialize();
-    Guard("ActiveReport_Initialize",
-          [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
 }
 
 void dsrRealizedExchProfitloss::ActiveReport_ReportStart() {
@@ -184,7 +185,7 @@ void dsrRealizedExchProfitloss::ghCurrPmtType_Format() {
     Mark(), payment_type_ = CurrentRow().Integer(columns_.type);
     const std::int32_t account_id = ControlAccountId();
     if (account_id == 0) return;
-    Mark(), txtAccount.SetText(AccountCaption(*accounts_, account_id, use_account_numbers_));
+    Mark(), txtAccount.SetText(AccountCaption(*accounts_, account_id, UseAccountNumbers()));
     txtAccount.SetTag(AccountKey(account_id));
 }
 
@@ -208,8 +209,8 @@ AppliedPayment dsrRealizedExchProfitloss::ReadPayment() {
     Mark(), payment.type = row.Integer(columns_.type);
     Mark(), payment.amount = row.Amount(columns_.amount);
     Mark(), payment.discount = row.Amount(columns_.discount);
-    Mark(), payment.invoice_rate = row.ExchangeRate(columns_.invoice_rate);
-    Mark(), payment.payment_rate = row.ExchangeRate(columns_.payment_rate);
+    Mark(), payment.invoice_rate = ReadRate(row, columns_.invoice_rate);
+    Mark(), payment.payment_rate = ReadRate(row, columns_.payment_rate);
     return payment;
 }
 

@@ -21,7 +21,6 @@ class dsrRealizedExchProfitloss final : public framework::ReportBase,
   public:
     dsrRealizedExchProfitloss();
 
-    void ActiveReport_Initialize() override;
     void ActiveReport_ReportStart() override;
     void ActiveReport_Terminate() override;
 
@@ -62,7 +61,6 @@ class dsrRealizedExchProfitloss final : public framework::ReportBase,
     std::optional<Currency> report_gain_;
     std::int32_t currency_id_ = 0;
     std::int32_t payment_type_ = 0;
-    bool use_account_numbers_ = false;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.
 

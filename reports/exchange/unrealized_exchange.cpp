@@ -80,13 +80,12 @@ void dsrUnRealExchProfitloss::ActiveReport_ReportStart() {
         currency_ = {};
         report_ = {};
         report_.known = false;
-        Mark(), home_id_ = GetCurrencyInfo().CieHomeCurrencyId();
         Mark(), ConfigureRates(GetCurrencyInfo(), DateTo(), FilterPieces());
         Mark(), revaluer_.emplace(GetCurrencyInfo(), *this);
         accounts_ = {};
         Mark(), accounts_.Init(AppRef(), 0);
         const std::string statement = BuildStatement();
-        const Variant parameters[] = {home_id_, home_id_, DateTo()};
+        const Variant parameters[] = {HomeCurrencyId(), HomeCurrencyId(), DateTo()};
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
         Mark(), columns_.Resolve(rows->GetColumns());
         Mark(), account_column_ = rows->GetColumns().At("InGLAcctId");
@@ -117,9 +116,9 @@ void dsrUnRealExchProfitloss::PutTotals(const TotalControls& controls, const Tot
     for (Control* control : {&controls.booked, &controls.revalued, &controls.gain})
         control->Clear();
     if (!totals.known) return;
-    PutAmount(controls.booked, totals.booked, home_id_);
-    PutAmount(controls.revalued, totals.revalued, home_id_);
-    PutAmount(controls.gain, totals.gain, home_id_);
+    PutAmount(controls.booked, totals.booked, HomeCurrencyId());
+    PutAmount(controls.revalued, totals.revalued, HomeCurrencyId());
+    PutAmount(controls.gain, totals.gain, HomeCurrencyId());
 }
 
 void dsrUnRealExchProfitloss::PageHeader_Format() {
@@ -149,7 +148,8 @@ void dsrUnRealExchProfitloss::Detail_Format() {
 void dsrUnRealExchProfitloss::AddBalance() {
     const LedgerBalance balance = (Mark(), columns_.Read(CurrentRow()));
     const Revaluation worth = (Mark(), revaluer_->Evaluate(balance));
-    Mark(), account_foreign_ += balance.currency_id == home_id_ ? balance.home : balance.foreign;
+    Mark(), account_foreign_ +=
+            balance.currency_id == HomeCurrencyId() ? balance.home : balance.foreign;
     Mark(), account_.Add({balance.home, worth.revalued, worth.gain});
 }
 
@@ -191,9 +191,10 @@ void dsrUnRealExchProfitloss::gfCurrency_Format() {
 }
 
 void dsrUnRealExchProfitloss::ReportFooter_Format() {
-    if (report_.known) PutAmount(txtGainGrandTotal, report_.gain, home_id_);
+    if (report_.known) PutAmount(txtGainGrandTotal, report_.gain, HomeCurrencyId());
     const std::string& date = IExchangeRates_ExchangeRatesDate();
-    if (!date.empty()) Mark(), txtRatesDate.SetText(ExchangeRatesText(App(), date));
+    const bool foreign_used = (Mark(), GetCurrencyInfo().CieIsForeignCurrencyUsed());
+    if (foreign_used && !date.empty()) Mark(), txtRatesDate.SetText(ExchangeRatesText(App(), date));
 }
 
 }  // namespace varnel::reports

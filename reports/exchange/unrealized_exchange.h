@@ -56,7 +56,6 @@ class dsrUnRealExchProfitloss final : public framework::ReportBase,
     void gfCurrency_Format();
     void ReportFooter_Format();
 
-    std::int32_t home_id_ = 0;
     std::int32_t currency_id_ = 0;
     std::int32_t account_id_ = 0;
     framework::LedgerBalanceColumns columns_;

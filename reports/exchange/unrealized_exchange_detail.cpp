@@ -129,6 +129,7 @@ void Report::ShowNames() {
 
 // Told once, here, rather than at every line.
 void Report::RequireRate() {
+    if (!(Mark(), GetCurrencyInfo().CieIsForeignCurrencyUsed())) return;
     const auto& rates = IExchangeRates_ExchangeRates();
     if (rates != nullptr && rates->Has(ex_currency_id_)) return;
     const auto& date = IExchangeRates_ExchangeRatesDate();

@@ -92,7 +92,7 @@ TEST_F(AccountsFailureTest, WrongArgumentsFailInTheNameOfTheMemberOnce) {
     const auto call = [&](const char* member, std::vector<Variant> arguments) {
         return DescriptionOf([&] { accounts_.Call(member, arguments); });
     };
-    const std::string missing = "The method needs 1 arguments or more";
+    const std::string missing = "The method takes more arguments than the 0 it was given";
     for (const char* member : {"Init", "Add", "Item", "Remove"})
         EXPECT_THAT(call(member, {}), MatchesRegex(Through(missing, {member})));
     const ObjectRef stranger = std::make_shared<CGLAcct>();

@@ -115,6 +115,9 @@ TEST_F(SmallCompany, TakesRatesThatAreGivenBeforeThoseOfItsTable) {
     const auto host = OpenCompany(file.Path(), options);
     auto& info = host->CurrentCompany().GetCurrencyInfo();
     Rates rates;
+    const std::string twice[] = {"JPY=1", "JPY=2"};
+    EXPECT_THAT(ErrorOf([&] { info.ConfigureExchangeRates(rates, kOpenEnd, true, twice); }),
+                HasSubstr("JPY is given twice"));
     const std::string filter[] = {"JPY = 0.0125", ""};
     info.ConfigureExchangeRates(rates, Day("2025-03-31"), true, filter);
     EXPECT_EQ(info.GetCurrencies().GetCurrenciesLegend(rates), "JPY 0.0125; USD 1.3725");
@@ -136,18 +139,6 @@ TEST_F(SmallCompany, RefusesRatesThatItCannotTake) {
     for (const char* text : {"", "USD", "=1.2", "USD=", "USD=0", "USD=-1", "USD=1,3725", "USD 1 2"})
         EXPECT_THAT(ErrorOf([&] { ParseGivenRate(text); }),
                     HasSubstr("\"" + std::string(text) + "\" is no exchange rate"));
-}
-
-TEST_F(SmallCompany, NeedsNoRateForACurrencyThatNoAccountHas) {
-    const auto host = Open(
-        "INSERT INTO WorldCurrency (InCurrencyId, CurrencyCode, Descr, Decimals) "
-        "VALUES (9, 'CHF', 'Swiss franc', 2);");
-    auto& info = host->CurrentCompany().GetCurrencyInfo();
-    Rates rates;
-    info.ConfigureExchangeRates(rates, Day("2025-03-31"), true, {});
-    EXPECT_TRUE(rates.reevaluate);
-    EXPECT_THAT(ErrorOf([&] { info.EvaluateValueWithExchangeRate(Rate(), 9, Amount("1"), rates); }),
-                AllOf(HasSubstr("CHF"), HasSubstr("2025-03-31")));
 }
 
 TEST_F(SmallCompany, DatesTheRatesOfAnOpenEndByTheNewest) {

@@ -111,11 +111,7 @@ TEST_P(EveryHost, FillsTheLatestRatesOnOrBeforeTheDate) {
 
 TEST_P(EveryHost, NamesCurrencyAndDateOfARateThatIsMissing) {
     Rates rates;
-    const auto configure = [&] {
-        currency_info_.ConfigureExchangeRates(rates, Day("2025-01-09"), true, {});
-    };
-    EXPECT_THAT(ErrorOf(configure),
-                testing::AllOf(testing::HasSubstr("JPY"), testing::HasSubstr("2025-01-09")));
+    currency_info_.ConfigureExchangeRates(rates, Day("2025-01-09"), true, {});
     EXPECT_EQ(Evaluated(2, "100", rates), "140.0000") << "other rates are there";
     EXPECT_THAT(ErrorOf([&] { Evaluated(4, "100", rates); }),
                 testing::AllOf(testing::HasSubstr("JPY"), testing::HasSubstr("2025-01-09")));

@@ -53,13 +53,14 @@ TEST(RealizedDetailTest, ShowsThePaymentWithItsRatesInTheCurrencyOfTheInvoice) {
     EXPECT_EQ(line.Text("txtInvoiId"), "F100");
     EXPECT_EQ(line.Text("txtChqNo"), "1207");
     EXPECT_EQ(line.Text("txtExchangeRate"), "1.3500");
-    EXPECT_EQ(line.Text("txtPmtRate"), "1.372512");
+    EXPECT_EQ(line.Text("txtPmtRate"), "1.3725");
+    EXPECT_EQ(line["txtPmtRate"].value, ControlValue(Rate::Parse("1.3725")));
     EXPECT_EQ(line.Text("txtPaid"), "1,000.00");
     EXPECT_EQ(line["txtPaid"].value, ControlValue(Currency::FromWhole(1'000)));
     EXPECT_EQ(line.Text("txtCurrencyCode"), "USD");
-    // 1000 x 1.372512 = 1372.512; 1372.51 - (27.00 + 1323.00).
-    EXPECT_EQ(line.Text("txtGain"), "22.51");
-    EXPECT_EQ(line["txtGain"].value, ControlValue(Currency::Parse("22.51")));
+    // The rate to four decimals: 1000 x 1.3725 = 1372.50; 1372.50 - (27.00 + 1323.00).
+    EXPECT_EQ(line.Text("txtGain"), "22.50");
+    EXPECT_EQ(line["txtGain"].value, ControlValue(Currency::Parse("22.50")));
 }
 
 TEST(RealizedDetailTest, NullsCountAsZeroAndADateThatIsMissingIsBlank) {

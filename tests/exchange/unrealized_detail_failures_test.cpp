@@ -23,10 +23,9 @@ TEST(UnrealizedDetailFailureTest, AMissingRateIsToldOnceAndShowsNoFigure) {
     DetailRun run;
     run.host->company.currency_info.rate_table.clear();
     const auto bands = run({Line("100", "130"), Line("200", "260")});
-    EXPECT_THAT(
-        run.host->message_boxes,
-        ElementsAre(AllOf(StartsWith("There is no exchange rate for USD on or before 2025-03-31"),
-                          HasSubstr(In("ActiveReport_ReportStart")))));
+    EXPECT_THAT(run.host->message_boxes,
+                ElementsAre(AllOf(StartsWith("There is no exchange rate for USD at 2025-03-31"),
+                                  HasSubstr(In("ActiveReport_ReportStart")))));
     EXPECT_TRUE(bands.Of("Detail").empty());
     EXPECT_EQ(FooterFigures(bands, "Period"), "- - - -");
     EXPECT_EQ(FooterFigures(bands, "Closing"), "- - - -");

@@ -16,17 +16,20 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 
-TEST(UnrealizedFailureTest, ARateThatTheCompanyHasNotIsToldAndNoTotalIsShown) {
+TEST(UnrealizedFailureTest, ARateThatTheCompanyHasNotIsToldWhereABalanceNeedsIt) {
     UnrealizedRun run;
     run.host->company.currency_info.rate_table[3].clear();
     const auto bands = run({{1'060, 2, "100", "130"}});
+    EXPECT_TRUE(run.host->message_boxes.empty()) << "no balance in EUR";
+    EXPECT_NE(bands.Texts("ReportFooter", "txtGainGrandTotal").at(0), "");
+
+    const auto missing = run({{1'065, 3, "1", "1"}, {1'060, 2, "100", "130"}});
     EXPECT_THAT(
         run.host->message_boxes,
         ElementsAre(MatchesRegex("There is no exchange rate for EUR on or before 2025-03-31\r\n"
-                                 "in Varnel.dsrUnRealExchProfitloss.ActiveReport_ReportStart at "
+                                 "in Varnel.dsrUnRealExchProfitloss.Detail_Format at "
                                  "line [1-9][0-9]*")));
-    EXPECT_TRUE(bands.Of("gfAccountType").empty());
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre(""));
+    EXPECT_THAT(missing.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre(""));
 }
 
 TEST(UnrealizedFailureTest, ABalanceThatCannotBeValuedLeavesBlankWhatItBelongsToAndIsToldOnce) {

@@ -33,19 +33,14 @@ void MemoryCurrencyInfo::ConfigureExchangeRates(IExchangeRates& target, Date dat
                                                 std::span<const std::string>) {
     calls_.Note("ConfigureExchangeRates");
     const auto rates = std::make_shared<RateCollection>();
-    std::string missing;
     for (const auto& record : records) {
         const auto& noted = rate_table[record.id];
         const auto after = noted.upper_bound(date);
-        if (after != noted.begin())
-            rates->Set(record.id, std::prev(after)->second);
-        else if (record.id != home_id)
-            missing = record.code;
+        if (after != noted.begin()) rates->Set(record.id, std::prev(after)->second);
     }
     target.IExchangeRates_ExchangeRates(rates);
     target.IExchangeRates_ExchangeRatesDate(date.ToIso());
     target.IExchangeRates_Reevaluate(records.size() > 1);
-    if (!missing.empty()) RaiseNoRate(missing, date.ToIso());
 }
 
 Currency MemoryCurrencyInfo::EvaluateValueWithExchangeRate(Rate booked_rate,
