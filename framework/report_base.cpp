@@ -1,5 +1,6 @@
 #include "framework/report_base.h"
 
+#include "framework/query_runner.h"
 #include "framework/standard_header.h"
 #include "framework/texts.h"
 #include "host/member_table.h"
@@ -53,8 +54,18 @@ void ReportBase::IReport_DateTo(Date date) {
         date_to_ = date;
         fiscal_year_start_.reset();
         if (facts_.by_fiscal_year && AppRef() != nullptr)
-            Mark(), fiscal_year_start_ = CurrentCompany().FiscalYearStart(date);
+            Mark(), fiscal_year_start_ = CompanyAsItIs().FiscalYearStart(date);
     });
+}
+
+void ReportBase::ReadHomeCurrency() {
+    Mark(), home_currency_id_ = CompanyAsItIs().GetCurrencyInfo().CieHomeCurrencyId();
+}
+
+Company& ReportBase::CompanyAsItIs() {
+    Company& company = CurrentCompany();
+    company.BeginRun();
+    return company;
 }
 
 Date ReportBase::FiscalYearStart() {
@@ -77,8 +88,7 @@ bool ReportBase::IReport_UseCurrency() {
 }
 
 void ReportBase::IReport_Initialize() {
-    Guard("IReport_Initialize",
-          [&] { Mark(), home_currency_id_ = GetCurrencyInfo().CieHomeCurrencyId(); });
+    Guard("IReport_Initialize", [&] { ReadHomeCurrency(); });
 }
 
 std::shared_ptr<BandedReport> ReportBase::IReport_ReportDesigner() { return shared_from_this(); }
@@ -89,12 +99,17 @@ std::string ReportBase::IReport_ReportTitle() {
     return title;
 }
 
+// What the host fails at costs that, and not what comes after it.
 void ReportBase::ActiveReport_Initialize() {
+    constexpr std::string_view kProcedure = "ActiveReport_Initialize";
     DesignedReport::ActiveReport_Initialize();
-    Guard("ActiveReport_Initialize", [&] {
-        Mark(), CurrentCompany().BeginRun();
-        Mark(), FillStandardHeader(GetSurface(), App(), IReport_ReportTitle());
+    Guard(kProcedure, [&] { ReadHomeCurrency(); });
+    Guard(kProcedure, [&] {
+        if (facts_.by_account_number)
+            Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers");
     });
+    Guard(kProcedure,
+          [&] { Mark(), FillStandardHeader(GetSurface(), App(), IReport_ReportTitle()); });
 }
 
 }  // namespace varnel::framework

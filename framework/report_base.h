@@ -16,6 +16,8 @@ class ReportBase : public DesignedReport, public IReport {
     struct Facts {
         std::int16_t title_text = 0;
         DateDisplay date_display = DateDisplay::kFromTo;
+        /// Whether the report shows accounts by number where the company wants it.
+        bool by_account_number = false;
         /// Whether the report asks for the start of the fiscal year.
         bool by_fiscal_year = false;
     };
@@ -41,6 +43,8 @@ class ReportBase : public DesignedReport, public IReport {
     /// Start of the fiscal year of the last date: as the host gave it when that date was set, if it
     /// could be asked then, else as it gives it now.
     Date FiscalYearStart();
+    /// The company's setting "UseAccountNumbers", as it was at the start of the run.
+    bool UseAccountNumbers() const { return use_account_numbers_; }
     bool DisplayForeignCurrency() const { return display_foreign_; }
     std::int32_t HomeCurrencyId() const { return home_currency_id_; }
     Company& CurrentCompany() { return App().CurrentContext().CurrentCompany(); }
@@ -48,11 +52,16 @@ class ReportBase : public DesignedReport, public IReport {
     CurrencyInfo& GetCurrencyInfo() { return CurrentCompany().GetCurrencyInfo(); }
 
   private:
+    /// The company without what it remembers of earlier runs.
+    Company& CompanyAsItIs();
+    void ReadHomeCurrency();
+
     Facts facts_;
     Date date_from_;
     Date date_to_;
     std::optional<Date> fiscal_year_start_;
     bool display_foreign_ = false;
+    bool use_account_numbers_ = false;
     std::int32_t home_currency_id_ = 0;
 };
 

@@ -78,8 +78,8 @@ class Company {
     virtual std::optional<Date> ItemAdjustmentStart() { return std::nullopt; }
     virtual bool UsesProjects() { return false; }
 
-    /// Told once at the start of every report run: a company that keeps what it has read forgets
-    /// it, so that the report sees the books as they are.
+    /// Told when a report is prepared and at the start of every run: a company that keeps what it
+    /// has read forgets it, so that the report sees the books as they are.
     virtual void BeginRun() {}
 
     virtual CurrencyInfo& GetCurrencyInfo() = 0;

@@ -46,8 +46,9 @@ std::string SelectedDocumentsClause(const std::vector<std::string>& keys) {
 }  // namespace
 
 dsrGeneralJournal::dsrGeneralJournal()
-    : ReportBase(GeneralJournalLayout(),
-                 {.title_text = 6173, .date_display = DateDisplay::kFromTo}),
+    : ReportBase(
+          GeneralJournalLayout(),
+          {.title_text = 6173, .date_display = DateDisplay::kFromTo, .by_account_number = true}),
       SegmentFilter(Members()),
       FilterableReport(Members()) {
     Handle("PageHeader_Format", &dsrGeneralJournal::PageHeader_Format);
@@ -73,12 +74,6 @@ void dsrGeneralJournal::JournalColumns::Resolve(const Columns& columns) {
     account_number = columns.At("GLAcctId");
     account_description = columns.At("Descr");
     project = columns.At("ProjId");
-}
-
-void dsrGeneralJournal::ActiveReport_Initialize() {
-    ReportBase::ActiveReport_Initialize();
-    Guard("ActiveReport_Initialize",
-          [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
 }
 
 void dsrGeneralJournal::ActiveReport_ReportStart() {
@@ -191,7 +186,7 @@ void dsrGeneralJournal::ShowAccount() {
     const Row& row = CurrentRow();
     const auto description = (Mark(), row.Text(columns_.account_description));
     text_.clear();
-    if (use_account_numbers_) row.AppendText(columns_.account_number, text_);
+    if (UseAccountNumbers()) row.AppendText(columns_.account_number, text_);
     if (!text_.empty() && !description.empty()) text_ += " - ";
     text_ += description;
     txtAccount.SetText(text_);

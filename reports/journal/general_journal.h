@@ -18,7 +18,6 @@ class dsrGeneralJournal final : public framework::ReportBase,
   public:
     dsrGeneralJournal();
 
-    void ActiveReport_Initialize() override;
     void ActiveReport_ReportStart() override;
 
   private:
@@ -56,7 +55,6 @@ class dsrGeneralJournal final : public framework::ReportBase,
     Totals entry_;
     Totals report_;
     std::int32_t entry_count_ = 0;
-    bool use_account_numbers_ = false;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.
 

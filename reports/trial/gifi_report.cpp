@@ -31,9 +31,10 @@ constexpr std::string_view kSelect =
 }  // namespace
 
 dsrGIFIReport::dsrGIFIReport()
-    : ReportBase(
-          GifiReportLayout(),
-          {.title_text = 30007, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
+    : ReportBase(GifiReportLayout(), {.title_text = 30007,
+                                      .date_display = DateDisplay::kFromTo,
+                                      .by_account_number = true,
+                                      .by_fiscal_year = true}),
       SegmentFilter(Members()),
       FilterableReport(Members()),
       RevaluedReport(Members()) {
@@ -50,12 +51,6 @@ void dsrGIFIReport::IReport_Initialize() {
         special_.reset();
         Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
     });
-}
-
-void dsrGIFIReport::ActiveReport_Initialize() {
-    ReportBase::ActiveReport_Initialize();
-    Guard("ActiveReport_Initialize",
-          [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
 }
 
 void dsrGIFIReport::ActiveReport_ReportStart() {
@@ -105,7 +100,7 @@ void dsrGIFIReport::ResolveColumns(const Columns& columns) {
 void dsrGIFIReport::ShowDescription() {
     const Row& row = CurrentRow();
     text_.clear();
-    if (use_account_numbers_) {
+    if (UseAccountNumbers()) {
         Mark(), row.AppendText(number_, text_);
         text_ += " - ";
     }

@@ -22,7 +22,6 @@ class dsrGIFIReport final : public framework::ReportBase,
     dsrGIFIReport();
 
     void IReport_Initialize() override;
-    void ActiveReport_Initialize() override;
     void ActiveReport_ReportStart() override;
 
   private:
@@ -43,7 +42,6 @@ class dsrGIFIReport final : public framework::ReportBase,
     std::optional<SpecialAccounts> special_;
     KnownSum total_;
     std::int32_t count_ = 0;
-    bool use_account_numbers_ = false;
     std::string text_;  // Scratch for texts built row by row.
 
     Section& PageHeader = SectionAt("PageHeader");

@@ -30,9 +30,10 @@ constexpr std::string_view kSelect =
 }  // namespace
 
 dsrTrialBalanceSummary::dsrTrialBalanceSummary()
-    : ReportBase(
-          TrialBalanceSummaryLayout(),
-          {.title_text = 30001, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
+    : ReportBase(TrialBalanceSummaryLayout(), {.title_text = 30001,
+                                               .date_display = DateDisplay::kFromTo,
+                                               .by_account_number = true,
+                                               .by_fiscal_year = true}),
       SegmentFilter(Members()),
       FilterableReport(Members()),
       RevaluedReport(Members()) {
@@ -53,12 +54,6 @@ void dsrTrialBalanceSummary::IReportConfig_ShowConfigurationScreen() {
     Guard("IReportConfig_ShowConfigurationScreen", [&] {
         Mark(), include_zero_balances_ = AskIncludeZeroBalance(App(), include_zero_balances_);
     });
-}
-
-void dsrTrialBalanceSummary::ActiveReport_Initialize() {
-    ReportBase::ActiveReport_Initialize();
-    Guard("ActiveReport_Initialize",
-          [&] { Mark(), use_account_numbers_ = ReadSwitch(App(), "UseAccountNumbers"); });
 }
 
 // A report that could not start knows no total.
@@ -111,9 +106,9 @@ void dsrTrialBalanceSummary::PlaceColumns() {
     const bool foreign = DisplayForeignCurrency();
     At("lblCurrency").SetVisible(foreign && foreign_used_);
     Control& code_caption = At("lblCodeCap");
-    txtAcctId.SetVisible(use_account_numbers_);
-    code_caption.SetVisible(use_account_numbers_);
-    const Twips left = use_account_numbers_ ? txtDescr.Place().left : txtAcctId.Place().left;
+    txtAcctId.SetVisible(UseAccountNumbers());
+    code_caption.SetVisible(UseAccountNumbers());
+    const Twips left = UseAccountNumbers() ? txtDescr.Place().left : txtAcctId.Place().left;
     const Twips right = (foreign ? txtCurrency : txtDebit).Place().left - kGap;
     for (Control* control : {&txtDescr, &At("lblDescrCap")}) {
         control->SetLeft(left);

@@ -25,7 +25,6 @@ class dsrTrialBalanceSummary final : public framework::ReportBase,
 
     void IReport_Initialize() override;
     void IReportConfig_ShowConfigurationScreen() override;
-    void ActiveReport_Initialize() override;
     void ActiveReport_ReportStart() override;
 
   private:
@@ -48,7 +47,6 @@ class dsrTrialBalanceSummary final : public framework::ReportBase,
     std::optional<SpecialAccounts> special_;
     DebitCredit totals_;
     bool include_zero_balances_ = false;
-    bool use_account_numbers_ = false;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.
 
