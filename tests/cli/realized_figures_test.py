@@ -20,8 +20,8 @@ SHEET = (
     (USD, 1, "2025-02-03", "12", 10.01, 0.07, 1.35, 1.36, "10.08", "0.11"),  # 13.71-(0.09+13.51)
     (USD, 1, "2025-02-10", "", 250.40, 0, 1.3725, 1.358, "250.40", "-3.63"),  # -3.6308
     (USD, 1, "2025-02-11", "13", None, 20, 1.35, 1.3725, "20.00", "0.45"),  # 27.45 - (27.00 + 0.00)
-    # 1234.56 x 0.022387 = 27.63809472
-    (USD, 1, "2025-02-12", "14", 1234.56, 0, 1.350125, 1.372512, "1,234.56", "27.64"),
+    # Rates to four decimals: 1234.56 x (1.3725 - 1.3501) = 27.654144
+    (USD, 1, "2025-02-12", "14", 1234.56, 0, 1.350125, 1.372512, "1,234.56", "27.65"),
     (USD, 1, "2025-02-13", "15", 50, None, 1.35, 1.3499, "50.00", "-0.01"),  # 50 x -0.0001 = -0.005
     (USD, 2, "2025-02-05", "501", 1000, 0, 1.35, 1.3725, "1,000.00", "-22.50"),  # 1000 x -0.0225
     (USD, 2, "2025-02-06", "502", 980, 20, 1.35, 1.3725, "1,000.00", "-22.50"),  # 1350-1372.5
@@ -43,14 +43,14 @@ SHEET = (
 LISTED = SHEET[:17]
 # Paid and gain of each group, and the gain of all.
 GROUPS = (
-    ("USD", "1062 - Trade receivables – US dollars", "3,565.04", "69.56"),
+    ("USD", "1062 - Trade receivables – US dollars", "3,565.04", "69.57"),
     ("USD", "2012 - Trade payables – US dollars", "2,110.08", "-182.14"),
     ("USD", "1030 - Bank – US dollar account", "510.08", "-5.50"),
     ("EUR", "1064 - Trade receivables – euros", "1,203.48", "4.77"),
     ("EUR", "2014 - Trade payables – euros", "707.17", "3.32"),
     ("EUR", None, "60.00", "0.00"),
 )
-TOTAL = "-109.99"
+TOTAL = "-109.98"
 KEYS = {1: "PMT", 2: "CDI", 3: "DEP"}
 
 # The payments as the tables have them, by group.
@@ -71,7 +71,7 @@ VARIANTS = (
 
 
 def exact(number, decimals):
-    return Decimal(repr(number or 0)).quantize(Decimal(1).scaleb(-decimals))
+    return Decimal(repr(number or 0)).quantize(Decimal(1).scaleb(-decimals), ROUND_HALF_UP)
 
 
 def cents(number):
@@ -143,8 +143,7 @@ class RealizedFigures(VarnelTest):
                 self.assertEqual(date, line["txtPmtDate"]["value"])
                 self.assertEqual(cheque, line.get("txtChqNo", {}).get("text", ""))
                 for control, number_in in (("txtExchangeRate", invoice_rate), ("txtPmtRate", rate)):
-                    six = f"{number_in or 0:.6f}"
-                    four = six[:-2] if six.endswith("00") else six
+                    four = f"{exact(number_in, 4):.4f}"
                     self.assertEqual(in_language(four, language), line[control]["text"])
                 self.assertEqual(f"INV|{100 + number}", line["txtInvoiId"]["key"])
                 key = f"{KEYS[kind]}|{200 + number}" if kind in KEYS else None
@@ -190,7 +189,7 @@ class RealizedFigures(VarnelTest):
                 (_, kind, date, name, invoice, cheque, invoice_rate, rate, amount, discount, code,
                  key, payment) = row
                 amount, discount = exact(amount, 4), exact(discount, 4)
-                gained = gain(kind, amount, discount, exact(invoice_rate, 8), exact(rate, 8))
+                gained = gain(kind, amount, discount, exact(invoice_rate, 4), exact(rate, 4))
                 lines.append((date, name, invoice, cheque, f"{invoice_rate:.4f}", f"{rate:.4f}",
                               f"{amount + discount:.4f}", code, f"{gained:.4f}", key,
                               f"{KEYS[kind]}|{payment}"))
