@@ -34,8 +34,8 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
     /// What the host sets before the run.
     struct Selection {
         bool hide_inactive = false;
-        std::string project_ids;
-        std::string account_ids;
+        std::string project_ids = {};
+        std::string account_ids = {};
         std::int32_t single_account = 0;
     };
     Selection& GetSelection() { return selection_; }

@@ -1,0 +1,156 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/trial/trial_run.h"
+
+namespace varnel {
+namespace {
+
+using test::DetailRun;
+using test::GifiRun;
+using test::Shown;
+using test::SummaryRun;
+using test::TrialRun;
+using testing::ElementsAre;
+
+// What the trial balances share: adjusting line, totals, header, options; and the GIFI report's
+// header.
+
+TrialRun PlainDetailRun() { return DetailRun(); }
+
+class TrialBalanceTest : public testing::TestWithParam<TrialRun (*)()> {
+  protected:
+    TrialRun run = GetParam()();
+};
+
+INSTANTIATE_TEST_SUITE_P(Both, TrialBalanceTest, testing::Values(SummaryRun, PlainDetailRun));
+
+struct Adjustment {
+    const char* name;
+    const char* debit;
+    const char* credit;
+    const char* segments;
+    bool also_none;
+    const char* totals;
+};
+
+constexpr Adjustment kAdjustments[] = {
+    {"more debits", "30", "-20", "3", false, "Others||10.00|30.00|30.00"},
+    {"more credits", "20", "-30.01", "3", false, "Others|10.01||30.01|30.01"},
+    {"lines without a segment", "30", "-20", "", true, "Others||10.00|30.00|30.00"},
+    {"in balance", "30", "-30", "3", false, "|||30.00|30.00"},
+    {"no filter", "30", "-20", "", false, "|||30.00|20.00"},
+};
+
+TEST_P(TrialBalanceTest, AnAdjustingLineMakesAFilteredBalanceEven) {
+    run.host->texts[8571] = "Others";
+    for (const auto& tried : kAdjustments) {
+        run.chart = {{1'010}, {4'000, 4}};
+        run.host->company.ledger.clear();
+        run.line_currencies.clear();
+        run.Post(1'010, "2025-02-15", tried.debit);
+        run.Post(4'000, "2025-02-15", tried.credit);
+        run.FilterSegments(tried.segments, tried.also_none);
+        EXPECT_THAT(Shown(run(), "ReportFooter",
+                          {"txtDescrAdj", "txtDebitAdj", "txtCreditAdj", "txtDebitGrandTotal",
+                           "txtCreditGrandTotal"}),
+                    ElementsAre(tried.totals))
+            << tried.name;
+    }
+}
+
+TEST_P(TrialBalanceTest, WithoutItsAdjustingLineTheFooterIsLower) {
+    run.chart = {{1'010}};
+    run.Post(1'010, "2025-02-15", "5");
+    const auto plain = run().Of("ReportFooter").at(0);
+    run.FilterSegments("3");
+    const auto adjusted = run().Of("ReportFooter").at(0);
+    const Twips line = adjusted["linDebitGrandTotal"].box.top - adjusted["txtDescrAdj"].box.top;
+    EXPECT_EQ(adjusted.height - plain.height, line);
+    for (const char* total : {"linDebitGrandTotal", "lblGrTotal", "txtCreditGrandTotal"})
+        EXPECT_EQ(adjusted[total].box.top - plain[total].box.top, line) << total;
+}
+
+TEST_P(TrialBalanceTest, WithoutRowsTotalsAreZero) {
+    EXPECT_THAT(
+        Shown(run(), "ReportFooter", {"txtDescrAdj", "txtDebitGrandTotal", "txtCreditGrandTotal"}),
+        ElementsAre("|0.00|0.00"));
+    EXPECT_TRUE(run.host->message_boxes.empty());
+}
+
+TEST_P(TrialBalanceTest, TheDialogOpensWithTheChoiceOfTheTimeBefore) {
+    run.IncludeZeroBalances();
+    std::vector<bool> visible;
+    bool checked = false;
+    run.host->use_dialog = [&](Form& form) {
+        for (const CheckBox* box : form.CheckBoxes()) visible.push_back(box->visible);
+        checked = form.CheckBoxes()[0]->checked;
+        form.CloseBox();
+    };
+    dynamic_cast<IReportConfig&>(*run.report).IReportConfig_ShowConfigurationScreen();
+    EXPECT_TRUE(checked);
+    EXPECT_THAT(visible, ElementsAre(true, false));
+}
+
+TEST_P(TrialBalanceTest, ThePeriodIsCaptionedTheOtherWayRound) {
+    const auto caption = [&] { return run().Of("PageHeader").at(0).Text("lblDateFromDateTo"); };
+    EXPECT_EQ(caption(), "3013 2025-02-01 3012 2025-03-31");
+    run.report->IReport_DateFrom(kOpenStart);
+    EXPECT_EQ(caption(), "3013 1899-12-31 3012 2025-03-31");
+    run.report->IReport_DateTo(kOpenEnd);
+    EXPECT_EQ(caption(), "1376");
+}
+
+TEST(TrialHeaderTest, RatesAreNotedWhenTheyRevalueInGifiWheneverThereAreAny) {
+    const auto note = [](TrialRun& run) {
+        return Shown(run(), "PageHeader", {"txtExchangeRate"}).at(0);
+    };
+    constexpr const char* kNote = "Rates: USD 1.2345; EUR 1.5555";
+    for (auto* make : {SummaryRun, PlainDetailRun, GifiRun}) {
+        TrialRun run = make();
+        run.host->texts[5914] = "Rates: {0}";
+        EXPECT_EQ(note(run), "");
+        run.Revalue();
+        EXPECT_EQ(note(run), kNote);
+        dynamic_cast<IExchangeRates&>(*run.report).IExchangeRates_Reevaluate(false);
+        EXPECT_EQ(note(run), make == GifiRun ? kNote : "");
+        run.Revalue();
+        run.host->company.currency_info.records.resize(1);
+        EXPECT_EQ(note(run), "");
+    }
+}
+
+std::vector<std::string> ColumnsOf(const TrialRun& run) {
+    std::vector<std::string> columns;
+    for (const auto& section : run.report->IReport_ReportDesigner()->GetSurface().Design().sections)
+        for (const auto& control : section.controls)
+            if (!control.column.empty()) columns.emplace_back(control.column);
+    return columns;
+}
+
+TEST(TrialExportTest, ForeignAmountsAndAccountNumbersHaveColumnsOfTheirOwn) {
+    EXPECT_THAT(ColumnsOf(SummaryRun()),
+                ElementsAre("account", "description", "foreign", "currency", "debit", "credit"));
+    EXPECT_THAT(ColumnsOf(GifiRun()), ElementsAre("gifi", "account", "description", "amount"));
+    EXPECT_THAT(
+        ColumnsOf(DetailRun()),
+        ElementsAre("account", "account_description", "forward", "forward_type", "unrealized",
+                    "unrealized_type", "entry", "source", "date", "description", "foreign",
+                    "currency", "debit", "credit", "balance", "balance_type"));
+}
+
+TEST(TrialHeaderTest, TheDetailsAdjustingBlockReadsLikeAnAccount) {
+    TrialRun run = DetailRun();
+    run.chart = {{1'010}};
+    run.Post(1'010, "2025-01-15", "2");
+    run.Post(1'010, "2025-02-15", "5");
+    run.FilterSegments("3");
+    EXPECT_THAT(Shown(run(), "ReportFooter",
+                      {"txtDetDescAdj", "txtCreditAdj", "txtBalanceAdj", "lblBalanceTypeAdj",
+                       "txtDebitTotalAdj", "txtCreditTotalAdj", "txtBalanceTotalAdj",
+                       "lblBalanceTotalTypeAdj", "txtBalanceGrandTotal"}),
+                ElementsAre("Shop|5.00|5.00|CT||5.00|5.00|CT|2.00"));
+}
+
+}  // namespace
+}  // namespace varnel
