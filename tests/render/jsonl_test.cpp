@@ -99,8 +99,14 @@ TEST_F(JsonLines, WriteEachKindOfValueExactly) {
 TEST_F(JsonLines, LeaveOutWhatIsNotVisibleTextOfTheBand) {
     At("txtDebit").SetText("hidden");
     At("txtDebit").SetVisible(false);
-    for (const char* name : {"linTop", "blkRoom", "lblPage", "subFilter"}) At(name).SetText("no");
+    for (const char* name : {"linTop", "lblPage", "subFilter"}) At(name).SetText("no");
     EXPECT_EQ(Written(), "{\"section\":\"Detail\",\"controls\":{}}\n");
+}
+
+TEST_F(JsonLines, CarryTheTextOfABlockThoughItIsNotPrinted) {
+    At("blkRoom").SetText("USD");
+    EXPECT_EQ(Written(),
+              "{\"section\":\"Detail\",\"controls\":{\"blkRoom\":{\"text\":\"USD\"}}}\n");
 }
 
 TEST_F(JsonLines, KeepAKeyWithoutText) {
