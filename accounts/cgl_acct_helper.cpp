@@ -71,16 +71,9 @@ Currency UnrealizedGain(Application& application, Date end_date, const RateColle
     return SumOfGains(*rows, info, rates, end_date.ToIso());
 }
 
-const Variant& Argument(Arguments arguments, std::size_t index) {
-    if (index >= arguments.size())
-        Raise(error_number::kInvalidArgument, "Varnel.CGLAcctHelper",
-              "The method takes more arguments than the " + std::to_string(arguments.size()) +
-                  " it was given");
-    return arguments[index];
-}
-
 Variant CallInit(CGLAcctHelper& helper, Arguments a) {
-    helper.Init(GuardFormB(kClass, "Init", [&] { return ObjectAs<Application>(Argument(a, 0)); }));
+    helper.Init(
+        GuardFormB(kClass, "Init", [&] { return ObjectAs<Application>(ArgumentAt(a, 0)); }));
     return {};
 }
 
@@ -93,8 +86,8 @@ struct UnrealizedArguments {
 
 Variant CallUnrealized(CGLAcctHelper& helper, Arguments a) {
     const auto read = GuardFormB(kClass, kUnrealized, [&]() -> UnrealizedArguments {
-        return {Argument(a, 0).ToDate(), Argument(a, 1).ToBool(),
-                ObjectAs<RateCollection>(Argument(a, 2)), Argument(a, 3).ToText()};
+        return {ArgumentAt(a, 0).ToDate(), ArgumentAt(a, 1).ToBool(),
+                ObjectAs<RateCollection>(ArgumentAt(a, 2)), ArgumentAt(a, 3).ToText()};
     });
     return helper.GetPLUnrealOnExchangeRateAmount(read.end_date, read.reevaluate, read.rates,
                                                   read.project_ids);

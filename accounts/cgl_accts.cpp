@@ -75,18 +75,10 @@ void Load(Recordset& rows, KeyedCollection<CGLAcct>& accounts) {
     Mark(), rows.MoveFirst();
 }
 
-const Variant& Argument(Arguments arguments, std::size_t index) {
-    if (index >= arguments.size())
-        Raise(error_number::kInvalidArgument, "Varnel.CGLAccts",
-              "The method takes more arguments than the " + std::to_string(arguments.size()) +
-                  " it was given");
-    return arguments[index];
-}
-
 // Arguments that are missing or of another type are failures of the method that they are for.
 template <class Read>
 auto ReadArgument(std::string_view method, Arguments arguments, std::size_t index, Read read) {
-    return GuardFormB(kClass, method, [&] { return read(Argument(arguments, index)); });
+    return GuardFormB(kClass, method, [&] { return read(ArgumentAt(arguments, index)); });
 }
 
 std::int32_t AsInteger(const Variant& value) { return value.ToInteger32(); }

@@ -43,13 +43,6 @@ Variant AsVariant(const ReportRef& report) {
     return report == nullptr ? ObjectRef() : ObjectRef(report->IReport_ReportDesigner());
 }
 
-const Variant& Argument(std::span<const Variant> arguments, std::size_t index) {
-    if (index >= arguments.size())
-        Raise(error_number::kInvalidArgument, "Varnel.clsReport",
-              "The method needs " + std::to_string(index + 1) + " arguments or more");
-    return arguments[index];
-}
-
 using Arguments = std::span<const Variant>;
 
 template <ReportRef (clsReport::*method)()>
@@ -60,14 +53,14 @@ Variant CallPlain(clsReport& factory, Arguments) {
 constexpr Member<clsReport> kMembers[] = {
     {"TrialBalanceDetail", nullptr, nullptr,
      [](clsReport& f, Arguments a) {
-         return AsVariant(f.TrialBalanceDetail(Argument(a, 0).ToBool()));
+         return AsVariant(f.TrialBalanceDetail(ArgumentAt(a, 0).ToBool()));
      }},
     {"BalanceSheet", nullptr, nullptr, CallPlain<&clsReport::BalanceSheet>},
     {"IncomeStatement", nullptr, nullptr, CallPlain<&clsReport::IncomeStatement>},
     {"IncomeStatementProj", nullptr, nullptr,
      [](clsReport& f, Arguments a) {
-         return AsVariant(f.IncomeStatementProj(Argument(a, 0).ToText(), Argument(a, 1).ToDate(),
-                                                Argument(a, 2).ToDate()));
+         return AsVariant(f.IncomeStatementProj(
+             ArgumentAt(a, 0).ToText(), ArgumentAt(a, 1).ToDate(), ArgumentAt(a, 2).ToDate()));
      }},
     {"ComparativeIncomeStatement", nullptr, nullptr,
      CallPlain<&clsReport::ComparativeIncomeStatement>},
@@ -79,7 +72,7 @@ constexpr Member<clsReport> kMembers[] = {
      CallPlain<&clsReport::CurrentBankReconciliation>},
     {"GeneralLedger", nullptr, nullptr,
      [](clsReport& f, Arguments a) {
-         return AsVariant(f.GeneralLedger(Argument(a, 0).ToInteger16()));
+         return AsVariant(f.GeneralLedger(ArgumentAt(a, 0).ToInteger16()));
      }},
     {"GeneralLedgerByAccount", nullptr, nullptr, CallPlain<&clsReport::GeneralLedgerByAccount>},
     {"GeneralJournal", nullptr, nullptr, CallPlain<&clsReport::GeneralJournal>},

@@ -34,23 +34,21 @@ constexpr std::int16_t kIncludeZeroBalance = 1;
 constexpr std::int16_t kShowComments = 2;
 
 Variant CallProperties(frmGLConfig& form, std::span<const Variant> arguments) {
-    const auto index = ArgumentOf("Properties", arguments, 0).ToInteger16();
+    const auto index = ArgumentAt(arguments, 0).ToInteger16();
     if (arguments.size() == 1) return form.Properties(index);
     form.Properties(index, arguments[1].ToInteger16() == kTrue);
     return {};
 }
 
 Variant CallShowProperty(frmGLConfig& form, std::span<const Variant> arguments) {
-    const auto index = ArgumentOf("ShowProperty", arguments, 0).ToInteger16();
-    form.ShowProperty(index, ArgumentOf("ShowProperty", arguments, 1).ToBool());
+    const auto index = ArgumentAt(arguments, 0).ToInteger16();
+    form.ShowProperty(index, ArgumentAt(arguments, 1).ToBool());
     return {};
 }
 
 Variant CallPrepare(frmGLConfig& form, std::span<const Variant> arguments) {
-    constexpr std::string_view kName = "PrepareInvConfigDialog";
-    auto application = ObjectAs<Application>(ArgumentOf(kName, arguments, 0));
-    form.PrepareInvConfigDialog(std::move(application),
-                                ArgumentOf(kName, arguments, 1).ToInteger16());
+    auto application = ObjectAs<Application>(ArgumentAt(arguments, 0));
+    form.PrepareInvConfigDialog(std::move(application), ArgumentAt(arguments, 1).ToInteger16());
     return {};
 }
 

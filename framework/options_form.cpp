@@ -68,12 +68,4 @@ void OptionsForm::TranslateForm() {
     });
 }
 
-const Variant& ArgumentOf(std::string_view member, std::span<const Variant> arguments,
-                          std::size_t index) {
-    if (index >= arguments.size())
-        Raise(error_number::kInvalidArgument, "Varnel",
-              std::string(member) + " needs " + std::to_string(index + 1) + " arguments or more");
-    return arguments[index];
-}
-
 }  // namespace varnel::framework

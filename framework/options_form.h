@@ -94,8 +94,4 @@ inline std::shared_ptr<Application> Borrowed(Application& application) {
     return {std::shared_ptr<void>(), &application};
 }
 
-/// The argument at that place; error 5 naming the member when there are fewer.
-const Variant& ArgumentOf(std::string_view member, std::span<const Variant> arguments,
-                          std::size_t index);
-
 }  // namespace varnel::framework

@@ -34,6 +34,14 @@ std::shared_ptr<T> ObjectAs(const Variant& value) {
     return wanted;
 }
 
+/// The argument of a call at that place; error 5 when there are fewer.
+inline const Variant& ArgumentAt(std::span<const Variant> arguments, std::size_t index) {
+    if (index < arguments.size()) return arguments[index];
+    throw Error(error_number::kInvalidArgument, "Varnel",
+                "The method takes more arguments than the " + std::to_string(arguments.size()) +
+                    " it was given");
+}
+
 /// The member of that name, or null.
 template <class T>
 const Member<T>* FindMember(std::span<const Member<T>> table, std::string_view name) {

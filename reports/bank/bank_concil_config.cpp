@@ -4,7 +4,6 @@ namespace varnel::reports {
 
 namespace {
 
-using framework::ArgumentOf;
 using framework::DesignedOption;
 using framework::Mark;
 using framework::OptionsFormDesign;
@@ -31,8 +30,7 @@ constexpr Member<FBankConcilConfig> kMembers[] = {
      }},
     {"PrepareConfigDialog", nullptr, nullptr,
      [](FBankConcilConfig& form, std::span<const Variant> arguments) {
-         form.PrepareConfigDialog(
-             ObjectAs<Application>(ArgumentOf("PrepareConfigDialog", arguments, 0)));
+         form.PrepareConfigDialog(ObjectAs<Application>(ArgumentAt(arguments, 0)));
          return Variant();
      }},
 };

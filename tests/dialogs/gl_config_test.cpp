@@ -41,7 +41,7 @@ TEST(GLConfig, LateBoundOnlyTrueChecksABox) {
     EXPECT_EQ(checked_by(-1), -1);
     EXPECT_EQ(checked_by(false), 0);
     EXPECT_EQ(test::DescriptionOf([&] { form.Call("Properties", {}); }),
-              "Properties needs 1 arguments or more");
+              "The method takes more arguments than the 0 it was given");
     EXPECT_EQ(test::ErrorOf([&] { form.Get("Colour"); }), error_number::kUnknownMember);
 }
 
