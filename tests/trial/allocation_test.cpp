@@ -1,23 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "tests/support/allocation_count.h"
+#include "tests/support/allocations_between.h"
 #include "tests/trial/trial_run.h"
 
 namespace varnel {
 namespace {
-
-/// Counts what is allocated between the header of the only account and its footer.
-class AllocationsOfAnAccount final : public engine::BandSink {
-  public:
-    long count = 0;
-
-    void Begin(const engine::DocumentInfo&, const Surface&) override {}
-    void End() override {}
-    void Write(const Section& section, const engine::BandMark&) override {
-        if (section.Name() == "ghAccount") count = -test::AllocationCount();
-        if (section.Name() == "gfAccount") count += test::AllocationCount();
-    }
-};
 
 long AllocationsOf(int lines) {
     test::TrialRun run = test::DetailRun();
@@ -27,10 +14,10 @@ long AllocationsOf(int lines) {
     run.Revalue();
     run.host->calls.StopCounting();
     run.Prepare();
-    AllocationsOfAnAccount sink;
-    engine::RunToBands(*run.report->IReport_ReportDesigner(), {}, sink);
+    const long count =
+        test::AllocationsBetween("ghAccount", "gfAccount", *run.report->IReport_ReportDesigner());
     EXPECT_TRUE(run.host->message_boxes.empty());
-    return sink.count;
+    return count;
 }
 
 TEST(DetailAllocationTest, ALineAllocatesNothing) {
