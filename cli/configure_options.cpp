@@ -21,6 +21,20 @@ void AnswerByOptions(IReportConfig& report, RunDialogs& dialogs, const OptionAns
     }
 }
 
+/// Has a service answer as long as it lives.
+class Answering {
+  public:
+    Answering(DialogService*& current, DialogService& service) : current_(current) {
+        current_ = &service;
+    }
+    ~Answering() { current_ = nullptr; }
+    Answering(const Answering&) = delete;
+    Answering& operator=(const Answering&) = delete;
+
+  private:
+    DialogService*& current_;
+};
+
 }  // namespace
 
 OptionAnswers::value_type ReadAnswer(const std::string& option) {
@@ -47,9 +61,10 @@ void RunDialogs::ShowModal(Form& form) {
 }
 
 void RunDialogs::Configure(IReportConfig& report, DialogService& service) {
-    service_ = &service;
-    report.IReportConfig_ShowConfigurationScreen();
-    service_ = nullptr;
+    {
+        const Answering answering(service_, service);
+        report.IReportConfig_ShowConfigurationScreen();
+    }
     if (failure_ != nullptr) std::rethrow_exception(std::exchange(failure_, nullptr));
 }
 
