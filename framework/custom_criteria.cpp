@@ -1,12 +1,22 @@
 #include "framework/custom_criteria.h"
 
+#include "framework/texts.h"
+
 namespace varnel::framework {
+
+namespace {
+
+std::string UnlessBlank(std::string_view part) {
+    return std::string(Trimmed(part).empty() ? std::string_view() : part);
+}
+
+}  // namespace
 
 CustomCriteria CustomCriteria::Split(std::string_view filter) {
     const auto bar = filter.find('|');
-    if (bar == std::string_view::npos) return {std::string(filter), {}};
+    if (bar == std::string_view::npos) return {UnlessBlank(filter), {}};
     const auto rest = filter.substr(bar + 1);
-    return {std::string(filter.substr(0, bar)), std::string(rest.substr(0, rest.find('|')))};
+    return {UnlessBlank(filter.substr(0, bar)), UnlessBlank(rest.substr(0, rest.find('|')))};
 }
 
 std::string CustomCriteria::AndClause() const {

@@ -10,7 +10,8 @@
 
 namespace varnel::framework {
 
-/// A user's filter: the text before "|" and the text between it and the next "|".
+/// A user's filter: the text before "|" and the text between it and the next "|", as they stand;
+/// one of nothing but blanks is empty.
 struct CustomCriteria {
     std::string criteria;
     std::string ordering;

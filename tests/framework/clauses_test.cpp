@@ -53,17 +53,18 @@ TEST_P(CustomCriteriaTest, AreSplitAtTheFirstTwoBars) {
 
 INSTANTIATE_TEST_SUITE_P(
     Filters, CustomCriteriaTest,
-    testing::Values(CriteriaCase{"", "", "", "", " ORDER BY D"},
-                    CriteriaCase{"|", "", "", "", " ORDER BY D"},
-                    CriteriaCase{"A = 1", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
-                    CriteriaCase{"A = 1|", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
-                    CriteriaCase{"|B", "", "B", "", " ORDER BY S, B"},
-                    CriteriaCase{"A = 1|B DESC", "A = 1", "B DESC", " AND (A = 1) ",
-                                 " ORDER BY S, B DESC"},
-                    CriteriaCase{"A|B|C", "A", "B", " AND (A) ", " ORDER BY S, B"},
-                    CriteriaCase{"||C", "", "", "", " ORDER BY D"},
-                    CriteriaCase{"A||", "A", "", " AND (A) ", " ORDER BY D"},
-                    CriteriaCase{" ", " ", "", " AND ( ) ", " ORDER BY D"}));
+    testing::Values(
+        CriteriaCase{"", "", "", "", " ORDER BY D"}, CriteriaCase{"|", "", "", "", " ORDER BY D"},
+        CriteriaCase{"A = 1", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
+        CriteriaCase{"A = 1|", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
+        CriteriaCase{"|B", "", "B", "", " ORDER BY S, B"},
+        CriteriaCase{"A = 1|B DESC", "A = 1", "B DESC", " AND (A = 1) ", " ORDER BY S, B DESC"},
+        CriteriaCase{"A|B|C", "A", "B", " AND (A) ", " ORDER BY S, B"},
+        CriteriaCase{"||C", "", "", "", " ORDER BY D"},
+        CriteriaCase{"A||", "A", "", " AND (A) ", " ORDER BY D"},
+        CriteriaCase{" A = 1 | B ", " A = 1 ", " B ", " AND ( A = 1 ) ", " ORDER BY S,  B "},
+        CriteriaCase{" |  ", "", "", "", " ORDER BY D"},
+        CriteriaCase{" ", "", "", "", " ORDER BY D"}));
 
 }  // namespace
 }  // namespace varnel::framework
