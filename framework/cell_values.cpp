@@ -28,4 +28,29 @@ void ReadDocumentKey(const Row& row, Column source, Column key, std::string& out
     row.AppendText(key, out);
 }
 
+namespace {
+
+/// Between the parts of `caption`, the second of which begins at `second`.
+void SeparateParts(std::string& caption, std::size_t second) {
+    if (second > 0 && second < caption.size()) caption.insert(second, " - ");
+}
+
+}  // namespace
+
+std::string AccountCaption(std::string number, std::string_view description) {
+    const std::size_t second = number.size();
+    number += description;
+    SeparateParts(number, second);
+    return number;
+}
+
+void ReadAccountCaption(const Row& row, Column number, Column description, bool with_number,
+                        std::string& out) {
+    out.clear();
+    if (with_number) row.AppendText(number, out);
+    const std::size_t second = out.size();
+    row.AppendText(description, out);
+    SeparateParts(out, second);
+}
+
 }  // namespace varnel::framework

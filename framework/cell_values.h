@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "host/application.h"
 #include "host/currency_info.h"
@@ -25,5 +26,11 @@ void PutAmountIn(CurrencyInfo& info, Control& control, Currency amount, std::int
 
 /// The drill-down key of the document that posted a row: its source and its key there, "GJ|1043".
 void ReadDocumentKey(const Row& row, Column source, Column key, std::string& out);
+
+/// "1060 - Bank, US dollars"; without number or description the other one alone.
+std::string AccountCaption(std::string number, std::string_view description);
+/// The same from a row, its number only when that is wanted.
+void ReadAccountCaption(const Row& row, Column number, Column description, bool with_number,
+                        std::string& out);
 
 }  // namespace varnel::framework

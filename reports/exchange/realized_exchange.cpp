@@ -185,7 +185,7 @@ void dsrRealizedExchProfitloss::ghCurrPmtType_Format() {
     Mark(), payment_type_ = CurrentRow().Integer(columns_.type);
     const std::int32_t account_id = ControlAccountId();
     if (account_id == 0) return;
-    Mark(), txtAccount.SetText(AccountCaption(*accounts_, account_id, UseAccountNumbers()));
+    Mark(), txtAccount.SetText(CaptionOf(*accounts_, account_id, UseAccountNumbers()));
     txtAccount.SetTag(AccountKey(account_id));
 }
 

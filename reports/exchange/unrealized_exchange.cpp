@@ -82,8 +82,8 @@ void dsrUnRealExchProfitloss::ActiveReport_ReportStart() {
         report_.known = false;
         Mark(), ConfigureRates(GetCurrencyInfo(), DateTo(), FilterPieces());
         Mark(), revaluer_.emplace(GetCurrencyInfo(), *this);
-        accounts_ = {};
-        Mark(), accounts_.Init(AppRef(), 0);
+        accounts_.emplace();
+        Mark(), accounts_->Init(AppRef(), 0);
         const std::string statement = BuildStatement();
         const Variant parameters[] = {HomeCurrencyId(), HomeCurrencyId(), DateTo()};
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
@@ -95,6 +95,8 @@ void dsrUnRealExchProfitloss::ActiveReport_ReportStart() {
         Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), {}, nullptr);
     });
 }
+
+void dsrUnRealExchProfitloss::ActiveReport_Terminate() { accounts_.reset(); }
 
 std::string dsrUnRealExchProfitloss::BuildStatement() {
     std::string statement(kSelect);
@@ -161,7 +163,7 @@ void dsrUnRealExchProfitloss::gfAccountType_Format() {
     SetAccountKey();
     AddAccount(account);
     PutTotals(account_totals_, account);
-    Mark(), txtAccount.SetText(AccountCaption(accounts_, account_id_, true));
+    Mark(), txtAccount.SetText(CaptionOf(*accounts_, account_id_, true));
     if (account.known) PutAmount(txtForeign, foreign, currency_id_);
 }
 

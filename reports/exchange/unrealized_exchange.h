@@ -24,6 +24,7 @@ class dsrUnRealExchProfitloss final : public framework::ReportBase,
     dsrUnRealExchProfitloss();
 
     void ActiveReport_ReportStart() override;
+    void ActiveReport_Terminate() override;
 
   private:
     /// In home currency. What they stand for is worth an unknown amount when a balance could not
@@ -61,7 +62,7 @@ class dsrUnRealExchProfitloss final : public framework::ReportBase,
     framework::LedgerBalanceColumns columns_;
     Column account_column_;
     std::optional<framework::Revaluer> revaluer_;
-    CGLAccts accounts_;
+    std::optional<CGLAccts> accounts_;
     Currency account_foreign_;
     Totals account_;
     Totals currency_;

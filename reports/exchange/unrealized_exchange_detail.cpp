@@ -116,7 +116,7 @@ void Report::ActiveReport_ReportStart() {
 void Report::ShowNames() {
     CGLAccts accounts;
     Mark(), accounts.Init(AppRef(), 0);
-    const std::string account = (Mark(), AccountCaption(accounts, gl_acct_id_, true));
+    const std::string account = (Mark(), CaptionOf(accounts, gl_acct_id_, true));
     Mark(), currency_code_ = GetCurrencyInfo().GetCurrencies().Item(ex_currency_id_).code;
     Control& caption = At("lblForeignCap");
     caption.SetText(caption.Text() + " " + currency_code_);

@@ -76,10 +76,11 @@ void dsrGeneralJournal::JournalColumns::Resolve(const Columns& columns) {
     project = columns.At("ProjId");
 }
 
+// A report that could not start knows no total.
 void dsrGeneralJournal::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
         entry_ = {};
-        report_ = {};
+        report_.Lose();
         entry_count_ = 0;
         foreign_used_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
@@ -90,6 +91,7 @@ void dsrGeneralJournal::ActiveReport_ReportStart() {
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
         Mark(), columns_.Resolve(rows->GetColumns());
         Data().Attach(std::move(rows));
+        report_ = {};
         Mark(), At(kPeriodLabel).SetText(JournalPeriodCaption(App(), DateFrom(), DateTo()));
         const auto custom = Criteria();
         Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());
@@ -136,11 +138,12 @@ void dsrGeneralJournal::PutAmount(Control& control, Currency amount) {
     Mark(), PutAmountIn(GetCurrencyInfo(), control, amount, HomeCurrencyId(), text_);
 }
 
-void dsrGeneralJournal::PutTotals(Control& debit, Control& credit, const Totals& totals) {
+void dsrGeneralJournal::PutTotals(Control& debit, Control& credit, const DebitCredit& totals) {
     debit.Clear();
     credit.Clear();
-    PutAmount(debit, totals.debit);
-    PutAmount(credit, totals.credit);
+    if (!totals.Known()) return;
+    PutAmount(debit, totals.debit.Value());
+    PutAmount(credit, totals.credit.Value());
 }
 
 void dsrGeneralJournal::PageHeader_Format() { ReplacePageHeaderControls(PageHeader); }
@@ -183,13 +186,16 @@ bool dsrGeneralJournal::ShowsForeignAmount() const {
 }
 
 void dsrGeneralJournal::ShowAccount() {
-    const Row& row = CurrentRow();
-    const auto description = (Mark(), row.Text(columns_.account_description));
-    text_.clear();
-    if (UseAccountNumbers()) row.AppendText(columns_.account_number, text_);
-    if (!text_.empty() && !description.empty()) text_ += " - ";
-    text_ += description;
+    ReadAccountCaption(CurrentRow(), columns_.account_number, columns_.account_description,
+                       UseAccountNumbers(), text_);
     txtAccount.SetText(text_);
+}
+
+void dsrGeneralJournal::ShowProject() {
+    const Row& row = CurrentRow();
+    text_.clear();
+    if (!row.IsNull(columns_.project_id)) row.AppendText(columns_.project, text_);
+    txtProject.SetText(text_);
 }
 
 void dsrGeneralJournal::ShowForeignAmount() {
@@ -201,43 +207,33 @@ void dsrGeneralJournal::ShowForeignAmount() {
     txtForeignCode.SetVisible(true);
 }
 
-// Both or neither: a total that overflows must not part entry and report.
-void dsrGeneralJournal::AddToTotals(Currency amount) {
-    const auto side = amount > Currency() ? &Totals::debit : &Totals::credit;
-    const Currency entry_total = entry_.*side + amount.Abs();
-    report_.*side += amount.Abs();
-    entry_.*side = entry_total;
-}
-
-// A line whose amount cannot be read shows none, least of all that of the line before.
-Currency dsrGeneralJournal::ReadAmount() {
-    try {
-        return CurrentRow().Amount(columns_.amount);
-    } catch (...) {
-        txtDebit.Clear();
-        txtCredit.Clear();
-        throw;
-    }
+// A line whose amount cannot be read or added shows none, least of all that of the line before, and
+// leaves no total without it.
+Currency dsrGeneralJournal::AddLine() try {
+    const Currency amount = (Mark(), CurrentRow().Amount(columns_.amount));
+    Mark(), entry_.Add(amount);
+    Mark(), report_.Add(amount);
+    return amount;
+} catch (...) {
+    txtDebit.Clear();
+    txtCredit.Clear();
+    entry_.Lose();
+    report_.Lose();
+    throw;
 }
 
 // A line of zero leaves both amounts as the line before it left them. The totals are added up and
 // the texts of the line before are gone before the host is asked for anything.
 void dsrGeneralJournal::Detail_Format() {
     if (EndOfData()) return;
-    const Row& row = CurrentRow();
     ShowAccount();
+    ShowProject();
     txtForeign.SetVisible(false);
     txtForeignCode.SetVisible(false);
-    if (row.IsNull(columns_.project_id))
-        txtProject.Clear();
-    else
-        Mark(), txtProject.SetText(row.Text(columns_.project));
-
-    const Currency amount = (Mark(), ReadAmount());
+    const Currency amount = AddLine();
     if (!amount.IsZero()) {
         txtDebit.Clear();
         txtCredit.Clear();
-        Mark(), AddToTotals(amount);
         PutAmount(amount > Currency() ? txtDebit : txtCredit, amount.Abs());
     }
     if (ShowsForeignAmount()) ShowForeignAmount();

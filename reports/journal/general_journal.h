@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "framework/custom_criteria.h"
+#include "framework/debit_credit.h"
 #include "framework/report_base.h"
 #include "framework/segment_filter.h"
 
@@ -21,11 +21,6 @@ class dsrGeneralJournal final : public framework::ReportBase,
     void ActiveReport_ReportStart() override;
 
   private:
-    /// Amounts are debit positive; the credit side accumulates as a positive number.
-    struct Totals {
-        Currency debit;
-        Currency credit;
-    };
     struct JournalColumns {
         Column currency_id, seq_no, amount, foreign_amount, date, description, reference, source,
             source_key, remarks, project_id, account_number, account_description, project;
@@ -36,13 +31,13 @@ class dsrGeneralJournal final : public framework::ReportBase,
     void MoveAmountColumns();
     bool ShowsForeignAmount() const;
     void ShowAccount();
+    void ShowProject();
     void ShowForeignAmount();
     void ShowDate();
-    void AddToTotals(Currency amount);
-    Currency ReadAmount();
+    Currency AddLine();
     /// Home-currency text and value in one.
     void PutAmount(Control& control, Currency amount);
-    void PutTotals(Control& debit, Control& credit, const Totals& totals);
+    void PutTotals(Control& debit, Control& credit, const framework::DebitCredit& totals);
 
     void PageHeader_Format();
     void ghSeqNo_Format();
@@ -52,8 +47,8 @@ class dsrGeneralJournal final : public framework::ReportBase,
     void ReportFooter_Format();
 
     JournalColumns columns_;
-    Totals entry_;
-    Totals report_;
+    framework::DebitCredit entry_;
+    framework::DebitCredit report_;
     std::int32_t entry_count_ = 0;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.

@@ -4,18 +4,22 @@
 
 namespace varnel::reports {
 
-SpecialAccounts ReadEarningsAccounts(Company& company) {
-    return {.retained_earnings = company.GetGLAccountParam("GLRtainEarn", kCompanySection),
-            .current_earnings = company.GetGLAccountParam("GLCurntEarn", kCompanySection)};
+EarningsAccounts ReadEarningsAccounts(Company& company) {
+    return {.retained = company.GetGLAccountParam("GLRtainEarn", kCompanySection),
+            .current = company.GetGLAccountParam("GLCurntEarn", kCompanySection)};
 }
 
 AccountAmounts::AccountAmounts(Company& company, IExchangeRates& rates,
-                               const SpecialAccounts& special, const Period& period)
+                               const EarningsAccounts& earnings, const Period& period)
     : company_(company),
       rates_(rates),
-      special_(special),
-      period_(period),
-      home_currency_id_(company.GetCurrencyInfo().CieHomeCurrencyId()) {}
+      earnings_(earnings),
+      unrealized_account_id_(company.GetCurrencyInfo().UnrealizedGainLossAcctId()),
+      home_currency_id_(company.GetCurrencyInfo().CieHomeCurrencyId()),
+      since_beginning_{kOpenStart, period.to, period.segment_clause, period.project_ids},
+      since_year_start_(since_beginning_) {
+    since_year_start_.from = period.year_start;
+}
 
 void AccountAmounts::Resolve(const Columns& columns) {
     id_ = columns.At("InGLAcctId");
@@ -34,14 +38,10 @@ TrialAccount AccountAmounts::Read(const Row& row) try {
     throw;
 }
 
-BalanceScope AccountAmounts::ScopeFrom(Date from) const {
-    return {from, period_.to, period_.segment_clause, period_.project_ids};
-}
-
-BalanceScope AccountAmounts::ScopeOf(const TrialAccount& account) {
+const BalanceScope& AccountAmounts::ScopeOf(const TrialAccount& account) {
     const bool of_the_year =
         company_.GetAccountTypes().Class(account.type) == AccountTypes::kIncomeStatementClass;
-    return ScopeFrom(of_the_year ? period_.year_start : kOpenStart);
+    return of_the_year ? since_year_start_ : since_beginning_;
 }
 
 Currency AccountAmounts::ForeignBalance(const TrialAccount& account) {
@@ -49,7 +49,7 @@ Currency AccountAmounts::ForeignBalance(const TrialAccount& account) {
 }
 
 framework::LedgerBalance AccountAmounts::ForeignAndHome(const TrialAccount& account) try {
-    const BalanceScope scope = ScopeOf(account);
+    const BalanceScope& scope = ScopeOf(account);
     auto& balances = company_.Balances();
     return {.currency_id = account.currency_id,
             .booked_rate = {},
@@ -80,9 +80,8 @@ Currency AccountAmounts::Unrealized() const {
 Currency AccountAmounts::BalanceOf(const TrialAccount& account) {
     if (IsRetainedEarnings(account)) {
         auto& balances = company_.Balances();
-        const BalanceScope scope = ScopeFrom(kOpenStart);
-        return balances.AccountBalance(account.id, scope, false) +
-               balances.EarningsBefore(period_.year_start, scope);
+        return balances.AccountBalance(account.id, since_beginning_, false) +
+               balances.EarningsBefore(since_year_start_.from, since_beginning_);
     }
     if (Revalues(account.currency_id)) return Revalue(ForeignAndHome(account));
     return company_.Balances().AccountBalance(account.id, ScopeOf(account), false);
@@ -95,7 +94,7 @@ Currency AccountAmounts::Amount(const TrialAccount& account) {
 }
 
 std::string AccountAmounts::Key(const TrialAccount& account) const {
-    if (IsRetainedEarnings(account) || account.id == special_.current_earnings) return {};
+    if (IsRetainedEarnings(account) || account.id == earnings_.current) return {};
     const std::string id = std::to_string(account.id);
     return IsUnrealized(account) ? "GLUnrealized|" + id : id;
 }

@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <string>
 
+#include "framework/known_sum.h"
 #include "framework/revalued_report.h"
 #include "host/company.h"
 #include "host/exchange_rates.h"
 #include "host/row.h"
-#include "reports/trial/known_sum.h"
 
 namespace varnel::reports {
 
@@ -19,15 +19,13 @@ struct TrialAccount {
     std::int32_t currency_id = 0;
 };
 
-/// Accounts with a rule of their own, by internal id; 0 where the company has none.
-struct SpecialAccounts {
-    std::int32_t retained_earnings = 0;
-    std::int32_t current_earnings = 0;
-    std::int32_t unrealized = 0;
+/// The company's accounts of earnings, by internal id; 0 where it has none.
+struct EarningsAccounts {
+    std::int32_t retained = 0;
+    std::int32_t current = 0;
 };
 
-/// Retained and current earnings, as the company's parameters have them.
-SpecialAccounts ReadEarningsAccounts(Company& company);
+EarningsAccounts ReadEarningsAccounts(Company& company);
 
 /// What trial balances and the GIFI report say an account's balance is, debit positive. Income
 /// statement accounts count from the start of the year, all others from the beginning; retained
@@ -46,7 +44,7 @@ class AccountAmounts {
     };
 
     /// Company and rates must outlive it. Before Read comes Resolve.
-    AccountAmounts(Company& company, IExchangeRates& rates, const SpecialAccounts& special,
+    AccountAmounts(Company& company, IExchangeRates& rates, const EarningsAccounts& earnings,
                    const Period& period);
 
     /// The columns InGLAcctId, AcctType and ExCurrencyId of the account.
@@ -55,10 +53,10 @@ class AccountAmounts {
 
     std::int32_t HomeCurrencyId() const { return home_currency_id_; }
     bool IsRetainedEarnings(const TrialAccount& account) const {
-        return account.id == special_.retained_earnings;
+        return account.id == earnings_.retained;
     }
     bool IsUnrealized(const TrialAccount& account) const {
-        return account.id == special_.unrealized;
+        return account.id == unrealized_account_id_;
     }
     /// The account's balance as it prints. Of the unrealized account, with revaluation, it is minus
     /// the difference that the accounts asked for before it have made.
@@ -77,7 +75,7 @@ class AccountAmounts {
     Currency Revalue(const framework::LedgerBalance& balance);
     /// Revalued minus booked, over all that was asked for so far. Not known after a balance that
     /// could not be revalued.
-    const KnownSum& Difference() const { return difference_; }
+    const framework::KnownSum& Difference() const { return difference_; }
     /// For a foreign balance that could not be read.
     void LoseDifference() { difference_.Lose(); }
     /// What revaluation brings on the unrealized account: minus the difference. An error when that
@@ -89,18 +87,18 @@ class AccountAmounts {
     std::string Key(const TrialAccount& account) const;
 
   private:
-    BalanceScope ScopeFrom(Date from) const;
-    /// From the year start or from the beginning, by the account's type.
-    BalanceScope ScopeOf(const TrialAccount& account);
+    /// Since the start of the year or the beginning, by the account's type.
+    const BalanceScope& ScopeOf(const TrialAccount& account);
     framework::LedgerBalance ForeignAndHome(const TrialAccount& account);
 
     Company& company_;
     IExchangeRates& rates_;
-    SpecialAccounts special_;
-    Period period_;
+    EarningsAccounts earnings_;
+    std::int32_t unrealized_account_id_;
     std::int32_t home_currency_id_;
+    BalanceScope since_beginning_, since_year_start_;
     Column id_, type_, currency_id_;
-    KnownSum difference_;
+    framework::KnownSum difference_;
 };
 
 }  // namespace varnel::reports

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "framework/cell_values.h"
+#include "framework/debit_credit.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
 #include "framework/item_adjustment_note.h"
@@ -10,7 +11,6 @@
 #include "framework/query_runner.h"
 #include "framework/standard_header.h"
 #include "framework/texts.h"
-#include "reports/trial/debit_credit.h"
 #include "reports/trial/gifi_report_layout.h"
 
 namespace varnel::reports {
@@ -31,13 +31,10 @@ constexpr std::string_view kSelect =
 }  // namespace
 
 dsrGIFIReport::dsrGIFIReport()
-    : ReportBase(GifiReportLayout(), {.title_text = 30007,
-                                      .date_display = DateDisplay::kFromTo,
-                                      .by_account_number = true,
-                                      .by_fiscal_year = true}),
-      SegmentFilter(Members()),
-      FilterableReport(Members()),
-      RevaluedReport(Members()) {
+    : TrialReport(GifiReportLayout(), {.title_text = 30007,
+                                       .date_display = DateDisplay::kFromTo,
+                                       .by_account_number = true,
+                                       .by_fiscal_year = true}) {
     Handle("PageHeader_Format", &dsrGIFIReport::PageHeader_Format);
     Handle("ghGIFI_Format", &dsrGIFIReport::ghGIFI_Format);
     Handle("Detail_Format", &dsrGIFIReport::Detail_Format);
@@ -45,26 +42,13 @@ dsrGIFIReport::dsrGIFIReport()
     Handle("ReportFooter_Format", &dsrGIFIReport::ReportFooter_Format);
 }
 
-void dsrGIFIReport::IReport_Initialize() {
-    ReportBase::IReport_Initialize();
-    Guard("IReport_Initialize", [&] {
-        special_.reset();
-        Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
-    });
-}
-
 void dsrGIFIReport::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
         total_ = {};
         count_ = 0;
-        amounts_.reset();
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         const std::string statement = BuildStatement();
-        if (!special_) Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
-        Mark(), special_->unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
-        const auto period = BalancePeriod();
-        Mark(),
-            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, *special_, period);
+        StartAmounts(BalancePeriod());
         auto rows = (Mark(), RunQuery(App(), statement, {}));
         Mark(), ResolveColumns(rows->GetColumns());
         Data().Attach(std::move(rows));
@@ -92,19 +76,13 @@ AccountAmounts::Period dsrGIFIReport::BalancePeriod() {
 }
 
 void dsrGIFIReport::ResolveColumns(const Columns& columns) {
-    amounts_->Resolve(columns);
+    Amounts().Resolve(columns);
     number_ = columns.At("GLAcctId");
     description_ = columns.At("Descr");
 }
 
 void dsrGIFIReport::ShowDescription() {
-    const Row& row = CurrentRow();
-    text_.clear();
-    if (UseAccountNumbers()) {
-        Mark(), row.AppendText(number_, text_);
-        text_ += " - ";
-    }
-    Mark(), row.AppendText(description_, text_);
+    Mark(), ReadAccountCaption(CurrentRow(), number_, description_, UseAccountNumbers(), text_);
     txtDescr.SetText(text_);
 }
 
@@ -132,9 +110,9 @@ void dsrGIFIReport::Detail_Format() {
     ShowKey({});
     Currency amount;
     try {
-        const TrialAccount account = (Mark(), amounts_->Read(CurrentRow()));
-        ShowKey(amounts_->Key(account));
-        Mark(), amount = amounts_->Amount(account);
+        const TrialAccount account = (Mark(), Amounts().Read(CurrentRow()));
+        ShowKey(Amounts().Key(account));
+        Mark(), amount = Amounts().Amount(account);
         total_.Add(amount);
     } catch (...) {
         total_.Lose();

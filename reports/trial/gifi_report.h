@@ -1,27 +1,18 @@
 #pragma once
 
-#include <memory>
-#include <optional>
 #include <string>
 
-#include "framework/custom_criteria.h"
-#include "framework/report_base.h"
-#include "framework/revalued_report.h"
-#include "framework/segment_filter.h"
-#include "reports/trial/account_amounts.h"
+#include "framework/known_sum.h"
+#include "reports/trial/trial_report.h"
 
 namespace varnel::reports {
 
 /// GIFI report: the balance of every active account that has a GIFI code, grouped by code with a
 /// total each. Debit positive.
-class dsrGIFIReport final : public framework::ReportBase,
-                            public framework::SegmentFilter,
-                            public framework::FilterableReport,
-                            public framework::RevaluedReport {
+class dsrGIFIReport final : public TrialReport {
   public:
     dsrGIFIReport();
 
-    void IReport_Initialize() override;
     void ActiveReport_ReportStart() override;
 
   private:
@@ -38,9 +29,7 @@ class dsrGIFIReport final : public framework::ReportBase,
     void ReportFooter_Format();
 
     Column number_, description_;
-    std::unique_ptr<AccountAmounts> amounts_;
-    std::optional<SpecialAccounts> special_;
-    KnownSum total_;
+    framework::KnownSum total_;
     std::int32_t count_ = 0;
     std::string text_;  // Scratch for texts built row by row.
 

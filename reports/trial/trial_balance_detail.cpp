@@ -75,12 +75,9 @@ constexpr Member<dsrTrialBalanceDetail> kMembers[] = {
 }  // namespace
 
 dsrTrialBalanceDetail::dsrTrialBalanceDetail()
-    : ReportBase(
+    : TrialReport(
           TrialBalanceDetailLayout(),
-          {.title_text = 30002, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
-      SegmentFilter(Members()),
-      FilterableReport(Members()),
-      RevaluedReport(Members()) {
+          {.title_text = 30002, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}) {
     Members().Add<dsrTrialBalanceDetail>(*this, kMembers);
     Handle("PageHeader_Format", &dsrTrialBalanceDetail::PageHeader_Format);
     Handle("ghAccount_Format", &dsrTrialBalanceDetail::ghAccount_Format);
@@ -99,14 +96,6 @@ void dsrTrialBalanceDetail::LineColumns::Resolve(const Columns& columns) {
     source_key = columns.At("ExSrcKeyVal");
 }
 
-void dsrTrialBalanceDetail::IReport_Initialize() {
-    ReportBase::IReport_Initialize();
-    Guard("IReport_Initialize", [&] {
-        special_.reset();
-        Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
-    });
-}
-
 void dsrTrialBalanceDetail::IReportConfig_ShowConfigurationScreen() {
     Guard("IReportConfig_ShowConfigurationScreen", [&] {
         Mark(), include_zero_balances_ = AskIncludeZeroBalance(App(), include_zero_balances_);
@@ -118,22 +107,17 @@ void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
         totals_.Lose();
         balance_total_.Lose();
-        amounts_.reset();
         foreign_used_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
         PlaceColumns();
         const std::string statement = BuildStatement();
-        if (!special_) Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
-        Mark(), special_->unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
-        const auto period = ForwardPeriod();
-        Mark(),
-            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, *special_, period);
+        StartAmounts(ForwardPeriod());
         std::vector<Variant> parameters = {DateFrom(), DateTo()};
         if (selection_.single_account != 0) parameters.emplace_back(selection_.single_account);
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
         Mark(), columns_.Resolve(rows->GetColumns());
-        Mark(), amounts_->Resolve(rows->GetColumns());
+        Mark(), Amounts().Resolve(rows->GetColumns());
         Data().Attach(std::move(rows));
         totals_ = {};
         balance_total_ = {};
@@ -175,9 +159,7 @@ std::string dsrTrialBalanceDetail::BuildStatement() {
 
 // What is brought forward ends on the day before the period.
 AccountAmounts::Period dsrTrialBalanceDetail::ForwardPeriod() {
-    const bool from_first_date = (Mark(), CurrentCompany().PeriodTest(DateFrom(), DateTo()));
-    const Date year_start = from_first_date ? DateFrom() : (Mark(), FiscalYearStart());
-    return {.year_start = year_start,
+    return {.year_start = (Mark(), StartOfYearOrPeriod()),
             .to = std::max(DateFrom() - 1, kOpenStart),
             .segment_clause = SegmentClauseOn("GLDet.ExSegmentId"),
             .project_ids = selection_.project_ids};
@@ -192,7 +174,7 @@ void dsrTrialBalanceDetail::PlaceColumns() {
 }
 
 Currency dsrTrialBalanceDetail::GetAccountBalanceForSpecialAccounts(const TrialAccount& account) {
-    return amounts_->BalanceOf(account);
+    return Amounts().BalanceOf(account);
 }
 
 void dsrTrialBalanceDetail::ShowBalance(const BalanceControls& controls, const KnownSum& balance) {
@@ -216,11 +198,11 @@ void dsrTrialBalanceDetail::LoseBalance() {
 // The unrealized account takes besides what revaluation has changed so far.
 dsrTrialBalanceDetail::Forward dsrTrialBalanceDetail::BringForward() try {
     Forward forward;
-    Mark(), current_.account = amounts_->Read(CurrentRow());
-    current_.key = amounts_->Key(current_.account);
+    Mark(), current_.account = Amounts().Read(CurrentRow());
+    current_.key = Amounts().Key(current_.account);
     Mark(), forward.balance = GetAccountBalanceForSpecialAccounts(current_.account);
-    if (amounts_->IsUnrealized(current_.account))
-        Mark(), forward.unrealized = amounts_->Unrealized();
+    if (Amounts().IsUnrealized(current_.account))
+        Mark(), forward.unrealized = Amounts().Unrealized();
     AddToBalance(forward.balance);
     AddToBalance(forward.unrealized);
     return forward;
@@ -252,8 +234,8 @@ void dsrTrialBalanceDetail::ghAccount_Format() {
     ShowAccountKey();
     ShowUnrealized({});
     const Forward forward = BringForward();
-    const bool left_out = !include_zero_balances_ && !HasLines() && forward.balance.IsZero() &&
-                          forward.unrealized.IsZero() && amounts_->Difference().IsZero();
+    const bool left_out = !include_zero_balances_ && !IsLine() && forward.balance.IsZero() &&
+                          forward.unrealized.IsZero() && Amounts().Difference().IsZero();
     if (left_out) return ghAccount.Skip();
     ShowAccountKey();
     ShowUnrealized(forward.unrealized);
@@ -262,16 +244,16 @@ void dsrTrialBalanceDetail::ghAccount_Format() {
 
 std::int32_t dsrTrialBalanceDetail::LineCurrency() const {
     const auto currency = (Mark(), CurrentRow().Integer(columns_.currency_id));
-    return currency == 0 ? amounts_->HomeCurrencyId() : currency;
+    return currency == 0 ? Amounts().HomeCurrencyId() : currency;
 }
 
 Currency dsrTrialBalanceDetail::LineAmount(std::int32_t currency_id) {
     const Row& row = CurrentRow();
     const Currency booked = (Mark(), row.Amount(columns_.amount));
-    if (!amounts_->Revalues(currency_id)) return booked;
+    if (!Amounts().Revalues(currency_id)) return booked;
     const Currency foreign = (Mark(), row.Amount(columns_.foreign));
     return Mark(),
-           amounts_->Revalue(
+           Amounts().Revalue(
                {.currency_id = currency_id, .booked_rate = {}, .foreign = foreign, .home = booked});
 }
 
@@ -279,7 +261,7 @@ Currency dsrTrialBalanceDetail::LineAmount(std::int32_t currency_id) {
 // again.
 std::optional<Currency> dsrTrialBalanceDetail::AddLine() try {
     const std::int32_t currency_id = LineCurrency();
-    if (amounts_->Revalues(currency_id) && !current_.balance.Known()) {
+    if (Amounts().Revalues(currency_id) && !current_.balance.Known()) {
         LoseLine();
         return std::nullopt;
     }
@@ -294,7 +276,7 @@ std::optional<Currency> dsrTrialBalanceDetail::AddLine() try {
 }
 
 void dsrTrialBalanceDetail::LoseLine() {
-    if (IExchangeRates_Reevaluate()) amounts_->LoseDifference();
+    if (IExchangeRates_Reevaluate()) Amounts().LoseDifference();
     current_.totals.Lose();
     totals_.Lose();
     LoseBalance();
@@ -302,7 +284,7 @@ void dsrTrialBalanceDetail::LoseLine() {
 
 void dsrTrialBalanceDetail::ShowForeignAmount() {
     const std::int32_t currency_id = LineCurrency();
-    if (!DisplayForeignCurrency() || currency_id == amounts_->HomeCurrencyId()) return;
+    if (!DisplayForeignCurrency() || currency_id == Amounts().HomeCurrencyId()) return;
     const Currency foreign = (Mark(), CurrentRow().Amount(columns_.foreign));
     const std::string& code = (Mark(), GetCurrencyInfo().GetCurrencies().Item(currency_id).code);
     text_.clear();
@@ -315,7 +297,7 @@ void dsrTrialBalanceDetail::ShowForeignAmount() {
 }
 
 void dsrTrialBalanceDetail::ShowKey() {
-    if (amounts_->IsUnrealized(current_.account))
+    if (Amounts().IsUnrealized(current_.account))
         text_ = current_.key;
     else
         Mark(), ReadDocumentKey(CurrentRow(), columns_.source, columns_.source_key, text_);
@@ -327,7 +309,7 @@ void dsrTrialBalanceDetail::ShowKey() {
 // The line is added up before the host is asked for anything but its rate.
 void dsrTrialBalanceDetail::Detail_Format() {
     if (EndOfData()) return;
-    if (!HasLines()) return Detail.Skip();
+    if (!IsLine()) return Detail.Skip();
     txtDetDate.Clear();
     txtDebit.Clear();
     txtCredit.Clear();
@@ -350,7 +332,7 @@ void dsrTrialBalanceDetail::gfAccount_Format() {
          {&txtDebitTotal, &txtCreditTotal, &account_balance_.amount, &account_balance_.type})
         control->Clear();
     const bool all_zero =
-        current_.totals.IsZero() && current_.balance.IsZero() && amounts_->Difference().IsZero();
+        current_.totals.IsZero() && current_.balance.IsZero() && Amounts().Difference().IsZero();
     if (!include_zero_balances_ && all_zero) return gfAccount.Skip();
     auto& formats = App().GetFormats();
     Mark(), PutSum(formats, txtDebitTotal, current_.totals.debit, text_);

@@ -1,15 +1,10 @@
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 
-#include "framework/custom_criteria.h"
-#include "framework/report_base.h"
-#include "framework/revalued_report.h"
-#include "framework/segment_filter.h"
-#include "reports/trial/account_amounts.h"
-#include "reports/trial/debit_credit.h"
+#include "framework/debit_credit.h"
+#include "reports/trial/trial_report.h"
 
 namespace varnel::reports {
 
@@ -19,15 +14,10 @@ namespace varnel::reports {
 /// Late-bound it has the properties `HideInactiveAccounts`, `ProjIds` (comma-separated project
 /// ids), `AccountIds` (comma-separated internal account ids) and `SingleAcctId`; empty and 0 take
 /// all.
-class dsrTrialBalanceDetail final : public framework::ReportBase,
-                                    public framework::SegmentFilter,
-                                    public framework::FilterableReport,
-                                    public framework::RevaluedReport,
-                                    public IReportConfig {
+class dsrTrialBalanceDetail final : public TrialReport, public IReportConfig {
   public:
     dsrTrialBalanceDetail();
 
-    void IReport_Initialize() override;
     void IReportConfig_ShowConfigurationScreen() override;
     void ActiveReport_ReportStart() override;
 
@@ -48,8 +38,8 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
     struct AccountState {
         TrialAccount account;
         std::string key;
-        DebitCredit totals;
-        KnownSum balance;  // The running one.
+        framework::DebitCredit totals;
+        framework::KnownSum balance;  // The running one.
     };
     /// What an account begins with.
     struct Forward {
@@ -72,14 +62,14 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
     void LoseBalance();
     void ShowUnrealized(Currency unrealized);
     void ShowAccountKey();
-    bool HasLines() const { return !CurrentRow().IsNull(columns_.id); }
+    bool IsLine() const { return !CurrentRow().IsNull(columns_.id); }
     std::int32_t LineCurrency() const;
     Currency LineAmount(std::int32_t currency_id);
     std::optional<Currency> AddLine();
     void LoseLine();
     void ShowForeignAmount();
     void ShowKey();
-    void ShowBalance(const BalanceControls& controls, const KnownSum& balance);
+    void ShowBalance(const BalanceControls& controls, const framework::KnownSum& balance);
     void SetAdjControlsPosition(bool visible);
     void SetAdjControlsValue();
 
@@ -90,12 +80,10 @@ class dsrTrialBalanceDetail final : public framework::ReportBase,
     void ReportFooter_Format();
 
     LineColumns columns_;
-    std::unique_ptr<AccountAmounts> amounts_;
-    std::optional<SpecialAccounts> special_;
     Selection selection_;
     AccountState current_;
-    DebitCredit totals_;
-    KnownSum balance_total_;
+    framework::DebitCredit totals_;
+    framework::KnownSum balance_total_;
     bool include_zero_balances_ = false;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.

@@ -30,24 +30,13 @@ constexpr std::string_view kSelect =
 }  // namespace
 
 dsrTrialBalanceSummary::dsrTrialBalanceSummary()
-    : ReportBase(TrialBalanceSummaryLayout(), {.title_text = 30001,
-                                               .date_display = DateDisplay::kFromTo,
-                                               .by_account_number = true,
-                                               .by_fiscal_year = true}),
-      SegmentFilter(Members()),
-      FilterableReport(Members()),
-      RevaluedReport(Members()) {
+    : TrialReport(TrialBalanceSummaryLayout(), {.title_text = 30001,
+                                                .date_display = DateDisplay::kFromTo,
+                                                .by_account_number = true,
+                                                .by_fiscal_year = true}) {
     Handle("PageHeader_Format", &dsrTrialBalanceSummary::PageHeader_Format);
     Handle("Detail_Format", &dsrTrialBalanceSummary::Detail_Format);
     Handle("ReportFooter_Format", &dsrTrialBalanceSummary::ReportFooter_Format);
-}
-
-void dsrTrialBalanceSummary::IReport_Initialize() {
-    ReportBase::IReport_Initialize();
-    Guard("IReport_Initialize", [&] {
-        special_.reset();
-        Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
-    });
 }
 
 void dsrTrialBalanceSummary::IReportConfig_ShowConfigurationScreen() {
@@ -60,17 +49,12 @@ void dsrTrialBalanceSummary::IReportConfig_ShowConfigurationScreen() {
 void dsrTrialBalanceSummary::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
         totals_.Lose();
-        amounts_.reset();
         foreign_used_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
         PlaceColumns();
         const std::string statement = BuildStatement();
-        if (!special_) Mark(), special_ = ReadEarningsAccounts(CurrentCompany());
-        Mark(), special_->unrealized = GetCurrencyInfo().UnrealizedGainLossAcctId();
-        const auto period = BalancePeriod();
-        Mark(),
-            amounts_ = std::make_unique<AccountAmounts>(CurrentCompany(), *this, *special_, period);
+        StartAmounts(BalancePeriod());
         auto rows = (Mark(), RunQuery(App(), statement, {}));
         Mark(), ResolveColumns(rows->GetColumns());
         Data().Attach(std::move(rows));
@@ -90,13 +74,8 @@ std::string dsrTrialBalanceSummary::BuildStatement() {
     return statement + custom.OrderClause(" ORDER BY ", " ORDER BY GLAcct.GLAcctId");
 }
 
-// With the period flag income statement accounts count from the first date of the period, which
-// then lies in an earlier year than its last.
 AccountAmounts::Period dsrTrialBalanceSummary::BalancePeriod() {
-    auto& company = CurrentCompany();
-    const bool from_first_date = (Mark(), company.PeriodTest(DateFrom(), DateTo()));
-    const Date year_start = from_first_date ? DateFrom() : (Mark(), FiscalYearStart());
-    return {.year_start = year_start,
+    return {.year_start = (Mark(), StartOfYearOrPeriod()),
             .to = DateTo(),
             .segment_clause = SegmentClauseOn("GLDet.ExSegmentId"),
             .project_ids = {}};
@@ -117,7 +96,7 @@ void dsrTrialBalanceSummary::PlaceColumns() {
 }
 
 void dsrTrialBalanceSummary::ResolveColumns(const Columns& columns) {
-    amounts_->Resolve(columns);
+    Amounts().Resolve(columns);
     currency_code_ = columns.At("CurrencyCode");
     inactive_ = columns.At("Inactive");
 }
@@ -127,8 +106,8 @@ void dsrTrialBalanceSummary::ShowKey(const std::string& key) {
 }
 
 void dsrTrialBalanceSummary::ShowForeignBalance(const TrialAccount& account) {
-    if (!DisplayForeignCurrency() || account.currency_id == amounts_->HomeCurrencyId()) return;
-    const Currency foreign = (Mark(), amounts_->ForeignBalance(account));
+    if (!DisplayForeignCurrency() || account.currency_id == Amounts().HomeCurrencyId()) return;
+    const Currency foreign = (Mark(), Amounts().ForeignBalance(account));
     if (foreign.IsZero()) return;
     text_.clear();
     Mark(), App().GetFormats().AppendAmount(foreign, text_);
@@ -154,9 +133,9 @@ void dsrTrialBalanceSummary::Detail_Format() {
     TrialAccount account;
     Currency amount;
     try {
-        Mark(), account = amounts_->Read(CurrentRow());
-        ShowKey(amounts_->Key(account));
-        Mark(), amount = amounts_->Amount(account);
+        Mark(), account = Amounts().Read(CurrentRow());
+        ShowKey(Amounts().Key(account));
+        Mark(), amount = Amounts().Amount(account);
         totals_.Add(amount);
     } catch (...) {
         totals_.Lose();
@@ -164,7 +143,7 @@ void dsrTrialBalanceSummary::Detail_Format() {
     }
     if (IsLeftOut(amount)) return Detail.Skip();
     Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
-    if (!amounts_->IsRetainedEarnings(account)) ShowForeignBalance(account);
+    if (!Amounts().IsRetainedEarnings(account)) ShowForeignBalance(account);
 }
 
 void dsrTrialBalanceSummary::PageHeader_Format() {

@@ -1,29 +1,18 @@
 #pragma once
 
-#include <memory>
-#include <optional>
 #include <string>
 
-#include "framework/custom_criteria.h"
-#include "framework/report_base.h"
-#include "framework/revalued_report.h"
-#include "framework/segment_filter.h"
-#include "reports/trial/account_amounts.h"
-#include "reports/trial/debit_credit.h"
+#include "framework/debit_credit.h"
+#include "reports/trial/trial_report.h"
 
 namespace varnel::reports {
 
 /// Trial balance summary: one line an account with its balance at the end of the period, in a debit
 /// or a credit column.
-class dsrTrialBalanceSummary final : public framework::ReportBase,
-                                     public framework::SegmentFilter,
-                                     public framework::FilterableReport,
-                                     public framework::RevaluedReport,
-                                     public IReportConfig {
+class dsrTrialBalanceSummary final : public TrialReport, public IReportConfig {
   public:
     dsrTrialBalanceSummary();
 
-    void IReport_Initialize() override;
     void IReportConfig_ShowConfigurationScreen() override;
     void ActiveReport_ReportStart() override;
 
@@ -43,9 +32,7 @@ class dsrTrialBalanceSummary final : public framework::ReportBase,
     void ReportFooter_Format();
 
     Column currency_code_, inactive_;
-    std::unique_ptr<AccountAmounts> amounts_;
-    std::optional<SpecialAccounts> special_;
-    DebitCredit totals_;
+    framework::DebitCredit totals_;
     bool include_zero_balances_ = false;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.

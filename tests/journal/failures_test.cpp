@@ -56,6 +56,7 @@ TEST(JournalFailureTest, AQueryThatFailsLeavesAnEmptyReport) {
                 testing::HasSubstr("RunQuery("));
     EXPECT_TRUE(collected.Of("Detail").empty());
     EXPECT_THAT(collected.Texts("ReportFooter", "txtCount"), ElementsAre("0 entries"));
+    EXPECT_THAT(collected.Texts("ReportFooter", "txtDebitGrandTotal"), ElementsAre(""));
     EXPECT_TRUE(collected.ended);
 }
 
@@ -87,28 +88,30 @@ TEST(JournalFailureTest, AFailureInTheEntryHeaderLeavesNothingOfTheEntryBefore) 
     EXPECT_THAT(bands.Texts("ReportFooter", "txtCount"), ElementsAre("2 entries"));
 }
 
-TEST(JournalFailureTest, ALineWhoseAmountCannotBeReadShowsNone) {
+TEST(JournalFailureTest, ALineWhoseAmountCannotBeReadShowsNoneAndBlanksItsTotals) {
     JournalRun run;
     auto unreadable = Amount("0");
     unreadable.amount = "12,50";
-    const auto bands = run({Amount("10"), unreadable, Amount("-10")});
+    const auto bands = run({Amount("10"), unreadable, Amount("-10"), Amount("7", 2)});
     ASSERT_EQ(run.host->message_boxes.size(), 1u);
     EXPECT_THAT(FailingStatement(run.host->message_boxes[0], "\"12,50\" is not an amount.*",
                                  "Detail_Format"),
-                testing::HasSubstr("ReadAmount()"));
-    EXPECT_THAT(bands.Texts("Detail", "txtDebit"), ElementsAre("10.00", "", ""));
-    EXPECT_THAT(bands.Texts("Detail", "txtCredit"), ElementsAre("", "", "10.00"));
+                testing::HasSubstr("CurrentRow().Amount(columns_.amount)"));
+    EXPECT_THAT(bands.Texts("Detail", "txtDebit"), ElementsAre("10.00", "", "", "7.00"));
+    EXPECT_THAT(bands.Texts("Detail", "txtCredit"), ElementsAre("", "", "10.00", ""));
+    EXPECT_THAT(bands.Texts("gfSeqNo", "txtDebitTotal"), ElementsAre("", "7.00"));
+    EXPECT_THAT(bands.Texts("gfSeqNo", "txtCreditTotal"), ElementsAre("", "0.00"));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtDebitGrandTotal"), ElementsAre(""));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtCreditGrandTotal"), ElementsAre(""));
 }
 
-TEST(JournalFailureTest, AnAmountThatOverflowsATotalCountsInNone) {
+TEST(JournalFailureTest, AnAmountThatOverflowsATotalBlanksThoseItBelongsTo) {
     JournalRun run;
     const auto bands =
         run({Amount("900000000000000", 1), Amount("900000000000000", 2), Amount("5", 2)});
     EXPECT_EQ(run.host->message_boxes.size(), 1u);
-    EXPECT_THAT(bands.Texts("gfSeqNo", "txtDebitTotal"),
-                ElementsAre("900,000,000,000,000.00", "5.00"));
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtDebitGrandTotal"),
-                ElementsAre("900,000,000,000,005.00"));
+    EXPECT_THAT(bands.Texts("gfSeqNo", "txtDebitTotal"), ElementsAre("900,000,000,000,000.00", ""));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtDebitGrandTotal"), ElementsAre(""));
 }
 
 }  // namespace

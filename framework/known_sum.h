@@ -4,7 +4,7 @@
 
 #include "host/currency.h"
 
-namespace varnel::reports {
+namespace varnel::framework {
 
 /// A sum of a run that counts only while everything that belongs into it could be worked out:
 /// rather than a wrong total none is shown.
@@ -31,4 +31,4 @@ class KnownSum {
     bool known_ = true;
 };
 
-}  // namespace varnel::reports
+}  // namespace varnel::framework

@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "framework/known_sum.h"
 #include "host/application.h"
 #include "host/surface.h"
-#include "reports/trial/known_sum.h"
 
-namespace varnel::reports {
+namespace varnel::framework {
 
 /// Totals of a debit and a credit column; both are sums of positive amounts.
 struct DebitCredit {
@@ -43,4 +43,4 @@ void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency am
 /// and returns it, debit positive. Only of known totals.
 Currency Adjust(DebitCredit& totals);
 
-}  // namespace varnel::reports
+}  // namespace varnel::framework

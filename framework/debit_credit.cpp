@@ -1,12 +1,12 @@
-#include "reports/trial/debit_credit.h"
+#include "framework/debit_credit.h"
 
 #include "framework/cell_values.h"
 
-namespace varnel::reports {
+namespace varnel::framework {
 
 void PutSum(Formats& formats, Control& control, const KnownSum& sum, std::string& scratch) {
     control.Clear();
-    if (sum.Known()) framework::PutAmount(formats, control, sum.Value(), scratch);
+    if (sum.Known()) PutAmount(formats, control, sum.Value(), scratch);
 }
 
 void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency amount,
@@ -14,7 +14,7 @@ void PutOnItsSide(Formats& formats, Control& debit, Control& credit, Currency am
     debit.Clear();
     credit.Clear();
     if (amount.IsZero()) return;
-    framework::PutAmount(formats, amount > Currency() ? debit : credit, amount.Abs(), scratch);
+    PutAmount(formats, amount > Currency() ? debit : credit, amount.Abs(), scratch);
 }
 
 Currency Adjust(DebitCredit& totals) {
@@ -23,4 +23,4 @@ Currency Adjust(DebitCredit& totals) {
     return missing;
 }
 
-}  // namespace varnel::reports
+}  // namespace varnel::framework
