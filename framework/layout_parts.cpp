@@ -1,12 +1,29 @@
 #include "framework/layout_parts.h"
 
+#include <utility>
+
 namespace varnel::framework {
 
 namespace {
 
 constexpr Twips kCaptionTop = kHeaderBlockHeight + kCaptionGap;
+constexpr Twips kPageHeaderHeight = kCaptionTop + kCaptionHeight;
 
 }  // namespace
+
+SectionLayout PageHeader(std::vector<ControlLayout> controls) {
+    return {.name = "PageHeader",
+            .kind = SectionKind::kPageHeader,
+            .height = kPageHeaderHeight,
+            .controls = std::move(controls)};
+}
+
+SectionLayout PageFooter(std::vector<ControlLayout> controls) {
+    return {.name = "PageFooter",
+            .kind = SectionKind::kPageFooter,
+            .height = kPageFooterHeight,
+            .controls = std::move(controls)};
+}
 
 ControlLayout ColumnCaption(std::string_view name, const ColumnPlace& place, std::int16_t text) {
     return {.name = name,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "framework/standard_header.h"
 #include "framework/styles.h"
@@ -11,8 +12,10 @@ namespace varnel::framework {
 /// Height of a line of text, and of a column caption.
 inline constexpr Twips kLineHeight = 220;
 inline constexpr Twips kCaptionHeight = 270;
-/// Height in the design of a page header with captions.
-inline constexpr Twips kPageHeaderHeight = kHeaderBlockHeight + kCaptionGap + kCaptionHeight;
+
+/// The page header with column captions among its controls, and the page footer.
+SectionLayout PageHeader(std::vector<ControlLayout> controls);
+SectionLayout PageFooter(std::vector<ControlLayout> controls = {});
 
 /// Where a column stands. `stretch` says what it does on wider paper.
 struct ColumnPlace {

@@ -99,10 +99,7 @@ const Layout& RealizedExchangeLayout() {
     static const Layout layout{.name = "dsrRealizedExchProfitloss",
                                .sections = {
                                    {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
-                                   {.name = "PageHeader",
-                                    .kind = SectionKind::kPageHeader,
-                                    .height = kPageHeaderHeight,
-                                    .controls = PageHeaderControls(Captions())},
+                                   PageHeader(PageHeaderControls(Captions())),
                                    CurrencyHeader(),
                                    TypeHeader(),
                                    Payments(),

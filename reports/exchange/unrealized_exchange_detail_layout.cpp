@@ -87,20 +87,16 @@ SectionLayout Totals() {
 }  // namespace
 
 const Layout& UnrealizedExchangeDetailLayout() {
-    static const Layout layout{
-        .name = "dsrUnRealExchProfitlossDetail",
-        .sections = {
-            {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
-            {.name = "PageHeader",
-             .kind = SectionKind::kPageHeader,
-             .height = kPageHeaderHeight,
-             .controls = PageHeaderControlsWithRates(Captions())},
-            AccountHeader(),
-            Lines(),
-            {.name = "gfGLAcct", .kind = SectionKind::kGroupFooter},
-            {.name = "PageFooter", .kind = SectionKind::kPageFooter, .height = kPageFooterHeight},
-            Totals(),
-        }};
+    static const Layout layout{.name = "dsrUnRealExchProfitlossDetail",
+                               .sections = {
+                                   {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
+                                   PageHeader(PageHeaderControlsWithRates(Captions())),
+                                   AccountHeader(),
+                                   Lines(),
+                                   {.name = "gfGLAcct", .kind = SectionKind::kGroupFooter},
+                                   PageFooter(),
+                                   Totals(),
+                               }};
     return layout;
 }
 

@@ -87,24 +87,20 @@ SectionLayout GrandTotal() {
 }  // namespace
 
 const Layout& UnrealizedExchangeLayout() {
-    static const Layout layout{
-        .name = "dsrUnRealExchProfitloss",
-        .sections = {
-            {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
-            {.name = "PageHeader",
-             .kind = SectionKind::kPageHeader,
-             .height = kPageHeaderHeight,
-             .controls = PageHeaderControlsWithRates(Captions())},
-            CurrencyHeader(),
-            {.name = "ghAccountType",
-             .kind = SectionKind::kGroupHeader,
-             .group_field = "InGLAcctId"},
-            {.name = "Detail", .kind = SectionKind::kDetail},
-            AccountFooter(),
-            CurrencyFooter(),
-            {.name = "PageFooter", .kind = SectionKind::kPageFooter, .height = kPageFooterHeight},
-            GrandTotal(),
-        }};
+    static const Layout layout{.name = "dsrUnRealExchProfitloss",
+                               .sections = {
+                                   {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
+                                   PageHeader(PageHeaderControlsWithRates(Captions())),
+                                   CurrencyHeader(),
+                                   {.name = "ghAccountType",
+                                    .kind = SectionKind::kGroupHeader,
+                                    .group_field = "InGLAcctId"},
+                                   {.name = "Detail", .kind = SectionKind::kDetail},
+                                   AccountFooter(),
+                                   CurrencyFooter(),
+                                   PageFooter(),
+                                   GrandTotal(),
+                               }};
     return layout;
 }
 

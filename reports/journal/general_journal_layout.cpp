@@ -98,19 +98,13 @@ const Layout& GeneralJournalLayout() {
         .name = "dsrGeneralJournal",
         .sections = {
             {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
-            {.name = "PageHeader",
-             .kind = SectionKind::kPageHeader,
-             .height = kPageHeaderHeight,
-             .controls = PageHeaderControls(Captions())},
+            PageHeader(PageHeaderControls(Captions())),
             EntryHeader(),
             {.name = "ghComment", .kind = SectionKind::kGroupHeader, .group_field = "Remarks"},
             Lines(),
             Remarks(),
             EntryFooter(),
-            {.name = "PageFooter",
-             .kind = SectionKind::kPageFooter,
-             .height = kPageFooterHeight,
-             .controls = {ItemAdjustmentNoteControl()}},
+            PageFooter({ItemAdjustmentNoteControl()}),
             GrandTotals(),
         }};
     return layout;

@@ -54,20 +54,11 @@ SectionLayout Count() {
 const Layout& GifiReportLayout() {
     static const Layout layout{
         .name = "dsrGIFIReport",
-        .sections = {{.name = "PageHeader",
-                      .kind = SectionKind::kPageHeader,
-                      .height = kPageHeaderHeight,
-                      .controls = PageHeaderControlsWithRates(
-                          {ColumnCaption("lblCodeCap", kCode, 1741),
-                           ColumnCaption("lblDescrCap", kDescription, 1789),
-                           ColumnCaption("lblAmountCap", kAmount, 2637), CaptionRule()})},
-                     Code(),
-                     Accounts(),
-                     CodeTotal(),
-                     {.name = "PageFooter",
-                      .kind = SectionKind::kPageFooter,
-                      .height = kPageFooterHeight,
-                      .controls = {ItemAdjustmentNoteControl()}},
+        .sections = {PageHeader(PageHeaderControlsWithRates(
+                         {ColumnCaption("lblCodeCap", kCode, 1741),
+                          ColumnCaption("lblDescrCap", kDescription, 1789),
+                          ColumnCaption("lblAmountCap", kAmount, 2637), CaptionRule()})),
+                     Code(), Accounts(), CodeTotal(), PageFooter({ItemAdjustmentNoteControl()}),
                      Count()}};
     return layout;
 }

@@ -125,19 +125,10 @@ SectionLayout Totals() {
 }  // namespace
 
 const Layout& TrialBalanceDetailLayout() {
-    static const Layout layout{.name = "dsrTrialBalanceDetail",
-                               .sections = {{.name = "PageHeader",
-                                             .kind = SectionKind::kPageHeader,
-                                             .height = kPageHeaderHeight,
-                                             .controls = PageHeaderControlsWithRates(Captions())},
-                                            AccountHeader(),
-                                            Lines(),
-                                            AccountFooter(),
-                                            {.name = "PageFooter",
-                                             .kind = SectionKind::kPageFooter,
-                                             .height = kPageFooterHeight,
-                                             .controls = {ItemAdjustmentNoteControl()}},
-                                            Totals()}};
+    static const Layout layout{
+        .name = "dsrTrialBalanceDetail",
+        .sections = {PageHeader(PageHeaderControlsWithRates(Captions())), AccountHeader(), Lines(),
+                     AccountFooter(), PageFooter({ItemAdjustmentNoteControl()}), Totals()}};
     return layout;
 }
 

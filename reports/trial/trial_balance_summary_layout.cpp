@@ -61,17 +61,10 @@ SectionLayout Totals() {
 }  // namespace
 
 const Layout& TrialBalanceSummaryLayout() {
-    static const Layout layout{.name = "dsrTrialBalanceSummary",
-                               .sections = {{.name = "PageHeader",
-                                             .kind = SectionKind::kPageHeader,
-                                             .height = kPageHeaderHeight,
-                                             .controls = PageHeaderControlsWithRates(Captions())},
-                                            Accounts(),
-                                            {.name = "PageFooter",
-                                             .kind = SectionKind::kPageFooter,
-                                             .height = kPageFooterHeight,
-                                             .controls = {ItemAdjustmentNoteControl()}},
-                                            Totals()}};
+    static const Layout layout{
+        .name = "dsrTrialBalanceSummary",
+        .sections = {PageHeader(PageHeaderControlsWithRates(Captions())), Accounts(),
+                     PageFooter({ItemAdjustmentNoteControl()}), Totals()}};
     return layout;
 }
 
