@@ -61,6 +61,8 @@ TEST_P(ChartStatementTest, IsExactlyThisAndLeavesSegmentsToTheBalances) {
 INSTANTIATE_TEST_SUITE_P(
     Variants, ChartStatementTest,
     testing::Values(FilterCase{"summary", SummaryRun, "", CHART " ORDER BY GLAcct.GLAcctId"},
+                    FilterCase{"summary, blanks", SummaryRun, " | ",
+                               CHART " ORDER BY GLAcct.GLAcctId"},
                     FilterCase{"summary, criteria", SummaryRun, "GLAcct.AcctType = 1",
                                CHART " WHERE (GLAcct.AcctType = 1)  ORDER BY GLAcct.GLAcctId"},
                     FilterCase{"summary, both", SummaryRun, "GLAcct.AcctType = 1|GLAcct.Descr",
@@ -102,6 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
     Variants, DetailStatementTest,
     testing::Values(
         Selected{"plain", {}, "", "", LINES OF_PERIOD " " JOINED BY_ACCOUNT},
+        Selected{"blanks in the filter", {}, "", " | ", LINES OF_PERIOD " " JOINED BY_ACCOUNT},
         Selected{"list in the filter",
                  {},
                  "",
