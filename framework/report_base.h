@@ -47,6 +47,8 @@ class ReportBase : public DesignedReport, public IReport {
     bool UseAccountNumbers() const { return use_account_numbers_; }
     bool DisplayForeignCurrency() const { return display_foreign_; }
     std::int32_t HomeCurrencyId() const { return home_currency_id_; }
+    /// Asks the company, as it is now, for its home currency.
+    void ReadHomeCurrency();
     Company& CurrentCompany() { return App().CurrentContext().CurrentCompany(); }
 
     CurrencyInfo& GetCurrencyInfo() { return CurrentCompany().GetCurrencyInfo(); }
@@ -54,7 +56,6 @@ class ReportBase : public DesignedReport, public IReport {
   private:
     /// The company without what it remembers of earlier runs.
     Company& CompanyAsItIs();
-    void ReadHomeCurrency();
 
     Facts facts_;
     Date date_from_;

@@ -122,11 +122,16 @@ void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
         totals_ = {};
         balance_total_ = {};
         Mark(), At(kPeriodLabel).SetText(TrialPeriodCaption(App(), DateFrom(), DateTo()));
-        const CustomCriteria accounts{Criteria().criteria, {}};
+        const CustomCriteria accounts{ResolvesAccounts() ? Criteria().criteria : "", {}};
         Mark(),
             FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), accounts, Tool());
         Mark(), ShowItemAdjustmentNote(App(), GetSurface(), adjustments_from, DateTo());
     });
+}
+
+// Ids say nothing to a reader, and criteria that are not used must not be printed.
+bool dsrTrialBalanceDetail::ResolvesAccounts() const {
+    return selection_.account_ids.empty() && !IsIdList(Criteria().criteria);
 }
 
 // The accounts of the host, else those of the filter: a list as it stands, or criteria that the
@@ -134,9 +139,9 @@ void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
 std::string dsrTrialBalanceDetail::AccountList() {
     FilterTool* const tool = Tool();
     if (tool != nullptr) Mark(), tool->SetTables("GLAcct");
-    if (!selection_.account_ids.empty()) return selection_.account_ids;
     const std::string criteria = Criteria().criteria;
-    if (IsIdList(criteria)) return criteria;
+    if (!ResolvesAccounts())
+        return selection_.account_ids.empty() ? criteria : selection_.account_ids;
     if (tool == nullptr)
         Raise(error_number::kObjectNotSet, std::string(ObjectName()),
               "There is no filter tool to find the accounts of \"" + criteria + "\"");
@@ -347,26 +352,30 @@ void dsrTrialBalanceDetail::PageHeader_Format() {
 }
 
 void dsrTrialBalanceDetail::SetAdjControlsPosition(bool visible) {
-    ShowAdjustingLines(
-        ReportFooter,
-        {"txtDescrAdj", "txtDetDescAdj", "txtDebitAdj", "txtCreditAdj", "txtBalanceAdj",
-         "lblBalanceTypeAdj", "linDebitTotalAdj", "linCreditTotalAdj", "linBalanceTotalAdj",
-         "lblSubTotalAdj", "txtDebitTotalAdj", "txtCreditTotalAdj", "txtBalanceTotalAdj",
-         "lblBalanceTotalTypeAdj"},
-        visible);
+    Guard("SetAdjControlsPosition", [&] {
+        ShowAdjustingLines(
+            ReportFooter,
+            {"txtDescrAdj", "txtDetDescAdj", "txtDebitAdj", "txtCreditAdj", "txtBalanceAdj",
+             "lblBalanceTypeAdj", "linDebitTotalAdj", "linCreditTotalAdj", "linBalanceTotalAdj",
+             "lblSubTotalAdj", "txtDebitTotalAdj", "txtCreditTotalAdj", "txtBalanceTotalAdj",
+             "lblBalanceTotalTypeAdj"},
+            visible);
+    });
 }
 
 void dsrTrialBalanceDetail::SetAdjControlsValue() {
-    const Currency adjustment = Adjust(totals_);
-    balance_total_.Add(adjustment);
-    auto& formats = App().GetFormats();
-    Mark(), PutOnItsSide(formats, At("txtDebitAdj"), At("txtCreditAdj"), adjustment, text_);
-    Mark(),
-        PutOnItsSide(formats, At("txtDebitTotalAdj"), At("txtCreditTotalAdj"), adjustment, text_);
-    Mark(), ShowBalance(adjustment_, KnownSum(adjustment));
-    Mark(), ShowBalance(adjustment_total_, KnownSum(adjustment));
-    Mark(), At("txtDescrAdj").SetText(PlainText(App(), kAdjustment));
-    At("txtDetDescAdj").SetText(SegmentFilterDisplay());
+    Guard("SetAdjControlsValue", [&] {
+        const Currency adjustment = (Mark(), Adjust(totals_));
+        balance_total_.Add(adjustment);
+        auto& formats = App().GetFormats();
+        Mark(), PutOnItsSide(formats, At("txtDebitAdj"), At("txtCreditAdj"), adjustment, text_);
+        Mark(), PutOnItsSide(formats, At("txtDebitTotalAdj"), At("txtCreditTotalAdj"), adjustment,
+                             text_);
+        Mark(), ShowBalance(adjustment_, KnownSum(adjustment));
+        Mark(), ShowBalance(adjustment_total_, KnownSum(adjustment));
+        Mark(), At("txtDescrAdj").SetText(PlainText(App(), kAdjustment));
+        At("txtDetDescAdj").SetText(SegmentFilterDisplay());
+    });
 }
 
 void dsrTrialBalanceDetail::ReportFooter_Format() {

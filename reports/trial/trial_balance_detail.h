@@ -53,6 +53,7 @@ class dsrTrialBalanceDetail final : public TrialReport, public IReportConfig {
     };
 
     std::string BuildStatement();
+    bool ResolvesAccounts() const;
     std::string AccountList();
     AccountAmounts::Period ForwardPeriod();
     void PlaceColumns();

@@ -153,13 +153,17 @@ void dsrTrialBalanceSummary::PageHeader_Format() {
 }
 
 void dsrTrialBalanceSummary::SeAdjControlsPosition(bool visible) {
-    ShowAdjustingLines(ReportFooter, {"txtDescrAdj", "txtDebitAdj", "txtCreditAdj"}, visible);
+    Guard("SeAdjControlsPosition", [&] {
+        ShowAdjustingLines(ReportFooter, {"txtDescrAdj", "txtDebitAdj", "txtCreditAdj"}, visible);
+    });
 }
 
 void dsrTrialBalanceSummary::SetAdjControlsValue() {
-    const Currency adjustment = Adjust(totals_);
-    Mark(), PutOnItsSide(App().GetFormats(), txtDebitAdj, txtCreditAdj, adjustment, text_);
-    Mark(), txtDescrAdj.SetText(PlainText(App(), kAdjustment));
+    Guard("SetAdjControlsValue", [&] {
+        const Currency adjustment = (Mark(), Adjust(totals_));
+        Mark(), PutOnItsSide(App().GetFormats(), txtDebitAdj, txtCreditAdj, adjustment, text_);
+        Mark(), txtDescrAdj.SetText(PlainText(App(), kAdjustment));
+    });
 }
 
 void dsrTrialBalanceSummary::ReportFooter_Format() {

@@ -11,9 +11,9 @@ TrialReport::TrialReport(const Layout& layout, const Facts& facts)
       RevaluedReport(Members()) {}
 
 void TrialReport::IReport_Initialize() {
-    ReportBase::IReport_Initialize();
     Guard("IReport_Initialize", [&] {
         earnings_.reset();
+        ReadHomeCurrency();
         Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
     });
 }
