@@ -39,7 +39,7 @@ Item ItemOf(const Control& control, ItemKind kind, const Box& box) {
     return {.kind = kind,
             .align = control.Design().align,
             .figure = kind == ItemKind::kText && IsFigure(control),
-            .style = control.Design().style,
+            .style = control.Style(),
             .box = box};
 }
 
@@ -109,8 +109,8 @@ Extent BandComposer::Measured(const Control& control, std::size_t index) {
 Twips BandComposer::BreakLines(const Control& control, Lines& lines) {
     const Box& box = control.Place();
     lines.texts.clear();
-    measurer_.BreakLines(control.Text(), control.Design().style, box.width, lines.texts);
-    lines.pitch = measurer_.LineHeight(control.Design().style);
+    measurer_.BreakLines(control.Text(), control.Style(), box.width, lines.texts);
+    lines.pitch = measurer_.LineHeight(control.Style());
     lines.height = box.height < 2 * lines.pitch ? box.height : lines.pitch;
     return lines.height + static_cast<Twips>(lines.texts.size() - 1) * lines.pitch;
 }

@@ -4,6 +4,10 @@
 
 namespace varnel {
 
+Currency BalanceService::StatementBalance(std::int32_t, const BalanceScope&, IExchangeRates&) {
+    RaiseMissingService("balances of statements");
+}
+
 BalanceService& Company::Balances() { RaiseMissingService("balances"); }
 
 BudgetService& Company::Budgets() { RaiseMissingService("budgets"); }

@@ -90,6 +90,7 @@ void CheckNames(const Layout& layout) {
 Control::Control(const ControlLayout& layout) : layout_(&layout) {
     state_.text = layout.text;
     state_.visible = layout.visible;
+    state_.style = layout.style;
     state_.box = layout.box;
 }
 

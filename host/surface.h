@@ -54,6 +54,8 @@ class Control final : public Object {
 
     bool Visible() const { return state_.visible; }
     void SetVisible(bool visible) { state_.visible = visible; }
+    const TextStyle& Style() const { return state_.style; }
+    void SetBold(bool bold) { state_.style.bold = bold; }
     const Box& Place() const { return state_.box; }
     void SetPlace(const Box& box) { state_.box = box; }
     void SetLeft(Twips left) { state_.box.left = left; }
@@ -74,6 +76,7 @@ class Control final : public Object {
         ControlValue value;
         std::string tag;
         bool visible = true;
+        TextStyle style;
         Box box;
         std::shared_ptr<BandedReport> sub_report;
     };

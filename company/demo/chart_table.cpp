@@ -196,7 +196,7 @@ const std::array<ChartRow, kChartRows> kChart = {{
     {"5940", "Donations – community kitchens", kOtherExpense, kPost1, "8522", 0, nullptr, 110},
     {"5960", "Income taxes", kOtherExpense, kPost1, "9990", 0, "0", 900},
     {"5989", "Total other expenses", kOtherExpense, kSubtotal1},
-    {"5990", "Amounts in parentheses reduce the result", kOtherExpense, kText},
+    {"5990", "Negative amounts here add to the result", kOtherExpense, kText},
 }};
 
 const std::array<AccountNote, kAccountNotes> kNotes = {{
