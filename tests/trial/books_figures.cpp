@@ -9,30 +9,11 @@ namespace varnel::test {
 
 namespace {
 
-bool Has(const std::vector<int>& ids, int id) {
-    return std::find(ids.begin(), ids.end(), id) != ids.end();
-}
-
-// To the cent, half away from zero: a product of ten-thousandths has eight decimals.
-Units Revalued(Units foreign, int currency_id) {
-    constexpr Units kCent = 1'000'000;
-    const Units product = foreign * kRates[currency_id];
-    return (product + (product < 0 ? -kCent / 2 : kCent / 2)) / kCent * 100;
-}
-
 class Figures {
   public:
     /// Accounts of the year count from `income_start`.
     Figures(const Books& books, const Question& question, Date income_start)
         : books_(books), question_(question), income_start_(income_start) {}
-
-    bool Takes(const BookLine& line) const {
-        const bool in_segment = !question_.IsFiltered() ||
-                                (line.segment_id == 0 ? question_.also_without_segment
-                                                      : Has(question_.segments, line.segment_id));
-        return in_segment &&
-               (question_.projects.empty() || Has(question_.projects, line.project_id));
-    }
 
     /// Of the lines up to that day.
     Units Foreign(const BookAccount& account, Date to) const {
@@ -74,7 +55,7 @@ class Figures {
         Units sum = 0;
         for (const auto& line : books_.lines)
             if (line.account_id == account.id && line.date >= from && line.date <= to &&
-                Takes(line))
+                question_.Takes(line))
                 sum += line.*amount;
         return sum;
     }
@@ -114,7 +95,8 @@ std::vector<Detail::Line> LinesOf(const Books& books, const Question& question, 
     std::vector<Detail::Line> lines;
     for (const auto& line : books.lines) {
         const bool in_period = line.date >= question.from && line.date <= question.to;
-        if (line.account_id != account.id || !in_period || line.amount == 0 || !figures.Takes(line))
+        if (line.account_id != account.id || !in_period || line.amount == 0 ||
+            !question.Takes(line))
             continue;
         const bool foreign = question.foreign && line.currency_id > kHomeCurrency;
         lines.push_back({.date = line.date,

@@ -2,80 +2,27 @@
 // their number and VARNEL_SEED the first of them, to see one that failed again.
 
 #include <algorithm>
-#include <cstdlib>
 #include <functional>
 #include <map>
 
-#include "company/scripted_dialogs.h"
-#include "tests/company/host_small_company.h"
+#include "tests/support/book_companies.h"
 #include "tests/trial/books_figures.h"
+#include "tests/trial/trial_books.h"
 
 namespace varnel::test {
 namespace {
 
 using company::demo::Random;
 
-constexpr const char* kCompany = R"sql(
-INSERT INTO CompanySetting VALUES ('HomeCurrencyId', '1'), ('UseAccountNumbers', 'True');
-INSERT INTO WorldCurrency (InCurrencyId, CurrencyCode) VALUES (1, 'CAD'), (2, 'USD'), (3, 'EUR');
-INSERT INTO AcctTypeInfo VALUES (1, 1, 'Assets', 0), (2, 1, 'Liabilities', 0), (3, 1, 'Equity', 0),
-    (4, 2, 'Revenue', 0), (5, 2, 'Expenses', 0), (6, 2, 'Sundry', 1);
-)sql";
-
-std::uint64_t FromEnvironment(const char* name, std::uint64_t otherwise) {
-    const char* const value = std::getenv(name);
-    return value == nullptr ? otherwise : std::strtoull(value, nullptr, 10);
-}
-
-std::shared_ptr<Application> Open(const company::CompanyFile& file) {
-    company::HostOptions options;
-    options.language = "en-CA";
-    options.dialogs = std::make_shared<company::ScriptedDialogs>(
-        company::ScriptedDialogs::Answers{{"chkIncludeZeroBalanceAccount", "True"}});
-    options.message_sink = [](const std::string& text) { ADD_FAILURE() << text; };
-    return company::OpenCompany(file.Path(), options);
-}
-
 using Check =
     std::function<void(const Books&, const std::shared_ptr<Application>& host, Random& random)>;
 
-// All companies, one after the other, are in the same open file.
 void ForEveryCompany(const Check& check) {
-    const company::CompanyFile file(kCompany);
-    const auto host = Open(file);
-    const std::uint64_t first = FromEnvironment("VARNEL_SEED", 1);
-    const std::uint64_t end = first + FromEnvironment("VARNEL_COMPANIES", 1'000);
-    ASSERT_LT(first, end) << "VARNEL_COMPANIES is a number";
-    for (std::uint64_t seed = first; seed < end && !testing::Test::HasFailure(); ++seed) {
-        SCOPED_TRACE("VARNEL_SEED=" + std::to_string(seed));
-        Random random(seed);
+    ForEverySeed([&](BookCompany& company, Random& random) {
         const Books books = MakeBooks(random);
-        file.Run(ScriptOf(books));
-        host->CurrentContext().CurrentCompany().BeginRun();
-        check(books, host, random);
-    }
-}
-
-std::vector<int> SomeOf(int highest, Random& random) {
-    std::vector<int> ids;
-    for (int id = 1; id <= highest; ++id)
-        if (random.Chance(400)) ids.push_back(id);
-    return ids;
-}
-
-Question SomePeriod(const Books& books, Random& random) {
-    Question question;
-    const Date a = SomeDay(books, random);
-    const Date b = SomeDay(books, random);
-    if (!random.Chance(100)) question.from = std::min(a, b);
-    if (!random.Chance(100)) question.to = std::max(a, b);
-    return question;
-}
-
-Question SomeSegments(Question question, Random& random) {
-    question.segments = SomeOf(4, random);
-    question.also_without_segment = random.Chance(500);
-    return question;
+        company.Put(ScriptOf(books));
+        check(books, company.Host(), random);
+    });
 }
 
 Question Anything(const Books& books, Random& random) {

@@ -6,40 +6,12 @@
 #include <tuple>
 
 #include "framework/cls_report.h"
-#include "host/exchange_rates.h"
 #include "reports/trial/trial_balance_detail.h"
 #include "tests/support/collected_bands.h"
 
 namespace varnel::test {
 
 namespace {
-
-std::string Listed(const std::vector<int>& ids) {
-    std::string text;
-    for (const int id : ids) text += (text.empty() ? "" : ",") + std::to_string(id);
-    return text;
-}
-
-void Configure(IReport& report, const std::shared_ptr<Application>& host,
-               const Question& question) {
-    report.IReport_Application(host);
-    report.IReport_DateFrom(question.from);
-    report.IReport_DateTo(question.to);
-    report.IReport_DisplayForeignCurrency(question.foreign);
-    report.IReport_Initialize();
-    auto& segments = dynamic_cast<ISegmentFilter&>(report);
-    segments.ISegmentFilter_SegmentFilter(Listed(question.segments));
-    segments.ISegmentFilter_SegmentNoneFilter(question.also_without_segment);
-    auto& rates = dynamic_cast<IExchangeRates&>(report);
-    const auto collection = std::make_shared<RateCollection>();
-    for (const int currency : {2, 3})
-        collection->Set(currency, Rate::FromScaled(kRates[currency] * (Rate::kScale / 10'000)));
-    rates.IExchangeRates_ExchangeRates(collection);
-    rates.IExchangeRates_Reevaluate(question.revalue);
-    auto* const options = dynamic_cast<IReportConfig*>(&report);
-    if (options != nullptr && question.include_zero)
-        options->IReportConfig_ShowConfigurationScreen();
-}
 
 Units Amount(const CollectedControl& control) {
     const auto* const amount = std::get_if<Currency>(&control.value);
@@ -112,14 +84,6 @@ class DetailReader {
 
     Units running_ = 0;
 };
-
-std::string Words(std::initializer_list<std::string> words) {
-    std::string text;
-    for (const auto& word : words) text += (text.empty() ? "" : " ") + word;
-    return text;
-}
-
-std::string Decimal(Units amount) { return Currency::FromScaled(amount).ToText(2); }
 
 }  // namespace
 
@@ -220,15 +184,6 @@ std::vector<std::string> InWords(const Gifi& gifi) {
     }
     words.push_back(std::to_string(gifi.count));
     return words;
-}
-
-std::string InWords(const Question& question) {
-    return Words({question.from.ToIso(), "to", question.to.ToIso(), "segments",
-                  Listed(question.segments), question.also_without_segment ? "and none" : "",
-                  question.revalue ? "revalued" : "", question.foreign ? "foreign" : "",
-                  question.include_zero ? "with zeros" : "", "projects", Listed(question.projects),
-                  "accounts", Listed(question.accounts),
-                  question.hide_inactive ? "active only" : ""});
 }
 
 }  // namespace varnel::test

@@ -5,24 +5,9 @@
 #include <vector>
 
 #include "host/application.h"
-#include "tests/trial/books.h"
+#include "tests/support/book_questions.h"
 
 namespace varnel::test {
-
-/// What the reports of a company are asked for.
-struct Question {
-    Date from = kOpenStart, to = kOpenEnd;
-    std::vector<int> segments{};
-    bool also_without_segment = false;
-    bool revalue = false, foreign = false;
-    /// Of the trial balances.
-    bool include_zero = false;
-    /// Of the detail; all when empty.
-    std::vector<int> projects{}, accounts{};
-    bool hide_inactive = false;
-
-    bool IsFiltered() const { return !segments.empty() || also_without_segment; }
-};
 
 /// The figures that a report prints. Amounts are debit positive; foreign ones 0 when not printed.
 struct Summary {
@@ -88,6 +73,5 @@ Gifi RunGifi(const std::shared_ptr<Application>& host, const Question& question)
 std::vector<std::string> InWords(const Summary& summary);
 std::vector<std::string> InWords(const Detail& detail);
 std::vector<std::string> InWords(const Gifi& gifi);
-std::string InWords(const Question& question);
 
 }  // namespace varnel::test

@@ -14,10 +14,12 @@ using Units = std::int64_t;
 
 /// Currency 1 is the home currency; the rates of the others in ten-thousandths, by id.
 inline constexpr int kHomeCurrency = 1;
+inline constexpr int kCurrencies = 3;
 inline constexpr Units kRates[] = {0, 10'000, 13'725, 6'650};
-inline constexpr const char* kCurrencyCodes[] = {"", "CAD", "USD", "EUR"};
-/// Of account types 1 to 3, which accumulate, and 4 to 6, which begin anew each year.
+/// Of account types 1 to 3, which accumulate, and 4 to 7, which begin anew each year.
 inline constexpr int kFirstIncomeType = 4;
+inline constexpr int kSegments = 3;
+inline constexpr int kProjects = 2;
 
 struct BookAccount {
     int id;
@@ -26,10 +28,14 @@ struct BookAccount {
     /// 0 has none of its own, which is the home currency.
     int currency_id;
     bool inactive;
-    std::string gifi;
+    std::string gifi{};
+    int group_type = 2;
+    bool bank = false;
 
     bool IsForeign() const { return currency_id > kHomeCurrency; }
     bool IsOfTheYear() const { return type >= kFirstIncomeType; }
+    /// Others are headings, subtotals and texts of the statements.
+    bool IsPosting() const { return group_type == 2 || group_type == 4 || group_type == 6; }
     std::string Name() const { return "Account " + std::to_string(id); }
 };
 
@@ -51,7 +57,7 @@ struct BookYear {
     Date first, last;
 };
 
-/// A made-up company: entries balance, but not by segment, project or currency.
+/// A made-up company: entries balance, but seldom by segment, project or currency.
 struct Books {
     /// In the order of their numbers, which is not that of their ids.
     std::vector<BookAccount> accounts;
@@ -64,9 +70,20 @@ struct Books {
     Date YearStart(Date day) const;
 };
 
-Books MakeBooks(company::demo::Random& random);
+/// An amount of a line.
+using MakeAmount = Units (*)(company::demo::Random&);
+/// Mostly cents, now and then more decimals or nothing.
+Units SomeAmount(company::demo::Random& random);
+
+int Small(company::demo::Random& random, int low, int high);
+std::vector<BookYear> MakeYears(company::demo::Random& random);
+/// Adds balanced entries on posting accounts, in currencies up to `currencies`.
+void AddEntries(Books& books, company::demo::Random& random, int currencies, MakeAmount amount);
+
 /// A day of the years in which lines are; often one at the edge of a fiscal year.
 Date SomeDay(const Books& books, company::demo::Random& random);
+/// To the cent, half away from zero, at the currency's rate.
+Units Revalued(Units foreign, int currency_id);
 /// Statements that put these books into a database in place of others.
 std::string ScriptOf(const Books& books);
 

@@ -1,6 +1,6 @@
-#include "tests/trial/books.h"
+#include "tests/support/books.h"
 
-#include <algorithm>
+#include <span>
 
 #include "host/currency.h"
 
@@ -10,78 +10,40 @@ namespace {
 
 using company::demo::Random;
 
-constexpr int kSegments = 3;
-constexpr int kProjects = 2;
-constexpr const char* kGifiCodes[] = {"", "", "1000", "1001", "8299"};
-
-int Small(Random& random, int low, int high) { return static_cast<int>(random.Between(low, high)); }
-
 // An id of 1 to `highest`, or 0 for none.
 int IdOrNone(Random& random, int highest) {
     return random.Chance(400) ? 0 : Small(random, 1, highest);
 }
 
-// Mostly cents, now and then more decimals or nothing.
-Units SomeAmount(Random& random) {
-    if (random.Chance(30)) return 0;
-    if (random.Chance(30)) return random.Between(-99'999, 99'999);
-    return 100 * random.Between(-500'000, 500'000);
+std::vector<const BookAccount*> PostingAccounts(const Books& books) {
+    std::vector<const BookAccount*> posting;
+    for (const auto& account : books.accounts)
+        if (account.IsPosting()) posting.push_back(&account);
+    return posting;
 }
 
-std::vector<BookAccount> MakeAccounts(Random& random, int currencies) {
-    std::vector<BookAccount> accounts;
-    const int count = Small(random, 5, 12);
-    for (int id = 1; id <= count; ++id) {
-        const bool foreign = random.Chance(300);
-        accounts.push_back({.id = id,
-                            .number = std::to_string(random.Between(10, 99)) + std::to_string(id),
-                            .type = Small(random, 1, 6),
-                            .currency_id = foreign ? Small(random, 1, currencies) : 0,
-                            .inactive = random.Chance(150),
-                            .gifi = random.Choose(kGifiCodes)});
-    }
-    std::sort(accounts.begin(), accounts.end(),
-              [](const auto& a, const auto& b) { return a.number < b.number; });
-    return accounts;
-}
+// Of the whole entry at times, else of each line by itself.
+class Segments {
+  public:
+    explicit Segments(Random& random)
+        : random_(random), shared_(random.Chance(300)), id_(IdOrNone(random, kSegments)) {}
+    int Next() { return shared_ ? id_ : IdOrNone(random_, kSegments); }
 
-std::vector<BookYear> MakeYears(Random& random) {
-    constexpr int kMonths[] = {12, 12, 12, 6, 13};
-    std::vector<BookYear> years;
-    int month = Small(random, 1, 30);
-    for (int count = Small(random, 0, 4); count > 0; --count) {
-        const auto first = Date::FromYearMonthDay(2021, month, 1);
-        month += random.Choose(kMonths);
-        years.push_back({first, Date::FromYearMonthDay(2021, month, 1) - 1});
-        if (random.Chance(100)) ++month;
-    }
-    return years;
-}
+  private:
+    Random& random_;
+    bool shared_;
+    int id_;
+};
 
-// Retained earnings accumulate; the others may be of any type.
-void ChooseSpecialAccounts(Books& books, Random& random) {
-    const auto some = [&]() -> BookAccount& {
-        return books.accounts[static_cast<std::size_t>(
-            random.Between(0, static_cast<std::int64_t>(books.accounts.size()) - 1))];
-    };
-    BookAccount& retained = some();
-    retained.type = 3;
-    books.retained_earnings = retained.id;
-    const int current = some().id;
-    if (current != retained.id && random.Chance(800)) books.current_earnings = current;
-    const int unrealized = some().id;
-    if (unrealized != retained.id && unrealized != books.current_earnings && random.Chance(800))
-        books.unrealized = unrealized;
-}
-
-void AddEntry(Books& books, Random& random, int entry, int currencies) {
+void AddEntry(Books& books, Random& random, int entry, int currencies, MakeAmount some_amount) {
+    const auto accounts = PostingAccounts(books);
     const Date date = SomeDay(books, random);
+    Segments segments(random);
     Units left = 0;
     const int lines = Small(random, 2, 5);
     for (int i = 1; i <= lines; ++i) {
-        const auto& account = books.accounts[static_cast<std::size_t>(
-            random.Between(0, static_cast<std::int64_t>(books.accounts.size()) - 1))];
-        const Units amount = i < lines ? SomeAmount(random) : -left;
+        const BookAccount& account = *random.Choose(std::span<const BookAccount* const>(accounts));
+        const Units amount = i < lines ? some_amount(random) : -left;
         left += amount;
         int currency = account.currency_id;
         if (random.Chance(100)) currency = Small(random, 0, currencies);
@@ -89,10 +51,10 @@ void AddEntry(Books& books, Random& random, int entry, int currencies) {
                                .date = date,
                                .account_id = account.id,
                                .amount = amount,
-                               .foreign = currency > kHomeCurrency ? SomeAmount(random) : 0,
+                               .foreign = currency > kHomeCurrency ? some_amount(random) : 0,
                                .currency_id = currency,
                                .project_id = IdOrNone(random, kProjects),
-                               .segment_id = IdOrNone(random, kSegments)});
+                               .segment_id = segments.Next()});
     }
 }
 
@@ -105,7 +67,8 @@ std::string AccountValues(const BookAccount& account) {
     const std::string active = account.id % 2 == 0 ? "0" : "NULL";
     const std::string no_gifi = account.id % 2 == 0 ? "''" : "NULL";
     return std::to_string(account.id) + "," + Quoted(account.number) + "," +
-           Quoted(account.Name()) + "," + std::to_string(account.type) + ",2," +
+           Quoted(account.Name()) + "," + std::to_string(account.type) + "," +
+           std::to_string(account.group_type) + "," + (account.bank ? "1," : "0,") +
            (account.inactive ? "1" : active) + "," +
            (account.gifi.empty() ? no_gifi : Quoted(account.gifi)) + "," +
            (account.id % 3 == 0 ? std::to_string(account.currency_id)
@@ -150,6 +113,27 @@ Date Books::YearStart(Date day) const {
     return start;
 }
 
+int Small(Random& random, int low, int high) { return static_cast<int>(random.Between(low, high)); }
+
+Units SomeAmount(Random& random) {
+    if (random.Chance(30)) return 0;
+    if (random.Chance(30)) return random.Between(-99'999, 99'999);
+    return 100 * random.Between(-500'000, 500'000);
+}
+
+std::vector<BookYear> MakeYears(Random& random) {
+    constexpr int kMonths[] = {12, 12, 12, 6, 13};
+    std::vector<BookYear> years;
+    int month = Small(random, 1, 30);
+    for (int count = Small(random, 0, 4); count > 0; --count) {
+        const auto first = Date::FromYearMonthDay(2021, month, 1);
+        month += random.Choose(kMonths);
+        years.push_back({first, Date::FromYearMonthDay(2021, month, 1) - 1});
+        if (random.Chance(100)) ++month;
+    }
+    return years;
+}
+
 Date SomeDay(const Books& books, Random& random) {
     if (!books.years.empty() && random.Chance(300)) {
         const auto last = static_cast<std::int64_t>(books.years.size()) - 1;
@@ -159,22 +143,25 @@ Date SomeDay(const Books& books, Random& random) {
     return Date::FromYearMonthDay(2021, 1, 1) + Small(random, 0, 5 * 365);
 }
 
-Books MakeBooks(Random& random) {
-    Books books;
-    const int currencies = Small(random, 1, 3);
-    books.accounts = MakeAccounts(random, currencies);
-    books.years = MakeYears(random);
-    ChooseSpecialAccounts(books, random);
+void AddEntries(Books& books, Random& random, int currencies, MakeAmount amount) {
     const int entries = Small(random, 0, 20);
-    for (int entry = 1; entry <= entries; ++entry) AddEntry(books, random, entry, currencies);
-    return books;
+    for (int entry = 1; entry <= entries; ++entry)
+        AddEntry(books, random, entry, currencies, amount);
+}
+
+Units Revalued(Units foreign, int currency_id) {
+    // A product of ten-thousandths has eight decimals.
+    constexpr Units kCent = 1'000'000;
+    const Units product = foreign * kRates[currency_id];
+    return (product + (product < 0 ? -kCent / 2 : kCent / 2)) / kCent * 100;
 }
 
 std::string ScriptOf(const Books& books) {
-    return Replace("GLAcct",
-                   "InGLAcctId, GLAcctId, Descr, AcctType, GroupType, Inactive, GIFIAcctId, "
-                   "ExCurrencyId",
-                   books.accounts, AccountValues) +
+    return Replace(
+               "GLAcct",
+               "InGLAcctId, GLAcctId, Descr, AcctType, GroupType, ChqAcct, Inactive, GIFIAcctId, "
+               "ExCurrencyId",
+               books.accounts, AccountValues) +
            Replace("GLDet",
                    "ExAcctId, ExCurrencyId, SeqNo, DetDate, DetAmnt, ForeignAmnt, Source, "
                    "ExSrcKeyVal, ExProjId, ExSegmentId",

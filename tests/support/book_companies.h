@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "company/demo/random.h"
+#include "host/application.h"
+#include "tests/company/host_small_company.h"
+
+namespace varnel::test {
+
+/// A company in a file, open all the time that one made-up set of books after the other is put
+/// into it. Every message box fails the test.
+class BookCompany {
+  public:
+    BookCompany();
+
+    /// Runs statements that replace the books.
+    void Put(const std::string& script);
+    const std::shared_ptr<Application>& Host() const { return host_; }
+
+  private:
+    company::CompanyFile file_;
+    std::shared_ptr<Application> host_;
+};
+
+/// Takes a thousand seeds in turn, until a test fails. VARNEL_COMPANIES is their number and
+/// VARNEL_SEED the first of them, to see one that failed again.
+void ForEverySeed(
+    const std::function<void(BookCompany& company, company::demo::Random& random)>& check);
+
+}  // namespace varnel::test
