@@ -15,7 +15,7 @@ DatabaseCompany::DatabaseCompany(CompanyDatabase& database, Settings& settings, 
       currency_info_(database, currencies_, params_, formats),
       account_types_(database, texts, language),
       accounts_(database, settings, params_, account_types_),
-      balances_(database, accounts_),
+      balances_(database, accounts_, *this),
       budgets_(database),
       reconciliations_(database) {}
 

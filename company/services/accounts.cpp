@@ -1,5 +1,7 @@
 #include "company/services/accounts.h"
 
+#include <algorithm>
+
 #include "company/services/id_list.h"
 #include "company/services/query.h"
 #include "company/services/setting_names.h"
@@ -36,6 +38,25 @@ std::string CompanyAccounts::OtherRevaluedAccountIds() {
 bool CompanyAccounts::IsIncomeStatement(std::int32_t account_id) {
     const auto found = All().find(account_id);
     return found != All().end() && found->second.income_statement;
+}
+
+std::optional<CompanyAccounts::ForeignAccount> CompanyAccounts::AsForeign(std::int32_t account_id) {
+    const auto found = All().find(account_id);
+    if (found == All().end()) return {};
+    const std::int32_t own = found->second.currency_id;
+    if (own == 0 || own == settings_.Id(setting::kHomeCurrencyId)) return {};
+    return ForeignAccount{account_id, own};
+}
+
+// In a fixed order: when several rates are missing, the error is about the same one each time.
+std::vector<CompanyAccounts::ForeignAccount> CompanyAccounts::ForeignOnBalanceSheet() {
+    std::vector<ForeignAccount> foreign;
+    for (const auto& [id, account] : All()) {
+        if (account.income_statement) continue;
+        if (const auto found = AsForeign(id)) foreign.push_back(*found);
+    }
+    std::ranges::sort(foreign, {}, &ForeignAccount::id);
+    return foreign;
 }
 
 }  // namespace varnel::company

@@ -1,6 +1,7 @@
 #include "company/services/balances.h"
 
 #include "company/services/query.h"
+#include "company/services/statement_amounts.h"
 
 namespace varnel::company {
 
@@ -72,6 +73,11 @@ Currency LedgerBalances::EarningsBefore(Date date, const BalanceScope& scope) {
     for (const auto& [account_id, balance] : BalancesOf(before))
         if (accounts_.IsIncomeStatement(account_id)) earnings += balance.home;
     return earnings;
+}
+
+Currency LedgerBalances::StatementBalance(std::int32_t account_id, const BalanceScope& scope,
+                                          IExchangeRates& rates) {
+    return StatementAmounts(*this, accounts_, company_, scope, rates).Of(account_id);
 }
 
 }  // namespace varnel::company

@@ -8,5 +8,6 @@ varnel_test(NAME company_host_test
         host_formats_test.cpp
         host_memory_test.cpp
         host_small_company.cpp host_small_company.h
+        host_statement_balances_test.cpp
         host_texts_test.cpp
     LIBRARIES varnel_test_support Varnel::company PkgConfig::SQLITE)

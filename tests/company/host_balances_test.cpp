@@ -67,6 +67,19 @@ TEST_F(CountedQueries, EarningsShareTheQueryOfTheSameScope) {
               0);
 }
 
+TEST_F(CountedQueries, ABalanceSheetTakesTwo) {
+    Rates rates;
+    host_->CurrentCompany().GetCurrencyInfo().ConfigureExchangeRates(rates, kOpenEnd, true, {});
+    const auto ask = [&](std::string_view date) {
+        const BalanceScope scope{kOpenStart, Day(date), "", ""};
+        for (int account_id = 10; account_id < 40; ++account_id)
+            balances_.StatementBalance(account_id, scope, rates);
+    };
+    ask("2024-06-30");  // Reads the chart and the like too.
+    EXPECT_EQ(QueriesOf([&] { ask("2025-04-30"); }), 2);
+    EXPECT_EQ(QueriesOf([&] { ask("2025-04-30"); }), 0);
+}
+
 TEST_F(CountedQueries, ANewRunSeesTheLedgerAsItIsThen) {
     EXPECT_EQ(Text(balances_.AccountBalance(10, {}, false)), "499.65");
     file_.Run("UPDATE GLDet SET DetAmnt = 1000.35 WHERE InGLDetId = 1");

@@ -27,6 +27,10 @@ class EveryHost : public testing::TestWithParam<HostKind> {
     std::string Budget(std::int32_t account_id, std::string_view from, std::string_view to) {
         return company_.Budgets().GetAcctBudgetRange(account_id, Day(from), Day(to)).ToText();
     }
+    static BalanceScope To(std::string_view date) { return {kOpenStart, Day(date), "", ""}; }
+    std::string Stated(std::int32_t account_id, const BalanceScope& scope, Rates& rates) {
+        return Text(company_.Balances().StatementBalance(account_id, scope, rates));
+    }
     std::string Evaluated(std::int32_t currency_id, std::string_view foreign, Rates& rates) {
         return currency_info_
             .EvaluateValueWithExchangeRate(Rate::Parse("1.3"), currency_id, Amount(foreign), rates)
@@ -55,7 +59,7 @@ TEST_P(EveryHost, GivesTheDefaultOfASettingThatIsNotSet) {
 
 TEST_P(EveryHost, GivesNoAccountForARoleThatNobodyHas) {
     EXPECT_EQ(company_.GetGLAccountParam("GLRtainEarn", kCompanySection), 30);
-    EXPECT_EQ(company_.GetGLAccountParam("GLCurntEarn", kCompanySection), 0);
+    EXPECT_EQ(company_.GetGLAccountParam("CustGLAR", kCompanySection), 0);
 }
 
 TEST_P(EveryHost, FindsTheFiscalYear) {
@@ -201,6 +205,65 @@ TEST_P(EveryHost, SumsEarningsStrictlyBeforeADate) {
     EXPECT_EQ(Text(balances.EarningsBefore(Day("2024-03-10"), year)), "0.00");
     const BalanceScope project{kOpenStart, kOpenEnd, "", "7"};
     EXPECT_EQ(Text(balances.EarningsBefore(kOpenEnd, project)), "-135.00");
+}
+
+// US dollars at 1.45255: the bank's 80 are worth 116.20, 9.40 above what is booked. The receivables
+// stay as booked.
+TEST_P(EveryHost, StatesBalancesSoThatTheBalanceSheetBalances) {
+    struct {
+        std::int32_t account_id;
+        const char *booked, *revalued;
+    } const cases[] = {
+        {10, "499.65", "499.65"}, {11, "106.80", "116.20"},     {12, "140.00", "140.00"},
+        {20, "28.20", "28.20"},   {21, "0.00", "0.00"},         {30, "-699.90", "-699.90"},
+        {33, "-74.75", "-84.15"}, {40, "-1275.00", "-1275.00"},
+    };
+    Rates rates;
+    currency_info_.ConfigureExchangeRates(rates, Day("2025-04-30"), true, {});
+    for (const auto& [account_id, booked, revalued] : cases) {
+        SCOPED_TRACE(account_id);
+        rates.reevaluate = false;
+        EXPECT_EQ(Stated(account_id, To("2025-04-30"), rates), booked);
+        rates.reevaluate = true;
+        EXPECT_EQ(Stated(account_id, To("2025-04-30"), rates), revalued);
+    }
+}
+
+TEST_P(EveryHost, DividesEarningsAtTheFiscalYearOfTheLastDate) {
+    Rates booked;
+    EXPECT_EQ(Stated(30, To("2024-12-31"), booked), "0.00") << "the year began on 2023-07-01";
+    EXPECT_EQ(Stated(33, To("2024-12-31"), booked), "-699.90");
+    EXPECT_EQ(Stated(30, To("2025-01-01"), booked), "-699.90");
+    EXPECT_EQ(Stated(33, To("2025-01-01"), booked), "0.00");
+    EXPECT_EQ(Stated(33, To("2025-01-15"), booked), "-135.00") << "its last day included";
+    EXPECT_EQ(Stated(33, {Day("2025-04-01"), Day("2025-04-30"), "", ""}, booked), "-74.75")
+        << "from the start of the year, whatever the first date";
+}
+
+// Of project 7: 80 dollars and the payables; of segment 1: 100 dollars, bank, and both years'
+// sales.
+TEST_P(EveryHost, StatesBalancesOfProjectsAndSegments) {
+    Rates rates;
+    currency_info_.ConfigureExchangeRates(rates, Day("2025-04-30"), true, {});
+    const BalanceScope project{kOpenStart, Day("2025-04-30"), "", "7"};
+    EXPECT_EQ(Stated(11, project, rates), "116.20");
+    EXPECT_EQ(Stated(30, project, rates), "0.00");
+    EXPECT_EQ(Stated(33, project, rates), "-144.40") << "135.00 and 9.40";
+    const BalanceScope segment{kOpenStart, Day("2025-04-30"), "(GLDet.ExSegmentId IN (1))", ""};
+    EXPECT_EQ(Stated(11, segment, rates), "145.26") << "145.255";
+    EXPECT_EQ(Stated(30, segment, rates), "-1000.00");
+    EXPECT_EQ(Stated(33, segment, rates), "-145.26") << "135.00 and 10.26";
+}
+
+TEST_P(EveryHost, StatesNoForeignBalanceWithoutItsRate) {
+    Rates rates;
+    currency_info_.ConfigureExchangeRates(rates, Day("2024-12-30"), true, {});
+    for (const std::int32_t account_id : {11, 33})
+        EXPECT_THAT(ErrorOf([&] { Stated(account_id, To("2025-04-30"), rates); }),
+                    testing::AllOf(testing::HasSubstr("USD"), testing::HasSubstr("2024-12-30")));
+    EXPECT_EQ(Stated(12, To("2025-04-30"), rates), "140.00") << "needs none";
+    EXPECT_EQ(Stated(11, To("2025-01-14"), rates), "0.00") << "nothing to revalue yet";
+    EXPECT_EQ(Stated(33, To("2025-01-14"), rates), "0.00");
 }
 
 }  // namespace

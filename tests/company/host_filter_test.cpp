@@ -109,7 +109,7 @@ TEST_F(FilterToolOfACompany, ResolvesAccountsByTheirOwnColumnsAndByTheirLines) {
     EXPECT_EQ(tool_->ResolveAccounts("ProjInfo.ProjId = 'P8'"), "10,50");
     EXPECT_EQ(tool_->ResolveAccounts("WorldCurrency.CurrencyCode = 'USD'"), "11,12,21");
     EXPECT_EQ(tool_->ResolveAccounts("GLAcctId = 'none'"), "-1");
-    EXPECT_EQ(tool_->ResolveAccounts(" "), "10,11,12,20,21,30,40,50,51");
+    EXPECT_EQ(tool_->ResolveAccounts(" "), "10,11,12,20,21,30,33,40,50,51");
 }
 
 TEST_F(FilterToolOfACompany, ResolvesAccountsByThePaymentsThatNameThem) {

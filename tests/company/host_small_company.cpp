@@ -36,7 +36,11 @@ bool InSegments(const test::LedgerLine& line, const std::string& clause) {
 void FillCurrencies(test::MemoryCurrencyInfo& info) {
     info.records.push_back(
         {.id = 4, .code = "JPY", .description = "Yen", .decimals = 0, .ap_account_id = 20});
-    info.records.push_back({.id = 2, .code = "USD", .description = "US dollar"});
+    info.records.push_back({.id = 2,
+                            .code = "USD",
+                            .description = "US dollar",
+                            .ar_account_id = 12,
+                            .ap_account_id = 21});
     info.rate_table[2] = {{Day("2024-12-31"), Rate::Parse("1.4")},
                           {Day("2025-01-31"), Rate::Parse("1.45255")}};
     info.rate_table[4] = {{Day("2025-01-10"), Rate::Parse("0.0095")}};
@@ -50,12 +54,12 @@ std::shared_ptr<Application> InMemory() {
     host->session_date = Day("2025-04-30");
     auto& company = host->company;
     company.settings["UseAccountNumbers"] = "True";
-    company.account_params = {{"GLRtainEarn", 30}};
+    company.account_params = {{"GLRtainEarn", 30}, {"GLCurntEarn", 33}, {"SuppGLAP", 20}};
     company.fiscal_year_starts = {Day("2023-07-01"), Day("2025-01-01")};
     company.item_adjustment_start = Day("2024-07-01");
     company.uses_projects = true;
     company.account_types = {{10, 1}, {11, 1}, {12, 1}, {20, 2}, {21, 2},
-                             {30, 3}, {40, 4}, {50, 5}, {51, 5}};
+                             {30, 3}, {33, 3}, {40, 4}, {50, 5}, {51, 5}};
     company.account_currencies = {{11, 2}, {12, 2}, {21, 2}};
     company.in_segments = InSegments;
     company.ledger = {
@@ -69,6 +73,8 @@ std::shared_ptr<Application> InMemory() {
         {10, Day("2025-02-20"), Amount("-200.25"), {}, 8, 0},
         {11, Day("2025-03-31"), Amount("-28.20"), Amount("-20"), 7, 2},
         {20, Day("2025-03-31"), Amount("28.20"), {}, 7, 2},
+        {12, Day("2025-04-15"), Amount("140"), Amount("100")},
+        {40, Day("2025-04-15"), Amount("-140"), Amount("-100")},
     };
     company.budgets = {{50, Day("2025-01-01"), Day("2025-01-31"), Amount("310")},
                        {50, Day("2025-02-01"), Day("2025-02-28"), Amount("100")},
@@ -97,9 +103,11 @@ INSERT INTO GLAcct (InGLAcctId, GLAcctId, Descr, AcctType, GroupType, ExCurrency
     (10, '1000', 'Bank', 1, 2, NULL), (11, '1010', 'Bank USD', 1, 2, 2),
     (12, '1200', 'Receivables USD', 1, 2, 2), (20, '2000', 'Payables', 2, 2, 0),
     (21, '2010', 'Payables USD', 2, 2, 2), (30, '3000', 'Retained earnings', 3, 2, NULL),
+    (33, '3300', 'Current earnings', 3, 2, NULL),
     (40, '4000', 'Sales', 4, 2, NULL), (50, '5000', 'Rent', 5, 2, NULL),
     (51, '5900', 'Exchange', 5, 2, NULL);
-INSERT INTO GLAccountParam VALUES ('Cie', 'GLRtainEarn', 30), ('Cie', 'SuppGLAP', 20),
+INSERT INTO GLAccountParam VALUES ('Cie', 'GLRtainEarn', 30), ('Cie', 'GLCurntEarn', 33),
+    ('Cie', 'SuppGLAP', 20),
     ('Cie', 'UnrealizedGainLoss', 51), ('Aux', 'GLRtainEarn', 99);
 INSERT INTO FiscalYear VALUES (2, '2025', '2025-01-01', '2025-12-31'),
     (1, '2024', '2023-07-01', '2024-06-30');
@@ -110,7 +118,9 @@ VALUES
     (3, 2, '2024-11-05', 50, 300.10, 0, NULL, 2), (4, 2, '2024-11-05', 10, -300.10, 0, NULL, 2),
     (5, 3, '2025-01-15', 11, 135, 100, 7, 1), (6, 3, '2025-01-15', 40, -135, -100, 7, 1),
     (7, 4, '2025-02-20', 50, 200.25, 0, 8, NULL), (8, 4, '2025-02-20', 10, -200.25, 0, 8, NULL),
-    (9, 5, '2025-03-31', 11, -28.20, -20, 7, 2), (10, 5, '2025-03-31', 20, 28.20, NULL, 7, 2);
+    (9, 5, '2025-03-31', 11, -28.20, -20, 7, 2), (10, 5, '2025-03-31', 20, 28.20, NULL, 7, 2),
+    (11, 6, '2025-04-15', 12, 140, 100, NULL, NULL),
+    (12, 6, '2025-04-15', 40, -140, -100, NULL, NULL);
 INSERT INTO AcctBudget VALUES (1, 50, '2025-01-01', '2025-01-31', 310),
     (2, 50, '2025-02-01', '2025-02-28', 100), (3, 40, '2025-02-01', '2025-02-28', -100),
     (4, 40, '2025-06-01', '2025-06-02', -0.0001);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/control_accounts.h"
 #include "host/decimal.h"
 
 namespace varnel::test {
@@ -93,15 +94,50 @@ Currency MemoryCompany::AccountBalance(std::int32_t account_id, const BalanceSco
     return balance;
 }
 
+bool MemoryCompany::IsIncomeStatement(std::int32_t account_id) {
+    return type_classes[account_types[account_id]] == kIncomeStatementClass;
+}
+
 Currency MemoryCompany::EarningsBefore(Date date, const BalanceScope& scope) {
     calls_.Note("EarningsBefore");
     const BalanceScope before{kOpenStart, date - 1, scope.segment_clause, scope.project_ids};
     Currency earnings;
     for (const auto& line : ledger)
-        if (type_classes[account_types[line.account_id]] == kIncomeStatementClass &&
-            Takes(before, line))
-            earnings += line.home;
+        if (IsIncomeStatement(line.account_id) && Takes(before, line)) earnings += line.home;
     return earnings;
+}
+
+Currency MemoryCompany::StatementBalance(std::int32_t account_id, const BalanceScope& scope,
+                                         IExchangeRates& rates) {
+    calls_.Note("StatementBalance");
+    const Date year_start = FiscalYearStart(scope.to);
+    Currency balance = AccountBalance(account_id, scope, false) + GainOf(account_id, scope, rates);
+    if (account_id == GetGLAccountParam("GLRtainEarn", kCompanySection))
+        balance += EarningsBefore(year_start, scope);
+    if (account_id != GetGLAccountParam("GLCurntEarn", kCompanySection)) return balance;
+    const BalanceScope year{year_start, scope.to, scope.segment_clause, scope.project_ids};
+    for (const auto& line : ledger)
+        if (IsIncomeStatement(line.account_id) && Takes(year, line)) balance += line.home;
+    return balance - GainOfBalanceSheet(scope, rates);
+}
+
+Currency MemoryCompany::GainOf(std::int32_t account_id, const BalanceScope& scope,
+                               IExchangeRates& rates) {
+    const auto own = account_currencies.find(account_id);
+    if (own == account_currencies.end() || own->second == currency_info.home_id) return {};
+    if (!rates.IExchangeRates_Reevaluate() || !currency_info.CieIsForeignCurrencyUsed()) return {};
+    if (ControlAccounts(*this).Holds(account_id, own->second)) return {};
+    const Currency home = AccountBalance(account_id, scope, false);
+    const Currency foreign = AccountBalance(account_id, scope, true);
+    if (home.IsZero() && foreign.IsZero()) return {};
+    return currency_info.EvaluateValueWithExchangeRate({}, own->second, foreign, rates) - home;
+}
+
+Currency MemoryCompany::GainOfBalanceSheet(const BalanceScope& scope, IExchangeRates& rates) {
+    Currency gain;
+    for (const auto& [account_id, type] : account_types)
+        if (!IsIncomeStatement(account_id)) gain += GainOf(account_id, scope, rates);
+    return gain;
 }
 
 void MemoryCompany::BeginRun() { calls_.Note("BeginRun"); }

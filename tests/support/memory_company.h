@@ -76,6 +76,8 @@ class MemoryCompany final : public Company,
     Currency AccountBalance(std::int32_t account_id, const BalanceScope& scope,
                             bool in_foreign_currency) override;
     Currency EarningsBefore(Date date, const BalanceScope& scope) override;
+    Currency StatementBalance(std::int32_t account_id, const BalanceScope& scope,
+                              IExchangeRates& rates) override;
     void BeginRun() override;
     Currency GetAcctBudgetRange(std::int32_t account_id, Date from, Date to) override;
     std::int32_t Class(std::int32_t account_type) override;
@@ -89,6 +91,10 @@ class MemoryCompany final : public Company,
 
   private:
     bool Takes(const BalanceScope& scope, const LedgerLine& line) const;
+    bool IsIncomeStatement(std::int32_t account_id);
+    /// What revaluation adds to the account's home balance.
+    Currency GainOf(std::int32_t account_id, const BalanceScope& scope, IExchangeRates& rates);
+    Currency GainOfBalanceSheet(const BalanceScope& scope, IExchangeRates& rates);
     HostCalls& calls_;
     MemoryDatabase& database_;
 };
