@@ -8,6 +8,7 @@
 
 #include "cli/configure_options.h"
 #include "cli/configure_report.h"
+#include "cli/cumulative_period.h"
 #include "cli/dialogs/terminal_ability.h"
 #include "cli/errors.h"
 #include "cli/formats.h"
@@ -144,6 +145,7 @@ int RunReport(const RunRequest& request, Console& console) {
     const auto report = MakeReport(entry, entry.arguments(settings, *host));
     if (report == nullptr) return Conclude(log, false, console);
     PutSubject(*report, entry, *host, request);
+    PutCumulativePeriod(*report, entry, host->CurrentCompany(), settings);
     ConfigureReport(*report, host, request, settings);
     if (auto* config = dynamic_cast<IReportConfig*>(report.get()); config && log.Count() == 0)
         ConfigureOptions(*config, *dialogs, settings.options, request.configure);

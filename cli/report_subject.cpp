@@ -13,29 +13,53 @@ namespace varnel::cli {
 
 namespace {
 
-/// Something that a report can be about.
+/// A property that an option sets.
+struct PropertyWithOption {
+    std::string_view ReportEntry::*property;
+    std::string_view option;
+};
+
+constexpr PropertyWithOption kPropertiesWithOption[] = {
+    {&ReportEntry::account_property, "--account"},
+    {&ReportEntry::currency_property, "--currency"},
+    {&ReportEntry::projects_property, "--projects"},
+    {&ReportEntry::cumulative_from_property, "--cumulative-from"},
+    {&ReportEntry::cumulative_to_property, "--cumulative-to"},
+};
+
+/// What a report can be about, and the option that must say so.
+struct Subject {
+    std::string_view ReportEntry::*property;
+    std::string RunRequest::*given;
+    std::string_view words, option;
+};
+
+constexpr Subject kSubjects[] = {
+    {&ReportEntry::account_property, &RunRequest::account, "one account", "--account NUMBER"},
+    {&ReportEntry::currency_property, &RunRequest::currency, "one currency", "--currency CODE"},
+    {&ReportEntry::projects_property, &RunRequest::projects, "some projects", "--projects IDS"},
+};
+
+/// Something that the command line names and reports know by its id.
 struct Kind {
-    std::string_view option, thing, example;
+    std::string_view option, thing;
     std::string_view ReportEntry::*property;
     std::string RunRequest::*name;
     const char* query;  // Id and name of each.
 };
 
-constexpr Kind kAccount = {"--account",          "account",
-                           "--account NUMBER",   &ReportEntry::account_property,
-                           &RunRequest::account, "SELECT InGLAcctId, GLAcctId FROM GLAcct"};
-constexpr Kind kCurrency = {
-    "--currency",          "currency",
-    "--currency CODE",     &ReportEntry::currency_property,
-    &RunRequest::currency, "SELECT InCurrencyId, CurrencyCode FROM WorldCurrency"};
-constexpr Kind kKinds[] = {kAccount, kCurrency};
+constexpr Kind kKinds[] = {
+    {"--account", "account", &ReportEntry::account_property, &RunRequest::account,
+     "SELECT InGLAcctId, GLAcctId FROM GLAcct"},
+    {"--currency", "currency", &ReportEntry::currency_property, &RunRequest::currency,
+     "SELECT InCurrencyId, CurrencyCode FROM WorldCurrency"},
+};
 
-void RefuseProperty(const Kind& kind, std::string_view property, const RunRequest& request) {
+void RefuseProperty(std::string_view property, std::string_view option, const RunRequest& request) {
     for (const auto& text : request.properties) {
         const std::string name = text.substr(0, text.find('='));
         if (SameName(name, property))
-            throw UsageError("--property " + name + ": use " + std::string(kind.option) +
-                             " instead");
+            throw UsageError("--property " + name + ": use " + std::string(option) + " instead");
     }
 }
 
@@ -71,14 +95,12 @@ void RefuseHomeCurrency(std::int32_t currency_id, company::CompanyHost& host,
 }  // namespace
 
 void RequireSubject(const ReportEntry& entry, const RunRequest& request) {
-    for (const auto& kind : kKinds) {
-        const auto property = entry.*kind.property;
-        if (property.empty()) continue;
-        RefuseProperty(kind, property, request);
-        if ((request.*kind.name).empty())
-            throw UsageError(std::string(entry.name) + " is about one " + std::string(kind.thing) +
-                             ": add " + std::string(kind.example));
-    }
+    for (const auto& [property, option] : kPropertiesWithOption)
+        if (!(entry.*property).empty()) RefuseProperty(entry.*property, option, request);
+    for (const auto& subject : kSubjects)
+        if (!(entry.*subject.property).empty() && (request.*subject.given).empty())
+            throw UsageError(std::string(entry.name) + " is about " + std::string(subject.words) +
+                             ": add " + std::string(subject.option));
 }
 
 void PutSubject(IReport& report, const ReportEntry& entry, company::CompanyHost& host,

@@ -7,8 +7,8 @@
 
 namespace varnel::cli {
 
-/// A UsageError when the report is about one account or one currency and the request names none, or
-/// sets it by --property.
+/// A UsageError when the report is about one account, one currency or some projects and the request
+/// names none, or sets by --property what the report has an option for.
 void RequireSubject(const ReportEntry& entry, const RunRequest& request);
 
 /// Puts the internal ids of the account and the currency that the request names into the report's

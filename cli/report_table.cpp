@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <string>
 
+#include "cli/cumulative_period.h"
 #include "cli/errors.h"
 #include "cli/nearest_name.h"
+#include "cli/projects.h"
 #include "framework/catalogue.h"
 #include "framework/create_object.h"
 
@@ -19,9 +21,10 @@ Arguments ActiveAndInactive(const RunSettings&, Application&) { return {Variant(
 Arguments LedgerOfAll(const RunSettings&, Application&) { return {Variant(std::int16_t{0})}; }
 
 /// Projects, and the cumulative period: its last day first.
-Arguments FiscalYearToDate(const RunSettings& settings, Application& application) {
+Arguments ProjectsAndPeriod(const RunSettings& settings, Application& application) {
     auto& company = application.CurrentContext().CurrentCompany();
-    return {Variant(""), settings.to, company.FiscalYearStart(settings.to)};
+    const auto [from, to] = CumulativePeriodOf(settings, company);
+    return {ListProjects(application, settings.projects), to, from};
 }
 
 constexpr ReportEntry kReports[] = {
@@ -30,8 +33,19 @@ constexpr ReportEntry kReports[] = {
     {"general-ledger-by-account", "GeneralLedgerByAccount", "dsrGeneralLedgerByAccount", None},
     {"trial-balance-summary", "TrialBalanceSummary", "dsrTrialBalanceSummary", None},
     {"trial-balance-detail", "TrialBalanceDetail", "dsrTrialBalanceDetail", ActiveAndInactive},
-    {"income-statement", "IncomeStatement", "dsrIncomeStatement", None},
-    {"income-statement-proj", "IncomeStatementProj", "dsrIncomeStatement", FiscalYearToDate},
+    {.name = "income-statement",
+     .method = "IncomeStatement",
+     .class_name = "dsrIncomeStatement",
+     .arguments = None,
+     .cumulative_from_property = "CumulDateFrom",
+     .cumulative_to_property = "CumulDateTo"},
+    {.name = "income-statement-proj",
+     .method = "IncomeStatementProj",
+     .class_name = "dsrIncomeStatement",
+     .arguments = ProjectsAndPeriod,
+     .projects_property = "ProjIds",
+     .cumulative_from_property = "CumulDateFrom",
+     .cumulative_to_property = "CumulDateTo"},
     {"balance-sheet", "BalanceSheet", "dsrBalanceSheet", None},
     {"comparative-income-statement", "ComparativeIncomeStatement", "dsrComparativeIncomeStatement",
      None},
@@ -42,9 +56,18 @@ constexpr ReportEntry kReports[] = {
     {"bank-reconciliation", "BankReconciliation", "dsrBankReconciliation", None},
     {"current-bank-reconciliation", "CurrentBankReconciliation", "dsrCurrentBankReconciliation",
      None},
-    {"unrealized-exchange", "UnRealExchProfitLoss", "dsrUnRealExchProfitloss", None, "", "", true},
-    {"unrealized-exchange-detail", "UnRealExchProfitLossDetail", "dsrUnRealExchProfitlossDetail",
-     None, "GLAcctId", "ExCurrencyId", true},
+    {.name = "unrealized-exchange",
+     .method = "UnRealExchProfitLoss",
+     .class_name = "dsrUnRealExchProfitloss",
+     .arguments = None,
+     .filter_gives_rates = true},
+    {.name = "unrealized-exchange-detail",
+     .method = "UnRealExchProfitLossDetail",
+     .class_name = "dsrUnRealExchProfitlossDetail",
+     .arguments = None,
+     .account_property = "GLAcctId",
+     .currency_property = "ExCurrencyId",
+     .filter_gives_rates = true},
     {"realized-exchange", "RealizedExchProfitLoss", "dsrRealizedExchProfitloss", None},
 };
 

@@ -23,6 +23,12 @@ struct ReportEntry {
     /// is about; empty for reports that are about all.
     std::string_view account_property = {};
     std::string_view currency_property = {};
+    /// Property that holds the ids of the projects that the report is about; the factory is given
+    /// them. Empty for reports that are about all.
+    std::string_view projects_property = {};
+    /// Properties of the days of a cumulative period; empty for reports that have none.
+    std::string_view cumulative_from_property = {};
+    std::string_view cumulative_to_property = {};
     /// Whether the filter is not criteria but exchange rates: "USD=1.35|EUR=1.47".
     bool filter_gives_rates = false;
 };

@@ -23,6 +23,12 @@ bool HasAccount(const ReportEntry& entry, IReport&) { return !entry.account_prop
 
 bool HasCurrency(const ReportEntry& entry, IReport&) { return !entry.currency_property.empty(); }
 
+bool HasProjects(const ReportEntry& entry, IReport&) { return !entry.projects_property.empty(); }
+
+bool HasCumulativePeriod(const ReportEntry& entry, IReport&) {
+    return !entry.cumulative_from_property.empty();
+}
+
 constexpr RunOption kOptions[] = {
     {"--company", "FILE", &RunRequest::company, "The company database"},
     {"--from", "DATE", &RunRequest::from, "First day, as 2025-03-31; left out: no limit",
@@ -31,6 +37,12 @@ constexpr RunOption kOptions[] = {
      HasLastDay},
     {"--account", "NUMBER", &RunRequest::account, "The account, by its number", HasAccount},
     {"--currency", "CODE", &RunRequest::currency, "The foreign currency, as USD", HasCurrency},
+    {"--projects", "IDS", &RunRequest::projects, "The projects, by id: 3,7", HasProjects},
+    {"--cumulative-from", "DATE", &RunRequest::cumulative_from,
+     "First day of the cumulative period; left out: of the fiscal year of --to",
+     HasCumulativePeriod},
+    {"--cumulative-to", "DATE", &RunRequest::cumulative_to,
+     "Last day of the cumulative period; left out: --to", HasCumulativePeriod},
     {"--segments", "IDS", &RunRequest::segments, "Only these segments, by id: 3,7",
      Has<ISegmentFilter>},
     {"--no-segment", "", &RunRequest::no_segment,

@@ -13,6 +13,9 @@ struct RunRequest {
     std::string to;
     std::string account;   // Its number.
     std::string currency;  // Its code.
+    std::string projects;
+    std::string cumulative_from;
+    std::string cumulative_to;
     std::string segments;
     bool no_segment = false;
     std::string filter;

@@ -20,6 +20,11 @@ Date ReadDate(std::string_view option, const std::string& text, Date when_empty)
     return date;
 }
 
+std::optional<Date> ReadGivenDate(std::string_view option, const std::string& text) {
+    if (text.empty()) return {};
+    return ReadDate(option, text, Date());
+}
+
 std::int32_t ReadId(std::string_view option, std::string_view text) {
     while (text.starts_with(' ')) text.remove_prefix(1);
     while (text.ends_with(' ')) text.remove_suffix(1);
@@ -112,9 +117,11 @@ RunSettings ReadSettings(const RunRequest& request) {
     if (settings.to < settings.from)
         throw UsageError("the period ends before it starts: --from " + settings.from.ToIso() +
                          " is after --to " + settings.to.ToIso());
+    settings.cumulative.from = ReadGivenDate("--cumulative-from", request.cumulative_from);
+    settings.cumulative.to = ReadGivenDate("--cumulative-to", request.cumulative_to);
+    settings.projects = ReadIds("--projects", request.projects);
     settings.segments = ReadIds("--segments", request.segments);
-    if (!request.session_date.empty())
-        settings.session_date = ReadDate("--session-date", request.session_date, Date());
+    settings.session_date = ReadGivenDate("--session-date", request.session_date);
     settings.rates = ReadRates(request.rates, request.rates_file);
     for (const auto& property : request.properties)
         settings.properties.push_back(ReadProperty(property));

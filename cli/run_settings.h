@@ -23,6 +23,11 @@ struct RunSettings {
 
     Date from = kOpenStart;
     Date to = kOpenEnd;
+    /// Of statements that show a second period; none for a day that is not given.
+    struct {
+        std::optional<Date> from, to;
+    } cumulative;
+    std::vector<std::int32_t> projects;
     std::vector<std::int32_t> segments;
     std::optional<Date> session_date;
     std::vector<company::GivenRate> rates;

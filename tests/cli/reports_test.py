@@ -20,7 +20,7 @@ class Reports(VarnelTest):
     def test_every_listed_report_runs(self):
         _, output, _ = self.run_varnel("reports")
         lines = output.decode().splitlines()
-        subjects = {"--account": "1030", "--currency": "USD"}
+        subjects = {"--account": "1030", "--currency": "USD", "--projects": "1"}
         names = [line.split()[0] for line in lines[::2]]
         self.assertIn("general-journal", names)
         for name, options in zip(names, lines[1::2]):
