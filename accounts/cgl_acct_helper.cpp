@@ -1,8 +1,7 @@
 #include "accounts/cgl_acct_helper.h"
 
-#include "framework/ledger_balance_columns.h"
+#include "accounts/unrealized_gain.h"
 #include "framework/procedure.h"
-#include "framework/query_runner.h"
 #include "host/member_table.h"
 
 namespace varnel {
@@ -10,66 +9,10 @@ namespace varnel {
 namespace {
 
 using framework::GuardFormB;
-using framework::LedgerBalance;
-using framework::Mark;
 using Arguments = std::span<const Variant>;
 
 constexpr std::string_view kClass = "CGLAcctHelper";
 constexpr std::string_view kUnrealized = "GetPLUnrealOnExchangeRateAmount";
-
-constexpr std::string_view kSelect =
-    "SELECT GLAcct.InGLAcctId, GLDet.ExCurrencyId, GLDet.DetDate, "
-    "       GLDet.SeqNo, GLDet.DetDesc, GLDet.ExChangeRate, SUM(ForeignAmnt) As AcctBalForeign, "
-    "       SUM(DetAmnt) As AcctBalHome, GLDet.ExProjId, WorldCurrency.CurrencyCode, "
-    "WorldCurrency.Descr "
-    "FROM (GLAcct "
-    "INNER JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId) "
-    "LEFT JOIN WorldCurrency on GLDet.ExCurrencyID = WorldCurrency.InCurrencyId "
-    "WHERE ((ChqAcct<>0 AND GLAcct.ExCurrencyId <> ?) "
-    "OR InGLAcctId IN ( ";
-
-constexpr std::string_view kForeignUpTo =
-    " )) "
-    "AND GLDet.ExCurrencyId <> ? "
-    "AND GLDet.DetDate <= ? ";
-
-constexpr std::string_view kGroupBy =
-    " GROUP BY GLAcct.InGLAcctId, WorldCurrency.CurrencyCode, WorldCurrency.Descr, "
-    "       GLDet.ExCurrencyId, GLDet.DetDate, GLDet.SeqNo, GLDet.ExChangeRate, GLDet.DetDesc, "
-    "GLDet.ExProjId";
-
-std::string Statement(CurrencyInfo& info, const std::string& project_ids) {
-    std::string statement(kSelect);
-    Mark(), statement += info.GetCurrencies().GetAllARAPGLAccountUsed();
-    statement += kForeignUpTo;
-    if (!project_ids.empty()) statement += " AND ExProjId IN ( " + project_ids + " ) ";
-    statement += kGroupBy;
-    return statement;
-}
-
-Currency SumOfGains(Recordset& rows, CurrencyInfo& info, const RateCollection* rates,
-                    const std::string& date) {
-    framework::LedgerBalanceColumns columns;
-    Mark(), columns.Resolve(rows.GetColumns());
-    Currency total;
-    for (; !(Mark(), rows.AtEnd()); (Mark(), rows.MoveNext())) {
-        const LedgerBalance balance = (Mark(), columns.Read(rows.Current()));
-        Mark(), total += EvaluateAtKeyedRate(info, rates, date, balance).gain;
-    }
-    return total;
-}
-
-Currency UnrealizedGain(Application& application, Date end_date, const RateCollection* rates,
-                        const std::string& project_ids) {
-    auto& info = (Mark(), application.CurrentContext().CurrentCompany().GetCurrencyInfo());
-    const std::int32_t home_id = (Mark(), info.CieHomeCurrencyId());
-    const std::string statement = Statement(info, project_ids);
-    const Variant parameters[] = {home_id, home_id, end_date};
-    const auto rows = (Mark(), framework::RunQuery(application, statement, parameters));
-    // With one currency all is worth what was booked.
-    if (!(Mark(), info.CieIsForeignCurrencyUsed())) return {};
-    return SumOfGains(*rows, info, rates, end_date.ToIso());
-}
 
 Variant CallInit(CGLAcctHelper& helper, Arguments a) {
     helper.Init(
@@ -119,7 +62,8 @@ Currency CGLAcctHelper::GetPLUnrealOnExchangeRateAmount(
     const std::string& ex_project_id) {
     return GuardFormB(kClass, kUnrealized, [&] {
         if (!reevaluate) return Currency();
-        return UnrealizedGain(*Host(), end_date, exchange_rates.get(), ex_project_id);
+        const UnrealizedScope scope{.to = end_date, .project_ids = ex_project_id};
+        return UnrealizedGain(*Host(), scope, exchange_rates.get());
     });
 }
 

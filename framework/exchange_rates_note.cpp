@@ -34,17 +34,24 @@ std::string ExchangeRatesText(Application& application, std::string_view what) {
     return place == std::string::npos ? text : text.replace(place, kPlace.size(), what);
 }
 
+std::string RatesLegend(Application& application, IExchangeRates& rates) {
+    auto& info = application.CurrentContext().CurrentCompany().GetCurrencyInfo();
+    if (!info.CieIsForeignCurrencyUsed()) return {};
+    return info.GetCurrencies().GetCurrenciesLegend(rates);
+}
+
+void ShowRatesLine(Surface& surface, const std::string& text) {
+    const bool shown = !text.empty();
+    SetHeaderBlockHeight(surface, kHeaderBlockHeight + (shown ? kNoteHeight : 0));
+    Control& note = surface.At(kExchangeRatesNote);
+    note.SetVisible(shown);
+    note.SetText(text);
+}
+
 void ShowExchangeRatesNote(Application& application, Surface& surface, IExchangeRates& rates,
                            bool wanted) {
-    Control& note = surface.At(kExchangeRatesNote);
-    auto& info = application.CurrentContext().CurrentCompany().GetCurrencyInfo();
-    std::string legend;
-    if (wanted && info.CieIsForeignCurrencyUsed())
-        legend = info.GetCurrencies().GetCurrenciesLegend(rates);
-    const bool shown = !legend.empty();
-    SetHeaderBlockHeight(surface, kHeaderBlockHeight + (shown ? kNoteHeight : 0));
-    note.SetVisible(shown);
-    note.SetText(shown ? ExchangeRatesText(application, legend) : std::string());
+    const std::string legend = wanted ? RatesLegend(application, rates) : std::string();
+    ShowRatesLine(surface, legend.empty() ? legend : ExchangeRatesText(application, legend));
 }
 
 }  // namespace varnel::framework

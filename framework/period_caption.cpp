@@ -25,6 +25,14 @@ std::string TrialPeriodCaption(Application& application, Date from, Date to) {
            PlainText(application, kFrom) + " " + ShortDate(application, to);
 }
 
+std::string StatementPeriodCaption(Application& application, Date from, Date to) {
+    if (from == kOpenStart && to == kOpenEnd) return PlainText(application, kAllDates);
+    std::string caption;
+    if (from != kOpenStart) caption = ShortDate(application, from) + " ";
+    const Date last = to == kOpenEnd ? application.SessionDate() : to;
+    return caption + PlainText(application, kFrom) + " " + ShortDate(application, last);
+}
+
 std::string ClosingDateCaption(Application& application, Date to) {
     if (to == kOpenEnd) return PlainText(application, kAllDates);
     return PlainText(application, kAsAt) + " " + ShortDate(application, to);

@@ -7,6 +7,8 @@
 #include "reports/exchange/unrealized_exchange.h"
 #include "reports/exchange/unrealized_exchange_detail.h"
 #include "reports/journal/general_journal.h"
+#include "reports/statements/balance_sheet.h"
+#include "reports/statements/income_statement.h"
 #include "reports/trial/gifi_report.h"
 #include "reports/trial/trial_balance_detail.h"
 #include "reports/trial/trial_balance_summary.h"
@@ -31,8 +33,8 @@ constexpr CatalogueEntry kReports[] = {
     {"dsrGeneralLedgerByAccount", 30014, nullptr},
     {"dsrTrialBalanceSummary", 30001, Make<reports::dsrTrialBalanceSummary>},
     {"dsrTrialBalanceDetail", 30002, Make<reports::dsrTrialBalanceDetail>},
-    {"dsrIncomeStatement", 6096, nullptr},
-    {"dsrBalanceSheet", 30003, nullptr},
+    {"dsrIncomeStatement", 6096, Make<reports::dsrIncomeStatement>},
+    {"dsrBalanceSheet", 30003, Make<reports::dsrBalanceSheet>},
     {"dsrComparativeIncomeStatement", 30004, nullptr},
     {"dsrComparativeBalanceSheet", 30006, nullptr},
     {"dsrGIFIReport", 30007, Make<reports::dsrGIFIReport>},

@@ -4,13 +4,8 @@
 
 namespace varnel::reports {
 
-EarningsAccounts ReadEarningsAccounts(Company& company) {
-    return {.retained = company.GetGLAccountParam("GLRtainEarn", kCompanySection),
-            .current = company.GetGLAccountParam("GLCurntEarn", kCompanySection)};
-}
-
 AccountAmounts::AccountAmounts(Company& company, IExchangeRates& rates,
-                               const EarningsAccounts& earnings, const Period& period)
+                               const framework::EarningsAccounts& earnings, const Period& period)
     : company_(company),
       rates_(rates),
       earnings_(earnings),

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "framework/earnings_accounts.h"
 #include "framework/known_sum.h"
 #include "framework/revalued_report.h"
 #include "host/company.h"
@@ -18,14 +19,6 @@ struct TrialAccount {
     /// The home currency when it has none of its own.
     std::int32_t currency_id = 0;
 };
-
-/// The company's accounts of earnings, by internal id; 0 where it has none.
-struct EarningsAccounts {
-    std::int32_t retained = 0;
-    std::int32_t current = 0;
-};
-
-EarningsAccounts ReadEarningsAccounts(Company& company);
 
 /// What trial balances and the GIFI report say an account's balance is, debit positive. Income
 /// statement accounts count from the start of the year, all others from the beginning; retained
@@ -44,8 +37,8 @@ class AccountAmounts {
     };
 
     /// Company and rates must outlive it. Before Read comes Resolve.
-    AccountAmounts(Company& company, IExchangeRates& rates, const EarningsAccounts& earnings,
-                   const Period& period);
+    AccountAmounts(Company& company, IExchangeRates& rates,
+                   const framework::EarningsAccounts& earnings, const Period& period);
 
     /// The columns InGLAcctId, AcctType and ExCurrencyId of the account.
     void Resolve(const Columns& columns);
@@ -93,7 +86,7 @@ class AccountAmounts {
 
     Company& company_;
     IExchangeRates& rates_;
-    EarningsAccounts earnings_;
+    framework::EarningsAccounts earnings_;
     std::int32_t unrealized_account_id_;
     std::int32_t home_currency_id_;
     BalanceScope since_beginning_, since_year_start_;

@@ -35,7 +35,7 @@ class TrialReport : public framework::ReportBase,
     Date StartOfYearOrPeriod();
 
   private:
-    std::optional<EarningsAccounts> earnings_;
+    std::optional<framework::EarningsAccounts> earnings_;
     std::optional<AccountAmounts> amounts_;
 };
 

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "reports/statements/statement_report.h"
+
+namespace varnel::reports {
+
+/// Income statement: revenue, expenses and other items of the period and of the fiscal year so far,
+/// with the subtotals that the chart places, a total of each section and the result.
+///
+/// Late-bound it has the properties `ProjIds` (comma-separated project ids; empty takes all), and
+/// `CumulDateFrom` and `CumulDateTo`, the cumulative period; the zero date stands for one that was
+/// not set, which is then the fiscal year up to the last date.
+class dsrIncomeStatement final : public StatementReport {
+  public:
+    dsrIncomeStatement();
+
+    std::string IReport_ReportTitle() override;
+    void ActiveReport_ReportStart() override;
+
+    /// What the host sets before the run.
+    struct Selection {
+        std::string project_ids = {};
+        Date cumulative_from;
+        Date cumulative_to;
+    };
+    Selection& GetSelection() { return selection_; }
+
+  protected:
+    Sides AmountsOf(const StatementRow& row) override;
+    bool IsCreditType(std::int32_t account_type) const override;
+
+  private:
+    std::string BuildStatement();
+    void SetPeriods();
+    void SetPageHeader();
+    void SetPageHeaderForProjStatement();
+    std::string ProjectNames();
+    void PlaceGroupHeader();
+    Currency AmountOver(const BalanceScope& scope, std::int32_t account_id);
+    Currency UnrealizedGainBy(Date date);
+    /// Without a caption there is no result to show yet.
+    void ShowResult(std::int16_t caption_text);
+
+    void ghAcctType_Format();
+    void gfAcctType_Format();
+
+    Selection selection_;
+    BalanceScope period_, cumulative_;
+    Sides result_;
+    /// The unrealized gain by a day, asked for once a run.
+    std::optional<std::pair<Date, Currency>> unrealized_;
+
+    StatementLine section_total_;
+    StatementLine result_line_;
+    StatementLine final_rules_;  // Under the last result.
+    Section& GroupHeader1 = SectionAt("GroupHeader1");
+    Section& ghAcctType = SectionAt("ghAcctType");
+    Section& gfAcctType = SectionAt("gfAcctType");
+    Control& lblProjects = At("lblProjects");
+    Control& fldProjects = At("fldProjects");
+    Control& txtExchangeRate = At("txtExchangeRate");
+    Control& lblDatePeriod = At("lblDatePeriod");
+    Control& lblDateCul = At("lblDateCul");
+    Control& lblAcctType = At("lblAcctType");
+    Control& lblTypeCap = At("lblTypeCap");
+    Control& lblGTot = At("lblGTot");
+};
+
+}  // namespace varnel::reports

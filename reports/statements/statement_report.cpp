@@ -1,0 +1,184 @@
+#include "reports/statements/statement_report.h"
+
+#include "framework/filter_sort_subreport.h"
+#include "framework/gl_config.h"
+#include "framework/item_adjustment_note.h"
+#include "framework/query_runner.h"
+#include "framework/styles.h"
+#include "framework/texts.h"
+
+namespace varnel::reports {
+
+using namespace framework;
+
+namespace {
+
+constexpr int kCents = 2;
+constexpr Twips kIndent = 240;
+/// Room under a subtotal, before what comes next.
+constexpr Twips kSubtotalHeight = 300;
+constexpr Twips kOuterSubtotalHeight = 380;
+
+Twips HeightOf(RowRole role) {
+    if (role == RowRole::kOuterSubtotal) return kOuterSubtotalHeight;
+    return role == RowRole::kSubtotal ? kSubtotalHeight : kDetailHeight;
+}
+
+bool IsBold(RowRole role) {
+    return role == RowRole::kOuterHeading || role == RowRole::kOuterSubtotal;
+}
+
+}  // namespace
+
+StatementReport::StatementReport(const Layout& layout, const Facts& facts)
+    : ReportBase(layout, facts),
+      SegmentFilter(Members()),
+      FilterableReport(Members()),
+      RevaluedReport(Members()) {
+    Handle("Detail_Format", &StatementReport::Detail_Format);
+}
+
+void StatementReport::IReport_Initialize() {
+    Guard("IReport_Initialize", [&] {
+        earnings_.reset();
+        ReadHomeCurrency();
+        Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
+    });
+}
+
+void StatementReport::IReportConfig_ShowConfigurationScreen() {
+    Guard("IReportConfig_ShowConfigurationScreen", [&] {
+        Mark(), include_zero_balances_ = AskIncludeZeroBalance(App(), include_zero_balances_);
+    });
+}
+
+void StatementReport::RowColumns::Resolve(const Columns& columns) {
+    id = columns.At("InGLAcctId");
+    type = columns.At("AcctType");
+    role = columns.At("GroupType");
+    inactive = columns.At("Inactive");
+}
+
+StatementRow StatementReport::RowColumns::Read(const Row& row) const {
+    StatementRow read{.role = RoleOf(row.Integer(role)),
+                      .account_id = std::nullopt,
+                      .type = row.Integer(type),
+                      .inactive = row.Truth(inactive)};
+    if (!row.IsNull(id)) read.account_id = row.Integer(id);
+    return read;
+}
+
+void StatementReport::StartRows(const std::string& statement) {
+    if (!earnings_) Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
+    auto& info = (Mark(), GetCurrencyInfo());
+    const bool foreign_used = (Mark(), info.CieIsForeignCurrencyUsed());
+    unrealized_account_id_ = foreign_used ? (Mark(), info.UnrealizedGainLossAcctId()) : 0;
+    auto rows = (Mark(), RunQuery(App(), statement, {}));
+    Mark(), columns_.Resolve(rows->GetColumns());
+    Data().Attach(std::move(rows));
+    levels_ = {};
+}
+
+void StatementReport::ShowFilterAndNote(std::optional<Date> adjustments_from) {
+    const CustomCriteria custom{Criteria().criteria, {}};
+    Mark(), FillFilterSubReport(GetSurface(), AppRef(), SegmentFilterDisplay(), custom, Tool());
+    Mark(), ShowItemAdjustmentNote(App(), GetSurface(), adjustments_from, DateTo());
+}
+
+BalanceScope StatementReport::Scope(Date from, Date to, const std::string& project_ids) const {
+    return {from, to, SegmentClauseOn("GLDet.ExSegmentId"), project_ids};
+}
+
+Currency StatementReport::StatementBalance(std::int32_t account_id, const BalanceScope& scope) {
+    return CurrentCompany().Balances().StatementBalance(account_id, scope, *this);
+}
+
+Sides StatementReport::Rounded(const Sides& sides) {
+    auto& info = GetCurrencyInfo();
+    return sides.Transformed([&info](Currency amount) { return info.Round(amount, kCents); });
+}
+
+bool StatementReport::BeginSection() {
+    section_type_ = 0;
+    if (EndOfData()) return false;
+    Mark(), section_type_ = columns_.Read(CurrentRow()).type;
+    outline_ = {};
+    return true;
+}
+
+void StatementReport::Show(StatementLine& line, const Sides& sides) {
+    line.Show(App().GetFormats(), sides, text_);
+}
+
+// Earnings are more than the lines of their account.
+std::string StatementReport::KeyOf(const StatementRow& row) {
+    if (!row.account_id || earnings_->Hold(*row.account_id)) return {};
+    const std::string id = std::to_string(*row.account_id);
+    return IsUnrealized(*row.account_id) ? "GLUnrealized|" + id : id;
+}
+
+// With the sign they print with. Nothing when the account is left out.
+std::optional<Sides> StatementReport::CountAccount() try {
+    Sides exact;
+    if (row_.account_id) exact = AmountsOf(row_);
+    if (IsCreditType(row_.type)) exact = exact.Negated();
+    const bool has_amounts = !row_.inactive && !exact.AreZero();
+    if (!has_amounts && !include_zero_balances_) return std::nullopt;
+    const Sides amounts = Rounded(exact);
+    levels_.Add(amounts);
+    return amounts;
+} catch (...) {
+    levels_.Lose();
+    throw;
+}
+
+void StatementReport::ShowAccount() {
+    line_.SetTag(KeyOf(row_));
+    const auto amounts = (Mark(), CountAccount());
+    if (!amounts) return Detail.Skip();
+    Mark(), Show(line_, *amounts);
+}
+
+// A row that cannot be read may be an account.
+void StatementReport::SetDetailControlsValue() {
+    Guard("SetDetailControlsValue", [&] {
+        line_.Clear();
+        line_.SetTag({});
+        row_ = {};
+        try {
+            Mark(), row_ = columns_.Read(CurrentRow());
+        } catch (...) {
+            levels_.Lose();
+            throw;
+        }
+        txtRow.SetText(NameOf(row_.role));
+        levels_.Begin(row_.role);
+        if (IsSubtotal(row_.role)) {
+            const Sides subtotal = levels_.TakeSubtotal(row_.role);
+            Mark(), Show(line_, subtotal);
+        }
+        if (row_.role == RowRole::kPosting) ShowAccount();
+    });
+}
+
+void StatementReport::SetDetailControlsPosition() {
+    Guard("SetDetailControlsPosition", [&] {
+        const Box& designed = txtDescr.Design().box;
+        const Twips indent = kIndent * outline_.DepthOf(row_.role);
+        const Twips right = txtDescr.Place().Right();
+        txtDescr.SetLeft(designed.left + indent);
+        txtDescr.SetWidth(right - txtDescr.Place().left);
+        txtDescr.SetBold(IsBold(row_.role));
+        line_.SetBold(IsBold(row_.role));
+        line_.SetRulesVisible(IsSubtotal(row_.role));
+        Detail.SetHeight(HeightOf(row_.role));
+    });
+}
+
+void StatementReport::Detail_Format() {
+    if (EndOfData()) return;
+    SetDetailControlsValue();
+    SetDetailControlsPosition();
+}
+
+}  // namespace varnel::reports
