@@ -39,6 +39,8 @@ void BookCompany::Put(const std::string& script) {
     host_->CurrentContext().CurrentCompany().BeginRun();
 }
 
+void BookCompany::Reopen() { host_ = Open(file_); }
+
 void ForEverySeed(
     const std::function<void(BookCompany& company, company::demo::Random& random)>& check) {
     BookCompany company;

@@ -18,6 +18,8 @@ class BookCompany {
 
     /// Runs statements that replace the books.
     void Put(const std::string& script);
+    /// Opens the company again: a host keeps the list of currencies and their control accounts.
+    void Reopen();
     const std::shared_ptr<Application>& Host() const { return host_; }
 
   private:
