@@ -87,7 +87,8 @@ bool dsrBalanceSheet::IsCreditType(std::int32_t account_type) const {
 
 Sides dsrBalanceSheet::AmountsOf(const StatementRow& row) try {
     const Currency booked = StatementBalance(*row.account_id, scope_);
-    return {booked + ExchangeAdjustment(*row.account_id, booked)};
+    account_adjustment_ = ExchangeAdjustment(*row.account_id, booked);
+    return {booked + account_adjustment_};
 } catch (...) {
     adjustment_.Lose();
     throw;
@@ -105,9 +106,7 @@ Currency dsrBalanceSheet::ExchangeAdjustment(std::int32_t account_id, Currency b
     const LedgerBalance balance{
         .currency_id = own_currency, .booked_rate = {}, .foreign = foreign, .home = booked};
     auto& info = company.GetCurrencyInfo();
-    const Currency gain = info.Round(EvaluateAtKeyedRate(info, *this, balance).gain, 2);
-    adjustment_.Add({gain});
-    return gain;
+    return info.Round(EvaluateAtKeyedRate(info, *this, balance).gain, 2);
 }
 
 void dsrBalanceSheet::ReportHeader_Format() {

@@ -20,6 +20,7 @@ class dsrBalanceSheet final : public StatementReport {
 
   protected:
     Sides AmountsOf(const StatementRow& row) override;
+    void AccountCounted() override { adjustment_.Add({account_adjustment_}); }
     bool IsCreditType(std::int32_t account_type) const override;
 
   private:
@@ -37,8 +38,9 @@ class dsrBalanceSheet final : public StatementReport {
     Column currency_id_;
     std::optional<ControlAccounts> control_accounts_;
     std::int32_t home_currency_id_ = 0;
-    Sides adjustment_;  // What control accounts gained so far.
-    Sides difference_;  // The first section less the others.
+    Currency account_adjustment_;  // What the account gains, if it is a control account.
+    Sides adjustment_;             // What those that print have gained so far.
+    Sides difference_;             // The first section less the others.
     Sides liabilities_and_equity_;
     bool out_of_balance_ = false;
 

@@ -126,6 +126,7 @@ std::optional<Sides> StatementReport::CountAccount() try {
     if (!has_amounts && !include_zero_balances_) return std::nullopt;
     const Sides amounts = Rounded(exact);
     levels_.Add(amounts);
+    AccountCounted();
     return amounts;
 } catch (...) {
     levels_.Lose();
