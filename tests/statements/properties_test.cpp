@@ -49,7 +49,9 @@ StatementQuestion Anything(const Books& books, Random& random) {
 // Inactive accounts count in a statement only where they are printed.
 StatementQuestion WholeBalanceSheet(const Books& books, Random& random) {
     StatementQuestion question{SomePeriod(books, random)};
-    question.include_zero = true;
+    const bool all_active = std::none_of(books.accounts.begin(), books.accounts.end(),
+                                         [](const auto& account) { return account.inactive; });
+    question.include_zero = !all_active || random.Chance(300);
     return question;
 }
 

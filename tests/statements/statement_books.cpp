@@ -20,19 +20,20 @@ Units SomeCents(Random& random) {
 
 std::vector<BookAccount> MakeChart(Random& random) {
     std::vector<BookAccount> accounts;
+    const bool all_active = random.Chance(400);
     const int count = Small(random, 8, 30);
     for (const int type : kFirstTypes)
         accounts.push_back({.id = static_cast<int>(accounts.size()) + 1,
                             .number = {},
                             .type = type,
                             .currency_id = 0,
-                            .inactive = random.Chance(50)});
+                            .inactive = !all_active && random.Chance(50)});
     for (int id = static_cast<int>(accounts.size()) + 1; id <= count; ++id)
         accounts.push_back({.id = id,
                             .number = {},
                             .type = Small(random, 1, 7),
                             .currency_id = random.Chance(350) ? Small(random, 1, kCurrencies) : 0,
-                            .inactive = random.Chance(150),
+                            .inactive = !all_active && random.Chance(150),
                             .gifi = {},
                             .group_type = random.Choose(kGroupTypes)});
     for (auto& account : accounts) {
@@ -86,6 +87,15 @@ void ChooseUnrealized(StatementBooks& books, Random& random) {
     books.unrealized = account->id;
 }
 
+// Foreign accounts at times hold nothing any more, but an amount at home is left.
+void SettleForeignAmounts(StatementBooks& books, Random& random) {
+    for (const auto& account : books.accounts) {
+        if (!account.IsForeign() || !random.Chance(200)) continue;
+        for (auto& line : books.lines)
+            if (line.account_id == account.id) line.foreign = 0;
+    }
+}
+
 std::string Parameter(const std::string& name, int account_id) {
     return "REPLACE INTO GLAccountParam VALUES ('Cie','" + name + "'," +
            std::to_string(account_id) + ");";
@@ -113,6 +123,7 @@ StatementBooks MakeStatementBooks(Random& random) {
     std::sort(books.accounts.begin(), books.accounts.end(),
               [](const auto& a, const auto& b) { return a.number < b.number; });
     AddEntries(books, random, kCurrencies, SomeCents);
+    SettleForeignAmounts(books, random);
     return books;
 }
 
