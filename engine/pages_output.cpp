@@ -41,7 +41,9 @@ void PagesOutput::Write(const Part& part, bool printed) {
     paginator_.Add(band_, {.kind = design.kind,
                            .level = part.level,
                            .repeat = opens_group && design.repeat,
-                           .keep_together = opens_group && design.keep_together});
+                           .keep_together = opens_group && design.keep_together,
+                           .keep_with_next = part.section->KeepsWithNext(),
+                           .keep_with_previous = part.section->KeepsWithPrevious()});
 }
 
 bool PagesOutput::Make(const Part* part, PlacedBand& band) {

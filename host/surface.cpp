@@ -109,7 +109,7 @@ Section::Section(const SectionLayout& layout) : layout_(&layout) {
 }
 
 bool Section::Format() {
-    skipped_ = false;
+    skipped_ = keeps_with_next_ = keeps_with_previous_ = false;
     if (on_format_) on_format_();
     return state_.visible && !skipped_;
 }

@@ -103,6 +103,11 @@ class Section {
     void SetHeight(Twips height) { state_.height = height; }
     /// Leaves this one instance out: no space, nothing printed. Its row still counts for groups.
     void Skip() { skipped_ = true; }
+    /// No page break between this one instance and what follows it, or what it follows.
+    void KeepWithNext() { keeps_with_next_ = true; }
+    void KeepWithPrevious() { keeps_with_previous_ = true; }
+    bool KeepsWithNext() const { return keeps_with_next_; }
+    bool KeepsWithPrevious() const { return keeps_with_previous_; }
 
     /// The handler of the format event; one per section.
     void OnFormat(std::function<void()> handler) { on_format_ = std::move(handler); }
@@ -119,6 +124,8 @@ class Section {
     const SectionLayout* layout_;
     State state_;
     bool skipped_ = false;
+    bool keeps_with_next_ = false;
+    bool keeps_with_previous_ = false;
     std::vector<Control> controls_;
     std::function<void()> on_format_;
 };

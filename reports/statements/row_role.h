@@ -20,6 +20,9 @@ enum class RowRole : std::uint8_t {
 
 RowRole RoleOf(std::int32_t group_type);
 
+constexpr bool IsHeading(RowRole role) {
+    return role == RowRole::kHeading || role == RowRole::kOuterHeading;
+}
 constexpr bool IsSubtotal(RowRole role) {
     return role == RowRole::kSubtotal || role == RowRole::kOuterSubtotal;
 }

@@ -46,7 +46,7 @@ void StatementLevels::Lose() {
 }
 
 void StatementLevels::Begin(RowRole role) {
-    if (role != RowRole::kHeading && role != RowRole::kOuterHeading) return;
+    if (!IsHeading(role)) return;
     inner_ = {};
     if (role == RowRole::kOuterHeading) outer_ = {};
 }

@@ -11,11 +11,12 @@ constexpr Twips kSectionCaptionTop = 240;
 constexpr Twips kSectionCaptionHeight = 290;
 constexpr Twips kRowRuleTop = 4;
 constexpr Twips kRowTop = 20;
+constexpr TextStyle kSection = {.size = 190, .bold = true, .ink = Ink::kAccent};
 
 }  // namespace
 
 SectionLayout StatementSection(const ColumnPlace& description) {
-    auto caption = ColumnText("lblAcctType", description, kSectionCaptionTop, kHeading, "section");
+    auto caption = ColumnText("lblAcctType", description, kSectionCaptionTop, kSection, "section");
     caption.kind = ControlKind::kLabel;
     caption.box.height = kSectionCaptionHeight;
     return {.name = "ghAcctType",

@@ -122,11 +122,11 @@ std::optional<Sides> StatementReport::CountAccount() try {
     Sides exact;
     if (row_.account_id) exact = AmountsOf(row_);
     if (IsCreditType(row_.type)) exact = exact.Negated();
-    const bool has_amounts = !row_.inactive && !exact.AreZero();
-    if (!has_amounts && !include_zero_balances_) return std::nullopt;
+    if (row_.inactive && !include_zero_balances_) return std::nullopt;
+    if (row_.account_id) AccountCounted();
+    if (exact.AreZero() && !include_zero_balances_) return std::nullopt;
     const Sides amounts = Rounded(exact);
     levels_.Add(amounts);
-    AccountCounted();
     return amounts;
 } catch (...) {
     levels_.Lose();
@@ -173,6 +173,8 @@ void StatementReport::SetDetailControlsPosition() {
         line_.SetBold(IsBold(row_.role));
         line_.SetRulesVisible(IsSubtotal(row_.role));
         Detail.SetHeight(HeightOf(row_.role));
+        if (IsHeading(row_.role)) Detail.KeepWithNext();
+        if (IsSubtotal(row_.role)) Detail.KeepWithPrevious();
     });
 }
 

@@ -47,7 +47,7 @@ class StatementReport : public framework::ReportBase,
 
     /// What the account's amounts are, debit positive. Only of rows with an account.
     virtual Sides AmountsOf(const StatementRow& row) = 0;
-    /// Told when the account prints and its amounts have been added up.
+    /// Told after its amounts, unless the account is left out as inactive.
     virtual void AccountCounted() {}
     /// Accounts of credit types print with the opposite sign.
     virtual bool IsCreditType(std::int32_t account_type) const = 0;

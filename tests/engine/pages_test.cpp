@@ -69,6 +69,18 @@ TEST(Pages, AFooterTakesTheLastLineOfItsGroupAlong) {
               (PageTexts{{"PH", "A", "1", "2"}, {"PH", "3", "end A"}}));
 }
 
+TEST(Pages, ALineStaysWithTheOneBeforeOrAfterWhereItsHandlerSaysSo) {
+    MicroReport report(PlainLayout(0), "line", "1|2|heading|4|5|6|sum|8");
+    report.On("detail", [&] {
+        const auto& line = report.TextOf("detail").Text();
+        if (line == "heading") report.SectionOf("detail").KeepWithNext();
+        if (line == "sum") report.SectionOf("detail").KeepWithPrevious();
+    });
+    EXPECT_EQ(TextsOfPages(report, PaperFor(4)), (PageTexts{{"PH", "1", "2"},
+                                                            {"PH", "heading", "4", "5"},
+                                                            {"PH", "6", "sum", "8"}}));
+}
+
 TEST(Pages, TheReportFooterTakesABandAlong) {
     Layout layout = Without(MicroLayout(0), {"reportHeader", "pageFooter"});
     MicroReport report(layout, "line", "1|2|3");
