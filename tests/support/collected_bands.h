@@ -17,6 +17,7 @@ struct CollectedControl {
     std::string tag;
     bool visible = true;
     Box box;
+    bool bold = false;
     friend bool operator==(const CollectedControl&, const CollectedControl&) = default;
 };
 
@@ -46,7 +47,8 @@ class CollectedBands final : public engine::BandSink {
         CollectedBand band{std::string(section.Name()), mark.depth, section.Height(), {}};
         for (const auto& control : section.Controls())
             band.controls[std::string(control.Design().name)] = {
-                control.Text(), control.Value(), control.Tag(), control.Visible(), control.Place()};
+                control.Text(),    control.Value(), control.Tag(),
+                control.Visible(), control.Place(), control.Style().bold};
         bands.push_back(std::move(band));
     }
 
