@@ -91,10 +91,34 @@ std::string TrialBalanceDetail(const std::string&) {
            "GLAcct.GLAcctId, SubQuery.DetDate, SubQuery.SeqNo";
 }
 
+std::string SumsBetween(const std::string& from, const std::string& to) {
+    return "SELECT ExAcctId, SUM(DetAmnt), SUM(ForeignAmnt) FROM GLDet WHERE GLDet.DetDate BETWEEN "
+           "'" +
+           from + "' AND '" + to + "' GROUP BY ExAcctId";
+}
+
+Options LastQuarter(const std::string&) { return {"--from", "2026-08-01", "--to", "2026-10-31"}; }
+
+/// The sums of the period and of the fiscal year so far.
+std::string IncomeStatement(const std::string&) {
+    return SumsBetween("2026-08-01", "2026-10-31") + " UNION ALL " +
+           SumsBetween("2026-01-01", "2026-10-31");
+}
+
+Options AtYearEnd(const std::string&) { return {"--to", "2025-12-31"}; }
+
+/// The sums up to the closing date, and those before its fiscal year.
+std::string BalanceSheet(const std::string&) {
+    return SumsBetween("1899-12-31", "2025-12-31") + " UNION ALL " +
+           SumsBetween("1899-12-31", "2024-12-31");
+}
+
 constexpr ReportCase kCases[] = {
     {"trial-balance-summary", NoOptions, SumsByAccount, true},
     {"trial-balance-detail", WholeYears, TrialBalanceDetail, true},
     {"gifi", NoOptions, SumsByAccount, true},
+    {"income-statement", LastQuarter, IncomeStatement, true},
+    {"balance-sheet", AtYearEnd, BalanceSheet, true},
     {"unrealized-exchange", NoOptions, UnrealizedExchange},
     {"unrealized-exchange-detail", BusiestAccountOptions, UnrealizedExchangeDetail},
     {"realized-exchange", NoOptions, RealizedExchange},

@@ -1,0 +1,180 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/statements/statement_run.h"
+
+namespace varnel {
+namespace {
+
+using test::CollectedBands;
+using test::IncomeRun;
+using test::SheetRun;
+using test::Shown;
+using test::StatementRun;
+using testing::ElementsAre;
+
+// Rows of the chart.
+
+struct ChartLine {
+    std::int32_t group_type;
+    const char* amount;  // Of a posting account.
+    const char* printed;
+    int depth;
+    bool bold;
+};
+
+// Subtotals of the first level begin at 1 and 7 and after 3, those of the second at 7 and after 5.
+constexpr ChartLine kChart[] = {
+    {3, "", "0.00|0.00", 0, false},  // Nothing was posted yet.
+    {7, "", "|", 0, true},           // A block of the second level.
+    {1, "", "|", 1, false},          // One of the first level in it.
+    {2, "100", "100.00|101.00", 2, false},
+    {4, "-10", "-10.00|-9.00", 2, false},
+    {3, "", "90.00|92.00", 1, false},  // 100 - 10.
+    {6, "7", "7.00|8.00", 1, false},
+    {1, "", "|", 1, false},  // 7 stays in the second level.
+    {2, "2", "2.00|3.00", 2, false},
+    {0, "", "|", 2, false},  // A text.
+    {8, "", "|", 2, false},
+    {3, "", "2.00|3.00", 1, false},
+    {5, "", "99.00|103.00", 0, true},  // 90 + 7 + 2.
+    {3, "", "0.00|0.00", 0, false},
+    {2, "3", "3.00|4.00", 0, false},
+    {7, "", "|", 0, true},  // Forgets 3.
+    {2, "4", "4.00|5.00", 1, false},
+    {5, "", "4.00|5.00", 0, true},
+    {3, "", "4.00|5.00", 0, false},  // 5 leaves the first level as it is.
+};
+
+/// Each account also has 1 of the year before the period.
+StatementRun ChartRun() {
+    StatementRun run = IncomeRun();
+    std::int32_t id = 5'100;
+    for (const auto& line : kChart) {
+        run.chart.push_back({++id, 5, line.group_type});
+        if (line.amount[0] == '\0') continue;
+        run.Post(id, "2025-02-10", line.amount);
+        run.Post(id, "2025-01-10", "1");
+    }
+    return run;
+}
+
+TEST(StatementRowTest, SubtotalsAddUpWhatWasPostedSinceTheirLevelBegan) {
+    const auto bands = ChartRun()();
+    const auto printed = Shown(bands, "Detail", {"txtTotal", "txtTotalCul"});
+    ASSERT_EQ(printed.size(), std::size(kChart));
+    for (std::size_t i = 0; i < printed.size(); ++i)
+        EXPECT_EQ(printed[i], kChart[i].printed) << "row " << i;
+    // 90 + 7 + 2 + 3 + 4.
+    EXPECT_THAT(Shown(bands, "gfAcctType", {"txtTypeTotal", "txtTypeTotalCul"}),
+                ElementsAre("106.00|112.00"));
+}
+
+TEST(StatementRowTest, StandsInByItsDepthAndSubtotalsUnderARule) {
+    const auto rows = ChartRun()().Of("Detail");
+    ASSERT_EQ(rows.size(), std::size(kChart));
+    const Twips right = rows[0]["txtDescr"].box.Right();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        SCOPED_TRACE("row " + std::to_string(i));
+        const bool subtotal = kChart[i].group_type == 3 || kChart[i].group_type == 5;
+        EXPECT_EQ(rows[i]["txtDescr"].box.left, 240 * kChart[i].depth);
+        EXPECT_EQ(rows[i]["txtDescr"].box.Right(), right);
+        for (const char* name : {"txtDescr", "txtTotal", "txtTotalCul"})
+            EXPECT_EQ(rows[i][name].bold, kChart[i].bold) << name;
+        for (const char* name : {"linTotal", "linTotalCul"})
+            EXPECT_EQ(rows[i][name].visible, subtotal) << name;
+        EXPECT_EQ(rows[i].height > 270, subtotal) << rows[i].height;
+    }
+}
+
+TEST(StatementRowTest, OfTheBalanceSheetTakesTheSameSteps) {
+    StatementRun run = SheetRun();
+    run.chart = {{1'000, 1, 7}, {1'010}, {1'020}, {1'099, 1, 5}, {2'000, 2, 1}, {2'010, 2}};
+    run.Post(1'010, "2020-01-01", "12");
+    run.Post(1'020, "2025-03-31", "0.5");
+    run.Post(1'020, "2025-04-01", "1000");
+    run.Post(2'010, "2025-03-31", "3");
+    const auto bands = run();
+    EXPECT_THAT(Rows(bands), ElementsAre("1000|", "1010|12.00", "1020|0.50", "1099|12.50", "2000|",
+                                         "2010|-3.00"));
+    EXPECT_THAT(Shown(bands, "gfAcctType", {"txtTypeTotal"}), ElementsAre("12.50", "-3.00"));
+    const auto rows = bands.Of("Detail");
+    EXPECT_FALSE(rows[1]["lblLine"].visible);
+    EXPECT_TRUE(rows[3]["lblLine"].visible);
+}
+
+TEST(StatementRowTest, AddsUpRoundedAmounts) {
+    StatementRun run = IncomeRun();
+    run.chart = {{4'010, 4}, {4'020, 4}, {4'030, 4}, {4'040, 4}, {4'090, 4, 3}};
+    for (const std::int32_t id : {4'010, 4'020, 4'030}) run.Post(id, "2025-02-10", "-0.005");
+    run.Post(4'040, "2025-02-10", "0.004");
+    const auto bands = run();
+    EXPECT_THAT(Rows(bands), ElementsAre("4010|0.01|0.01", "4020|0.01|0.01", "4030|0.01|0.01",
+                                         "4040|0.00|0.00", "4090|0.03|0.03"));
+    EXPECT_THAT(Shown(bands, "gfAcctType", {"txtTypeTotal"}), ElementsAre("0.03"));
+}
+
+/// An account of each kind, under a heading that is inactive.
+StatementRun RunOfSomeInactive(StatementRun run, std::int32_t type) {
+    run.chart = {{1, type, 1, 0, true},  {10, type},   {20, type, 2, 0, true}, {30, type},
+                 {40, type, 2, 0, true}, {90, type, 3}};
+    run.Post(30, "2025-02-10", "3");
+    run.Post(40, "2025-02-10", "4");
+    return run;
+}
+
+TEST(StatementOptionTest, AccountsWithoutAmountsAndInactiveOnesPrintAndCountWhenAskedFor) {
+    StatementRun sheet = RunOfSomeInactive(SheetRun(), 1);
+    EXPECT_THAT(sheet.Rows(), ElementsAre("1|", "30|3.00", "90|3.00"));
+    sheet.IncludeZeroBalances();
+    EXPECT_THAT(sheet.Rows(),
+                ElementsAre("1|", "10|0.00", "20|0.00", "30|3.00", "40|4.00", "90|7.00"));
+    StatementRun income = RunOfSomeInactive(IncomeRun(), 5);
+    EXPECT_THAT(income.Rows(), ElementsAre("1||", "30|3.00|3.00", "90|3.00|3.00"));
+    income.IncludeZeroBalances();
+    EXPECT_THAT(income.Rows(), ElementsAre("1||", "10|0.00|0.00", "20|0.00|0.00", "30|3.00|3.00",
+                                           "40|4.00|4.00", "90|7.00|7.00"));
+}
+
+TEST(StatementOptionTest, TheDialogOpensWithTheChoiceOfTheTimeBefore) {
+    for (auto* make : {IncomeRun, SheetRun}) {
+        StatementRun run = make();
+        run.IncludeZeroBalances();
+        bool checked = false;
+        run.host->use_dialog = [&](Form& form) {
+            checked = form.CheckBoxes()[0]->checked;
+            form.CloseBox();
+        };
+        dynamic_cast<IReportConfig&>(*run.report).IReportConfig_ShowConfigurationScreen();
+        EXPECT_TRUE(checked);
+    }
+}
+
+TEST(StatementRowTest, OfTheIncomeStatementPrintsForEitherAmount) {
+    StatementRun run = IncomeRun();
+    run.chart = {{5'010, 5}, {5'020, 5}, {5'030, 5}};
+    run.Post(5'010, "2025-01-10", "2");
+    run.Post(5'020, "2024-12-31", "3");  // The year before.
+    run.Post(5'030, "2025-02-01", "4");
+    run.Post(5'030, "2025-01-01", "-4");
+    EXPECT_THAT(run.Rows(), ElementsAre("5010|0.00|2.00", "5030|4.00|0.00"));
+}
+
+TEST(StatementRowTest, APostingRowWithoutAnAccountAsksForNoBalance) {
+    for (auto* make : {IncomeRun, SheetRun}) {
+        StatementRun run = make();
+        run.chart = {{0, make == IncomeRun ? 4 : 1}};
+        EXPECT_THAT(run.Rows(), testing::IsEmpty());
+        run.IncludeZeroBalances();
+        const auto bands = run();
+        EXPECT_THAT(Shown(bands, "Detail", {"txtTotal"}), ElementsAre("0.00"));
+        EXPECT_EQ(bands.Of("Detail")[0]["txtTotal"].tag, "");
+        EXPECT_EQ(std::ranges::count(run.host->calls.Names(), "StatementBalance"), 0);
+        EXPECT_THAT(run.host->message_boxes, testing::IsEmpty());
+    }
+}
+
+}  // namespace
+}  // namespace varnel

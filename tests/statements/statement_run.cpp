@@ -1,0 +1,57 @@
+#include "tests/statements/statement_run.h"
+
+namespace varnel::test {
+
+namespace {
+
+/// In the statements over the chart and in no other.
+constexpr const char* kOfTheChart = "AcctType, GroupType";
+
+}  // namespace
+
+StatementRun::StatementRun(std::shared_ptr<IReport> tried) : ReportRun(std::move(tried)) {
+    host->company.type_classes[9] = 2;
+    host->company.additional_income_types = "6,7";
+}
+
+void StatementRun::Prepare() {
+    RowSet rows{
+        {"InGLAcctId", "GLAcctId", "Descr", "Inactive", "AcctType", "GroupType", "ExCurrencyId"},
+        {}};
+    for (const auto& row : chart) {
+        const std::string number = std::to_string(row.id);
+        rows.rows.push_back({row.id == 0 ? Variant(Variant::Null{}) : Variant(row.id), number,
+                             "Account " + number,
+                             row.inactive ? Variant(true) : Variant(Variant::Null{}), row.type,
+                             row.group_type, row.currency_id});
+        host->company.account_types[row.id] = row.type;
+        if (row.currency_id != 0) host->company.account_currencies[row.id] = row.currency_id;
+    }
+    host->database.Answer(kOfTheChart, std::move(rows));
+}
+
+CollectedBands StatementRun::operator()() {
+    Prepare();
+    return Collect(*report->IReport_ReportDesigner());
+}
+
+std::vector<std::string> StatementRun::Rows() { return test::Rows((*this)()); }
+
+const RecordedCommand& StatementRun::ChartCommand() const {
+    const RecordedCommand* found = nullptr;
+    for (const auto& command : host->database.Commands())
+        if (command->text.find(kOfTheChart) != std::string::npos) found = command.get();
+    return *found;
+}
+
+std::vector<std::string> Rows(const CollectedBands& bands) {
+    std::vector<std::string> rows;
+    for (const auto& band : bands.Of("Detail")) {
+        std::string& row = rows.emplace_back(band.Text("txtDescr").substr(8));
+        for (const char* amount : {"txtTotal", "txtTotalCul"})
+            if (band.controls.contains(amount)) row += "|" + band.Text(amount);
+    }
+    return rows;
+}
+
+}  // namespace varnel::test
