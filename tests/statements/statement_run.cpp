@@ -14,6 +14,12 @@ StatementRun::StatementRun(std::shared_ptr<IReport> tried) : ReportRun(std::move
     host->company.additional_income_types = "6,7";
 }
 
+void StatementRun::HoldForeignAmount() {
+    host->database.Answer("AcctBalHome",
+                          {{"ExCurrencyId", "ExChangeRate", "AcctBalForeign", "AcctBalHome"},
+                           {{2, 1.2, Currency::FromWhole(100), Currency::FromWhole(120)}}});
+}
+
 void StatementRun::Prepare() {
     RowSet rows{
         {"InGLAcctId", "GLAcctId", "Descr", "Inactive", "AcctType", "GroupType", "ExCurrencyId"},

@@ -23,6 +23,8 @@ class StatementRun : public ReportRun {
     explicit StatementRun(std::shared_ptr<IReport> tried);
 
     Object& Properties() { return dynamic_cast<Object&>(*report); }
+    /// 100 USD booked at 120 stand on accounts that can gain: 3.45 revalued.
+    void HoldForeignAmount();
     /// Gives the host its rows. Part of a run.
     void Prepare();
     /// Runs the same report object again with each call.

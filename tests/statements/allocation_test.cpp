@@ -1,0 +1,35 @@
+#include <gtest/gtest.h>
+
+#include "tests/statements/statement_run.h"
+#include "tests/support/allocations_between.h"
+
+namespace varnel {
+namespace {
+
+using test::IncomeRun;
+using test::SheetRun;
+using test::StatementRun;
+
+long AllocationsOf(StatementRun run, int blocks) {
+    const std::int32_t type = run.report->IReport_ReportTitle() == "30003" ? 1 : 5;
+    for (std::int32_t id = 10'000; id < 10'000 + blocks * 10; id += 10) {
+        run.chart.push_back({id, type, 1});
+        run.chart.push_back({id + 1, type, 2, 1});
+        run.chart.push_back({id + 2, type, 3});
+        run.Post(id + 1, "2025-02-10", "1000.5");
+    }
+    run.host->calls.StopCounting();
+    run.Prepare();
+    const long count =
+        test::AllocationsBetween("ghAcctType", "gfAcctType", *run.report->IReport_ReportDesigner());
+    EXPECT_TRUE(run.host->message_boxes.empty());
+    return count;
+}
+
+TEST(StatementAllocationTest, ARowAllocatesNothing) {
+    for (auto* make : {IncomeRun, SheetRun})
+        EXPECT_EQ(AllocationsOf(make(), 10), AllocationsOf(make(), 500));
+}
+
+}  // namespace
+}  // namespace varnel
