@@ -150,7 +150,7 @@ std::string dsrIncomeStatement::ProjectNames() {
     std::string names, name;
     for (; !rows->AtEnd(); (Mark(), rows->MoveNext())) {
         ReadAccountCaption(rows->Current(), code, description, true, name);
-        names += (names.empty() ? "" : "\n") + name;
+        names += (names.empty() ? "" : ", ") + name;
     }
     return names;
 }
