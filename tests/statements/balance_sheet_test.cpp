@@ -7,8 +7,6 @@ namespace varnel {
 namespace {
 
 using test::CollectedBands;
-using test::kCurrentEarnings;
-using test::kRetainedEarnings;
 using test::SheetRun;
 using test::Shown;
 using test::StatementRun;
@@ -118,19 +116,6 @@ TEST(SheetAdjustmentTest, IsCarriedToEquityOnceAndShownOnlyWhereThereIsOne) {
     EXPECT_THAT(run().Of("GroupFooter1"), testing::IsEmpty()) << "booked at what it is worth";
 }
 
-TEST(SheetAdjustmentTest, OfWhatIsOwedTakesFromEquity) {
-    StatementRun run = SheetRun();
-    run.chart = {{2'100, 2, 2, 3}, {3'010, 3}};
-    run.Post(2'100, "2025-01-10", "-15", "-10");  // Worth 15.56, to the cent.
-    run.Post(3'010, "2025-01-10", "15");
-    run.host->company.account_params["SuppGLAP"] = 2'100;
-    run.Revalue();
-    const auto bands = run();
-    EXPECT_THAT(Totals(bands), ElementsAre("2669|15.56", "2671|-15.56"));
-    EXPECT_THAT(Shown(bands, "GroupFooter1", {"txtProfitLoos"}), ElementsAre("-0.56"));
-    EXPECT_EQ(Closing(bands), "2672|0.00");
-}
-
 struct Control {
     const char* name;
     std::int32_t receivable, payable;  // Of the company.
@@ -159,28 +144,6 @@ TEST(SheetAdjustmentTest, IsOfControlAccountsOfTheirOwnForeignCurrency) {
         const auto shown = Shown(run(), "GroupFooter1", {"txtProfitLoos"});
         EXPECT_EQ(shown, *tried.adjustment == 0 ? Lines() : Lines{tried.adjustment}) << tried.name;
     }
-}
-
-TEST(SheetAdjustmentTest, OfAnAccountThatIsLeftOutIsLeftOutToo) {
-    StatementRun run = ForeignSheet();
-    run.chart[1].inactive = true;
-    run.Revalue();
-    EXPECT_THAT(run().Of("GroupFooter1"), testing::IsEmpty());
-    run.IncludeZeroBalances();
-    EXPECT_THAT(Shown(run(), "GroupFooter1", {"txtProfitLoos"}), ElementsAre("3.45"));
-}
-
-TEST(SheetEarningsTest, AreThoseOfTheYearAndOfTheYearsBefore) {
-    StatementRun run = SheetRun();
-    run.chart = {{1'010, 1}, {kRetainedEarnings, 3}, {kCurrentEarnings, 3}};
-    run.host->company.account_types[4'000] = 4;
-    for (const auto& [date, amount] : {std::pair("2024-12-31", "5"), {"2025-03-31", "0.5"}}) {
-        run.Post(1'010, date, amount);
-        run.Post(4'000, date, (std::string("-") + amount).c_str());
-    }
-    const auto bands = run();
-    EXPECT_THAT(Rows(bands), ElementsAre("1010|5.50", "3100|5.00", "3200|0.50"));
-    EXPECT_EQ(Closing(bands), "2672|5.50");
 }
 
 }  // namespace

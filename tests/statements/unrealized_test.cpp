@@ -43,13 +43,6 @@ TEST(IncomeUnrealizedTest, TheGainIsTakenFromWhatWasBookedWhenRevalued) {
     EXPECT_THAT(run.Rows(), ElementsAre("5900|3.55|3.55", "5910|1.00|1.00"));
 }
 
-TEST(IncomeUnrealizedTest, OfRevenueTheGainAddsToIt) {
-    StatementRun run = UnrealizedRun();
-    run.chart = {{kUnrealized, 4}};
-    run.Revalue();
-    EXPECT_THAT(run.Rows(), ElementsAre("5900|-3.55|-3.55"));
-}
-
 TEST(IncomeUnrealizedTest, IsAskedForTheLastDateOfEachColumnWithProjectsAndSegments) {
     StatementRun run = UnrealizedRun();
     run.Revalue();
