@@ -6,9 +6,9 @@
 
 namespace varnel {
 
-/// Receivable and payable control accounts: those of a currency and the company's own. What stands
-/// on them is owed in the currency of the document, so that statements revalue them apart from
-/// other foreign accounts.
+/// Receivable and payable control accounts: those of a currency, the company's where it has none of
+/// its own. What stands on them is owed in the currency of the document, so that statements revalue
+/// them apart from other foreign accounts.
 class ControlAccounts {
   public:
     /// Reads the company's own accounts; the company must outlive it.

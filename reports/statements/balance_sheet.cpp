@@ -68,7 +68,6 @@ void dsrBalanceSheet::ActiveReport_ReportStart() {
         Mark(), currency_id_ = Data().Rows()->GetColumns().At("ExCurrencyId");
         control_accounts_.reset();
         for (Sides* sides : {&adjustment_, &difference_, &liabilities_and_equity_}) *sides = {};
-        Mark(), At(kPeriodLabel).SetText(ClosingDateCaption(App(), DateTo()));
         ShowFilterAndNote(adjustments_from);
     });
 }
@@ -110,6 +109,7 @@ Currency dsrBalanceSheet::ExchangeAdjustment(std::int32_t account_id, Currency b
 }
 
 void dsrBalanceSheet::ReportHeader_Format() {
+    Mark(), At(kPeriodLabel).SetText(ClosingDateCaption(App(), DateTo()));
     Mark(), ShowRatesLine(GetSurface(), StatementRatesText(App(), *this));
     Mark(), ReplacePageHeaderControls(SectionAt("PageHeader"));
 }

@@ -60,8 +60,10 @@ TEST(StatementBalance, TakesTheHomeCurrencyAsAnAccountsOwnForNoForeignOne) {
 }
 
 // Account 20 is the company's own payable account: a control account in whatever currency.
-TEST(StatementBalance, LeavesTheCompanysOwnControlAccountsAsBooked) {
-    Statement statement("UPDATE GLAcct SET ExCurrencyId = 2 WHERE InGLAcctId = 20;");
+TEST(StatementBalance, LeavesTheCompanysOwnControlAccountsAsBookedWhereTheyServe) {
+    Statement statement(
+        "UPDATE GLAcct SET ExCurrencyId = 2 WHERE InGLAcctId = 20;"
+        "UPDATE WorldCurrency SET APGLAccountId = 0 WHERE InCurrencyId = 2;");
     EXPECT_EQ(statement.Of(20), "28.20");
     EXPECT_EQ(statement.Of(33), "-84.15");
 }

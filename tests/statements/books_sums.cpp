@@ -26,8 +26,11 @@ Units BookSums::Earned(const Period& period) const {
 }
 
 bool BookSums::IsControl(const BookAccount& account) const {
-    return books_.company_controls.Has(account.id) ||
-           books_.controls[account.currency_id].Has(account.id);
+    const auto& own = books_.controls[account.currency_id];
+    const auto& company = books_.company_controls;
+    const int receivable = own.receivable != 0 ? own.receivable : company.receivable;
+    const int payable = own.payable != 0 ? own.payable : company.payable;
+    return account.id == receivable || account.id == payable;
 }
 
 Units BookSums::Worth(const BookAccount& account, const Period& period) const {
