@@ -38,6 +38,8 @@ class ReportBase : public DesignedReport, public IReport {
     void ActiveReport_Initialize() override;
 
   protected:
+    /// For a report that has another title by its options.
+    void SetTitleText(std::int16_t text) { facts_.title_text = text; }
     Date DateFrom() const { return date_from_; }
     Date DateTo() const { return date_to_; }
     /// Start of the fiscal year of the last date: as the host gave it when that date was set, if it

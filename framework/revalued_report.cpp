@@ -25,7 +25,7 @@ constexpr Member<RevaluedReport> kMembers[] = {
 [[noreturn]] void RaiseNoRate(CurrencyInfo& info, std::int32_t currency_id, std::string_view date) {
     throw Error(error_number::kInvalidArgument, "ExchangeRates",
                 "There is no exchange rate for " + info.GetCurrencies().Item(currency_id).code +
-                    " at " + std::string(date));
+                    " at " + std::string(date) + "; enter one or give one");
 }
 
 }  // namespace

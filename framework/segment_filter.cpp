@@ -25,6 +25,11 @@ constexpr Member<SegmentFilter> kMembers[] = {
 
 }  // namespace
 
+std::string InverseSegmentClause(std::string_view column, std::string_view ids, bool also_none) {
+    const std::string clause = SegmentClause(column, ids, also_none);
+    return clause.empty() ? clause : "NOT " + clause;
+}
+
 SegmentFilter::SegmentFilter(MemberParts& members) { members.Add<SegmentFilter>(*this, kMembers); }
 
 }  // namespace varnel::framework

@@ -12,6 +12,11 @@ namespace varnel::framework {
 /// both. Empty when the filter takes everything. The list goes in as it stands.
 std::string SegmentClause(std::string_view column, std::string_view ids, bool also_none);
 
+/// The condition on `column` that takes what the other leaves out: "NOT " before it. Empty when the
+/// filter takes everything. Lines without a segment are in neither when segments are listed without
+/// them, as SQL's three-valued logic has it.
+std::string InverseSegmentClause(std::string_view column, std::string_view ids, bool also_none);
+
 /// `ISegmentFilter`, once for all reports that have it.
 class SegmentFilter : public ISegmentFilter {
   public:
@@ -28,6 +33,9 @@ class SegmentFilter : public ISegmentFilter {
     bool IsSegmentFiltered() const { return !ids_.empty() || also_none_; }
     std::string SegmentClauseOn(std::string_view column) const {
         return SegmentClause(column, ids_, also_none_);
+    }
+    std::string InverseSegmentClauseOn(std::string_view column) const {
+        return InverseSegmentClause(column, ids_, also_none_);
     }
     const std::string& SegmentFilterDisplay() const { return display_; }
 

@@ -8,6 +8,8 @@
 #include "reports/exchange/unrealized_exchange_detail.h"
 #include "reports/journal/general_journal.h"
 #include "reports/statements/balance_sheet.h"
+#include "reports/statements/comparative_balance_sheet.h"
+#include "reports/statements/comparative_income_statement.h"
 #include "reports/statements/income_statement.h"
 #include "reports/trial/gifi_report.h"
 #include "reports/trial/trial_balance_detail.h"
@@ -35,8 +37,8 @@ constexpr CatalogueEntry kReports[] = {
     {"dsrTrialBalanceDetail", 30002, Make<reports::dsrTrialBalanceDetail>},
     {"dsrIncomeStatement", 6096, Make<reports::dsrIncomeStatement>},
     {"dsrBalanceSheet", 30003, Make<reports::dsrBalanceSheet>},
-    {"dsrComparativeIncomeStatement", 30004, nullptr},
-    {"dsrComparativeBalanceSheet", 30006, nullptr},
+    {"dsrComparativeIncomeStatement", 30004, Make<reports::dsrComparativeIncomeStatement>},
+    {"dsrComparativeBalanceSheet", 30006, Make<reports::dsrComparativeBalanceSheet>},
     {"dsrGIFIReport", 30007, Make<reports::dsrGIFIReport>},
     {"dsrBankReconciliation", 30008, nullptr},
     {"dsrCurrentBankReconciliation", 30009, nullptr},

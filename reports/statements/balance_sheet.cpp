@@ -33,26 +33,39 @@ struct SectionTexts {
 constexpr SectionTexts kSections[] = {
     {kAssets, 2666, 2667}, {2, 2668, 2669}, {kEquity, 2670, 2671}};
 
-constexpr std::string_view kSelect =
-    "SELECT InGLAcctId, GLAcctId, AcctType, GroupType, ExCurrencyId, "
-    "Inactive, Descr FROM GLAcct "
-    "WHERE AcctType IN (1,2,3)";
+constexpr std::string_view kColumns =
+    "InGLAcctId, GLAcctId, AcctType, GroupType, ExCurrencyId, Inactive, Descr";
+constexpr std::string_view kAccounts = " FROM GLAcct WHERE AcctType IN (1,2,3)";
 constexpr std::string_view kOrder = " ORDER BY AcctType, GLAcctId";
+constexpr const char* kWithoutSegment = "(GLDet.ExSegmentId IS NULL)";
+constexpr std::int32_t kEveryAccount = -1;
 
 }  // namespace
 
-dsrBalanceSheet::dsrBalanceSheet()
-    : StatementReport(BalanceSheetLayout(),
-                      {.title_text = 30003, .date_display = DateDisplay::kClosingDate}) {
-    SetRowLine({{&At("txtTotal")}, {&At("lblLine")}});
-    section_total_ = {{&At("txtTypeTotal")}, {&At("linTypeEnd"), &At("linTypeEnd2")}};
-    adjustment_line_ = {{&At("txtProfitLoos")}, {}};
-    closing_line_ = {{&At("txtTotalPassCap")}, {}};
+dsrBalanceSheet::dsrBalanceSheet() : dsrBalanceSheet(BalanceSheetLayout(), 30003, kColumns) {
+    SetLines({.row = StatementLine({.amounts = {&At("txtTotal")}, .rules = {&At("lblLine")}}),
+              .section_total = StatementLine({.amounts = {&At("txtTypeTotal")}}),
+              .adjustment = StatementLine({.amounts = {&At("txtProfitLoos")}}),
+              .closing = StatementLine({.amounts = {&At("txtTotalPassCap")}}),
+              .first_section_rules = StatementLine(
+                  {.amounts = {}, .rules = {&At("linTypeEnd"), &At("linTypeEnd2")}})});
+}
+
+dsrBalanceSheet::dsrBalanceSheet(const Layout& layout, std::int16_t title_text,
+                                 std::string_view columns)
+    : StatementReport(layout,
+                      {.title_text = title_text, .date_display = DateDisplay::kClosingDate}),
+      selected_columns_(columns) {
     Handle("ReportHeader_Format", &dsrBalanceSheet::ReportHeader_Format);
     Handle("ghAcctType_Format", &dsrBalanceSheet::ghAcctType_Format);
     Handle("GroupFooter1_Format", &dsrBalanceSheet::GroupFooter1_Format);
     Handle("gfAcctType_Format", &dsrBalanceSheet::gfAcctType_Format);
     Handle("ReportFooter_Format", &dsrBalanceSheet::ReportFooter_Format);
+}
+
+void dsrBalanceSheet::SetLines(Lines lines) {
+    lines_ = std::move(lines);
+    SetRowLine(lines_.row);
 }
 
 // A report that could not start knows no total.
@@ -62,7 +75,7 @@ void dsrBalanceSheet::ActiveReport_ReportStart() {
         Levels().Lose();
         out_of_balance_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
-        scope_ = Scope(kOpenStart, DateTo());
+        closing_dates_ = ClosingDates();
         Mark(), home_currency_id_ = GetCurrencyInfo().CieHomeCurrencyId();
         StartRows(BuildStatement());
         Mark(), currency_id_ = Data().Rows()->GetColumns().At("ExCurrencyId");
@@ -75,33 +88,51 @@ void dsrBalanceSheet::ActiveReport_ReportStart() {
 std::string dsrBalanceSheet::BuildStatement() {
     if (FilterTool* const tool = Tool()) Mark(), tool->SetTables("GLAcct");
     const CustomCriteria custom = Criteria();
-    std::string statement(kSelect);
-    if (custom.criteria.empty()) return statement.append(kOrder);
-    return statement + " AND (" + custom.criteria + ")" + std::string(kOrder);
+    std::string statement = "SELECT ";
+    statement.append(selected_columns_).append(kAccounts);
+    if (!custom.criteria.empty()) statement += " AND (" + custom.criteria + ")";
+    return statement.append(kOrder);
 }
 
 bool dsrBalanceSheet::IsCreditType(std::int32_t account_type) const {
     return account_type != kAssets;
 }
 
+std::vector<std::optional<Date>> dsrBalanceSheet::ClosingDates() { return {DateTo()}; }
+
 Sides dsrBalanceSheet::AmountsOf(const StatementRow& row) try {
-    const Currency booked = StatementBalance(*row.account_id, scope_);
-    account_adjustment_ = ExchangeAdjustment(*row.account_id, booked);
-    return {booked + account_adjustment_};
+    Sides amounts;
+    for (std::size_t side = 0; side < closing_dates_.size(); ++side) {
+        KnownSum amount, adjustment;
+        amount.Lose();
+        adjustment.Lose();
+        if (closing_dates_[side]) {
+            const BalanceScope scope = Scope(kOpenStart, *closing_dates_[side]);
+            const Currency booked = StatementBalance(*row.account_id, scope);
+            const Currency gain = ExchangeAdjustment(*row.account_id, scope, booked);
+            amount = KnownSum(booked + gain);
+            adjustment = KnownSum(gain);
+        }
+        amounts.Put(side, amount);
+        account_adjustment_.Put(side, adjustment);
+    }
+    return amounts;
 } catch (...) {
     adjustment_.Lose();
     throw;
 }
 
 // What stands on a control account of a foreign currency gains, debit positive; nothing on others.
-Currency dsrBalanceSheet::ExchangeAdjustment(std::int32_t account_id, Currency booked) {
+Currency dsrBalanceSheet::ExchangeAdjustment(std::int32_t account_id, const BalanceScope& scope,
+                                             Currency booked) {
     if (!IExchangeRates_Reevaluate()) return {};
     const std::int32_t own_currency = CurrentRow().Integer(currency_id_);
     if (own_currency == 0 || own_currency == home_currency_id_) return {};
     auto& company = CurrentCompany();
     if (!control_accounts_) control_accounts_.emplace(company);
     if (!control_accounts_->Holds(account_id, own_currency)) return {};
-    const Currency foreign = company.Balances().AccountBalance(account_id, scope_, true);
+    const Currency foreign = company.Balances().AccountBalance(account_id, scope, true);
+    if (foreign.IsZero() && booked.IsZero()) return {};  // Worth nothing at any rate.
     const LedgerBalance balance{
         .currency_id = own_currency, .booked_rate = {}, .foreign = foreign, .home = booked};
     auto& info = company.GetCurrencyInfo();
@@ -110,6 +141,7 @@ Currency dsrBalanceSheet::ExchangeAdjustment(std::int32_t account_id, Currency b
 
 void dsrBalanceSheet::ReportHeader_Format() {
     Mark(), At(kPeriodLabel).SetText(ClosingDateCaption(App(), DateTo()));
+    SetColumnCaptions(closing_dates_);
     Mark(), ShowRatesLine(GetSurface(), StatementRatesText(App(), *this));
     Mark(), ReplacePageHeaderControls(SectionAt("PageHeader"));
 }
@@ -123,19 +155,19 @@ void dsrBalanceSheet::ghAcctType_Format() {
 }
 
 void dsrBalanceSheet::GroupFooter1_Format() {
-    adjustment_line_.Clear();
+    lines_.adjustment.Clear();
     if (SectionType() != kEquity || !IExchangeRates_Reevaluate()) return GroupFooter1.Skip();
     Levels().Add(adjustment_);
     if (adjustment_.AreZero()) return GroupFooter1.Skip();
-    Mark(), Show(adjustment_line_, adjustment_);
+    Mark(), Show(lines_.adjustment, adjustment_);
 }
 
 // A section that could not be told may belong to either side.
 void dsrBalanceSheet::gfAcctType_Format() {
     const Sides total = Levels().TakeSection();
     lblTypeCap.Clear();
-    section_total_.Clear();
-    section_total_.SetRulesVisible(false);
+    lines_.section_total.Clear();
+    lines_.first_section_rules.SetRulesVisible(false);
     try {
         Mark(), CloseSection(total);
     } catch (...) {
@@ -143,7 +175,7 @@ void dsrBalanceSheet::gfAcctType_Format() {
         liabilities_and_equity_.Lose();
         throw;
     }
-    Mark(), Show(section_total_, total);
+    Mark(), Show(lines_.section_total, total);
 }
 
 // Which section it is is told by the caption that stands over it.
@@ -162,19 +194,60 @@ void dsrBalanceSheet::CloseSection(const Sides& total) {
         difference_.Subtract(total);
     }
     if (section->type == kEquity)
-        out_of_balance_ = IsSegmentFiltered() && difference_.AreKnown() && !difference_.AreZero();
-    section_total_.SetRulesVisible(first);
+        out_of_balance_ = IsSegmentFiltered() && difference_[0].Known() && !difference_[0].IsZero();
+    lines_.first_section_rules.SetRulesVisible(first);
     lblTypeCap.SetText(PlainText(App(), section->total));
 }
 
 void dsrBalanceSheet::ReportFooter_Format() {
-    closing_line_.Clear();
+    lines_.closing.Clear();
     lblGTot.Clear();
     const Sides total = std::exchange(liabilities_and_equity_, {});
     const bool out_of_balance = std::exchange(out_of_balance_, false);
+    InitBalanceSheetAjust(total);
     Mark(),
         lblGTot.SetText(PlainText(App(), out_of_balance ? kOutOfBalance : kLiabilitiesAndEquity));
-    Mark(), Show(closing_line_, total);
+    Mark(), Show(lines_.closing, total);
+}
+
+std::string dsrBalanceSheet::GetInverseSegmentFilter() const {
+    return InverseSegmentClauseOn("GLDet.ExSegmentId");
+}
+
+// Minus the balance of all that the filter leaves out. Lines without a segment are not in the
+// inverse of a list, so they are asked for besides.
+KnownSum dsrBalanceSheet::OtherSegments(std::optional<Date> closing) {
+    KnownSum outside;
+    if (!closing) outside.Lose();
+    if (!closing) return outside;
+    auto& balances = CurrentCompany().Balances();
+    const auto balance = [&](const std::string& clause) {
+        return balances.AccountBalance(kEveryAccount, {kOpenStart, *closing, clause, {}}, false);
+    };
+    outside.Add(balance(GetInverseSegmentFilter()));
+    if (!TakesLinesWithoutSegment()) outside.Add(balance(kWithoutSegment));
+    return KnownSum(GetCurrencyInfo().Round(-outside.Value(), 2));
+}
+
+// Without its amounts there is nothing to adjust by: the parts stay out.
+void dsrBalanceSheet::InitBalanceSheetAjust(const Sides& liabilities_and_equity) {
+    Control& place = At("dsrBalanceSheetAjust");
+    place.SetSubReport(nullptr);
+    Guard("InitBalanceSheetAjust", [&] {
+        if (GetInverseSegmentFilter().empty()) return;
+        const auto [left, top, width, height] = At("txtDescr").Design().box;
+        auto adjusted = std::make_shared<dsrBalanceSheetAjust>();
+        adjusted->Application(AppRef());
+        adjusted->Style(AdjustmentStyle());
+        adjusted->DescrLeft(left);
+        adjusted->DescrWidth(lblGTot.Place().width);
+        adjusted->AmountColumns(lines_.row.Columns());
+        adjusted->LiabilitiesAndEquity(liabilities_and_equity);
+        Mark(), adjusted->AdjustingAmount(OtherSegments(closing_dates_.front()));
+        if (closing_dates_.size() > 1)
+            Mark(), adjusted->AdjustingAmountComp(OtherSegments(closing_dates_.back()));
+        place.SetSubReport(std::move(adjusted));
+    });
 }
 
 }  // namespace varnel::reports

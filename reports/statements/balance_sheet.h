@@ -2,16 +2,19 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/control_accounts.h"
+#include "reports/statements/balance_sheet_ajust.h"
 #include "reports/statements/statement_report.h"
 
 namespace varnel::reports {
 
 /// Balance sheet: assets, liabilities and equity at the closing date, with the subtotals that the
 /// chart places, a total of each section and the total of liabilities and equity. Revalued, what
-/// receivables and payables gain is carried to equity.
-class dsrBalanceSheet final : public StatementReport {
+/// receivables and payables gain is carried to equity. Under a segment filter the adjusted balance
+/// sheet follows.
+class dsrBalanceSheet : public StatementReport {
   public:
     dsrBalanceSheet();
 
@@ -19,14 +22,36 @@ class dsrBalanceSheet final : public StatementReport {
     void ActiveReport_Terminate() override { control_accounts_.reset(); }
 
   protected:
+    /// Printed lines, as a layout names their controls.
+    struct Lines {
+        StatementLine row, section_total, adjustment, closing;
+        StatementLine first_section_rules;  // Under the first section's total.
+    };
+
+    /// Its lines come with SetLines, in the constructor. `columns` are those that are read.
+    dsrBalanceSheet(const Layout& layout, std::int16_t title_text, std::string_view columns);
+    void SetLines(Lines lines);
+
     Sides AmountsOf(const StatementRow& row) override;
-    void AccountCounted() override { adjustment_.Add({account_adjustment_}); }
+    void AccountCounted() override { adjustment_.Add(account_adjustment_); }
     bool IsCreditType(std::int32_t account_type) const override;
+
+    /// The closing dates of the amounts, in the order of the columns; none where one could not be
+    /// worked out.
+    virtual std::vector<std::optional<Date>> ClosingDates();
+    virtual void SetColumnCaptions(const std::vector<std::optional<Date>>& /*dates*/) {}
+    virtual dsrBalanceSheetAjust::Layouts AdjustmentStyle() const {
+        return dsrBalanceSheetAjust::Layouts::kPlain;
+    }
 
   private:
     std::string BuildStatement();
-    Currency ExchangeAdjustment(std::int32_t account_id, Currency booked);
+    Currency ExchangeAdjustment(std::int32_t account_id, const BalanceScope& scope,
+                                Currency booked);
     void CloseSection(const Sides& total);
+    std::string GetInverseSegmentFilter() const;
+    framework::KnownSum OtherSegments(std::optional<Date> closing);
+    void InitBalanceSheetAjust(const Sides& liabilities_and_equity);
 
     void ReportHeader_Format();
     void ghAcctType_Format();
@@ -34,19 +59,18 @@ class dsrBalanceSheet final : public StatementReport {
     void gfAcctType_Format();
     void ReportFooter_Format();
 
-    BalanceScope scope_;
+    std::string_view selected_columns_;
+    std::vector<std::optional<Date>> closing_dates_;
     Column currency_id_;
     std::optional<ControlAccounts> control_accounts_;
     std::int32_t home_currency_id_ = 0;
-    Currency account_adjustment_;  // What the account gains, if it is a control account.
-    Sides adjustment_;             // What those that print have gained so far.
-    Sides difference_;             // The first section less the others.
+    Sides account_adjustment_;  // What the account gains, if it is a control account.
+    Sides adjustment_;          // What those that print have gained so far.
+    Sides difference_;          // The first section less the others.
     Sides liabilities_and_equity_;
     bool out_of_balance_ = false;
 
-    StatementLine section_total_;
-    StatementLine adjustment_line_;
-    StatementLine closing_line_;
+    Lines lines_;
     Section& GroupFooter1 = SectionAt("GroupFooter1");
     Control& lblAcctType = At("lblAcctType");
     Control& lblTypeCap = At("lblTypeCap");

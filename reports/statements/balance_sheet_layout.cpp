@@ -2,6 +2,7 @@
 
 #include "framework/exchange_rates_note.h"
 #include "framework/item_adjustment_note.h"
+#include "reports/statements/balance_columns.h"
 #include "reports/statements/statement_parts.h"
 
 namespace varnel::reports {
@@ -10,8 +11,7 @@ namespace {
 
 using namespace framework;
 
-constexpr auto kDescription = ColumnPlace::Left(0, 8'700, Stretch::kWiden);
-constexpr auto kAmount = ColumnPlace::Amount(8'800, 2'000);
+using namespace balance_columns;
 
 constexpr Twips kSectionTotalHeight = 420;
 constexpr Twips kSectionEndTop = kSectionTotalTop + 235;
@@ -46,7 +46,8 @@ SectionLayout Total() {
                          SectionCaption("lblGTot", kDescription, kTotalTop),
                          ColumnText("txtTotalPassCap", kAmount, kTotalTop, kBodyBold),
                          TotalRule("linFinal", kAmount, kTotalEndTop),
-                         TotalRule("linFinal2", kAmount, kTotalEndTop + kRuleGap)}};
+                         TotalRule("linFinal2", kAmount, kTotalEndTop + kRuleGap),
+                         AdjustedSheet(kTotalHeight)}};
 }
 
 }  // namespace

@@ -37,16 +37,7 @@ struct SectionEnd {
 constexpr SectionEnd kSectionEnds[] = {
     {kRevenue, 2674, 0, 675}, {kExpense, 2676, 2679, 1'035}, {kOther, 2678, 2680, 1'035}};
 
-constexpr std::string_view kSelectRevenueAndExpenses =
-    "SELECT * FROM ("
-    "  SELECT InGLAcctId, GLAcctId, Descr, Inactive, AcctType, GroupType "
-    "  FROM GLAcct "
-    "  WHERE AcctType IN (4,5) "
-    "  UNION ALL "
-    "  SELECT InGLAcctId, GLAcctId, Descr, Inactive, 9 AS AcctType, GroupType "
-    "  FROM GLAcct "
-    "  WHERE AcctType IN (";
-constexpr std::string_view kEndOfUnion = ") ) AS GLAcct ";
+constexpr std::string_view kColumns = "SELECT InGLAcctId, GLAcctId, Descr, Inactive, ";
 constexpr std::string_view kOrder = "ORDER BY AcctType, GLAcctId";
 
 constexpr Member<dsrIncomeStatement> kMembers[] = {
@@ -63,19 +54,32 @@ constexpr Member<dsrIncomeStatement> kMembers[] = {
 
 }  // namespace
 
-dsrIncomeStatement::dsrIncomeStatement()
+dsrIncomeStatement::dsrIncomeStatement() : dsrIncomeStatement(IncomeStatementLayout(), 6096, {}) {
+    SetLines(
+        {.row = StatementLine({.amounts = {&At("txtTotal"), &At("txtTotalCul")},
+                               .rules = {&At("linTotal"), &At("linTotalCul")}}),
+         .section_total = StatementLine({.amounts = {&At("txtTypeTotal"), &At("txtTypeTotalCul")}}),
+         .result = StatementLine({.amounts = {&At("txtTotalPassCap"), &At("txtTotalPassCapCul")},
+                                  .rules = {&At("linResult"), &At("linResultCul")}}),
+         .final_rules = StatementLine({.amounts = {},
+                                       .rules = {&At("linFinal"), &At("linFinal2"),
+                                                 &At("linFinalCul"), &At("linFinalCul2")}})});
+}
+
+dsrIncomeStatement::dsrIncomeStatement(const Layout& layout, std::int16_t title_text,
+                                       std::string_view more_columns)
     : StatementReport(
-          IncomeStatementLayout(),
-          {.title_text = 6096, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}) {
+          layout,
+          {.title_text = title_text, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
+      more_columns_(more_columns) {
     Members().Add<dsrIncomeStatement>(*this, kMembers);
-    SetRowLine({{&At("txtTotal"), &At("txtTotalCul")}, {&At("linTotal"), &At("linTotalCul")}});
-    section_total_ = {{&At("txtTypeTotal"), &At("txtTypeTotalCul")}, {}};
-    result_line_ = {{&At("txtTotalPassCap"), &At("txtTotalPassCapCul")},
-                    {&At("linResult"), &At("linResultCul")}};
-    final_rules_.rules = {&At("linFinal"), &At("linFinal2"), &At("linFinalCul"),
-                          &At("linFinalCul2")};
     Handle("ghAcctType_Format", &dsrIncomeStatement::ghAcctType_Format);
     Handle("gfAcctType_Format", &dsrIncomeStatement::gfAcctType_Format);
+}
+
+void dsrIncomeStatement::SetLines(Lines lines) {
+    lines_ = std::move(lines);
+    SetRowLine(lines_.row);
 }
 
 std::string dsrIncomeStatement::IReport_ReportTitle() {
@@ -109,9 +113,13 @@ void dsrIncomeStatement::ActiveReport_ReportStart() {
 
 std::string dsrIncomeStatement::BuildStatement() {
     if (FilterTool* const tool = Tool()) Mark(), tool->SetTables("GLAcct");
-    std::string statement(kSelectRevenueAndExpenses);
-    Mark(), statement += CurrentCompany().GetAccountTypes().AdditionalIncomeTypes();
-    statement += kEndOfUnion;
+    Mark();
+    const std::string types = CurrentCompany().GetAccountTypes().AdditionalIncomeTypes();
+    const std::string columns(kColumns), more(more_columns_);
+    std::string statement = "SELECT * FROM (  " + columns + "AcctType, GroupType" + more +
+                            "   FROM GLAcct   WHERE AcctType IN (4,5)   UNION ALL   " + columns +
+                            "9 AS AcctType, GroupType" + more +
+                            "   FROM GLAcct   WHERE AcctType IN (" + types + ") ) AS GLAcct ";
     const CustomCriteria custom = Criteria();
     if (!custom.criteria.empty()) statement += " WHERE (" + custom.criteria + ") ";
     return statement.append(kOrder);
@@ -155,7 +163,8 @@ std::string dsrIncomeStatement::ProjectNames() {
     return names;
 }
 
-// Projects and rates take a line where there are any; what stands below follows.
+// Projects and rates take a line where there are any, captions where they are wanted; what stands
+// below follows.
 void dsrIncomeStatement::PlaceGroupHeader() {
     const bool has_rates = !txtExchangeRate.Text().empty();
     txtExchangeRate.SetVisible(has_rates);
@@ -163,9 +172,13 @@ void dsrIncomeStatement::PlaceGroupHeader() {
     Twips up = fldProjects.Visible() ? 0 : fldProjects.Design().box.height;
     txtExchangeRate.SetTop(txtExchangeRate.Design().box.top - up);
     if (!has_rates) up += txtExchangeRate.Design().box.height;
-    for (auto& control : GroupHeader1.Controls())
-        if (control.Design().box.top >= captions_top) control.SetTop(control.Design().box.top - up);
-    GroupHeader1.SetHeight(GroupHeader1.Design().height - up);
+    const bool has_captions = !IReport_NoHeaders();
+    for (auto& control : GroupHeader1.Controls()) {
+        if (control.Design().box.top < captions_top) continue;
+        control.SetTop(control.Design().box.top - up);
+        control.SetVisible(has_captions);
+    }
+    GroupHeader1.SetHeight((has_captions ? GroupHeader1.Design().height : captions_top) - up);
 }
 
 bool dsrIncomeStatement::IsCreditType(std::int32_t account_type) const {
@@ -204,11 +217,11 @@ void dsrIncomeStatement::ghAcctType_Format() {
 void dsrIncomeStatement::ShowResult(std::int16_t caption_text) {
     const bool shown = caption_text != 0;
     lblGTot.SetVisible(shown);
-    result_line_.SetVisible(shown);
-    final_rules_.SetRulesVisible(shown && Data().Rows()->AtEnd());
+    lines_.result.SetVisible(shown);
+    lines_.final_rules.SetRulesVisible(shown && Data().Rows()->AtEnd());
     if (!shown) return;
     Mark(), lblGTot.SetText(PlainText(App(), caption_text));
-    Mark(), Show(result_line_, result_);
+    Mark(), Show(lines_.result, result_);
 }
 
 // What a section's footer says, and how high it is, goes by the section's type. A section that
@@ -216,8 +229,8 @@ void dsrIncomeStatement::ShowResult(std::int16_t caption_text) {
 void dsrIncomeStatement::gfAcctType_Format() {
     const Sides total = Levels().TakeSection();
     lblTypeCap.Clear();
-    section_total_.Clear();
-    result_line_.Clear();
+    lines_.section_total.Clear();
+    lines_.result.Clear();
     const auto* const end = std::ranges::find(kSectionEnds, SectionType(), &SectionEnd::type);
     if (end == std::end(kSectionEnds)) return result_.Lose();
     if (end->type == kRevenue)
@@ -226,7 +239,7 @@ void dsrIncomeStatement::gfAcctType_Format() {
         result_.Subtract(total);
     gfAcctType.SetHeight(end->height);
     Mark(), lblTypeCap.SetText(PlainText(App(), end->total_text));
-    Mark(), Show(section_total_, total);
+    Mark(), Show(lines_.section_total, total, SenseOf(end->type));
     ShowResult(end->result_text);
 }
 

@@ -14,7 +14,7 @@ namespace varnel::reports {
 /// Late-bound it has the properties `ProjIds` (comma-separated project ids; empty takes all), and
 /// `CumulDateFrom` and `CumulDateTo`, the cumulative period; the zero date stands for one that was
 /// not set, which is then the fiscal year up to the last date.
-class dsrIncomeStatement final : public StatementReport {
+class dsrIncomeStatement : public StatementReport {
   public:
     dsrIncomeStatement();
 
@@ -30,13 +30,26 @@ class dsrIncomeStatement final : public StatementReport {
     Selection& GetSelection() { return selection_; }
 
   protected:
+    /// Printed lines, as a layout names their controls.
+    struct Lines {
+        StatementLine row, section_total, result;
+        StatementLine final_rules;  // Under the last result.
+    };
+
+    /// Its lines come with SetLines, in the constructor. `more_columns` are read besides those
+    /// that every income statement reads, each with ", " before it.
+    dsrIncomeStatement(const Layout& layout, std::int16_t title_text,
+                       std::string_view more_columns);
+    void SetLines(Lines lines);
+
     Sides AmountsOf(const StatementRow& row) override;
     bool IsCreditType(std::int32_t account_type) const override;
+    virtual void SetPeriods();
+    virtual void SetPageHeader();
+    const BalanceScope& ReportPeriod() const { return period_; }
 
   private:
     std::string BuildStatement();
-    void SetPeriods();
-    void SetPageHeader();
     void SetPageHeaderForProjStatement();
     std::string ProjectNames();
     void PlaceGroupHeader();
@@ -54,9 +67,8 @@ class dsrIncomeStatement final : public StatementReport {
     /// The unrealized gain by a day, asked for once a run.
     std::optional<std::pair<Date, Currency>> unrealized_;
 
-    StatementLine section_total_;
-    StatementLine result_line_;
-    StatementLine final_rules_;  // Under the last result.
+    std::string_view more_columns_;
+    Lines lines_;
     Section& GroupHeader1 = SectionAt("GroupHeader1");
     Section& ghAcctType = SectionAt("ghAcctType");
     Section& gfAcctType = SectionAt("gfAcctType");

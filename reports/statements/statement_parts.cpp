@@ -49,7 +49,7 @@ ControlLayout RowRule(std::string_view name, const ColumnPlace& place) {
 ControlLayout SectionCaption(std::string_view name, const ColumnPlace& place, Twips top) {
     auto caption = ColumnText(name, place, top, kBodyBold);
     caption.kind = ControlKind::kLabel;
-    return caption;
+    return Growing(caption);
 }
 
 }  // namespace varnel::reports

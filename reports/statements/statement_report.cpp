@@ -24,10 +24,6 @@ Twips HeightOf(RowRole role) {
     return role == RowRole::kSubtotal ? kSubtotalHeight : kDetailHeight;
 }
 
-bool IsBold(RowRole role) {
-    return role == RowRole::kOuterHeading || role == RowRole::kOuterSubtotal;
-}
-
 }  // namespace
 
 StatementReport::StatementReport(const Layout& layout, const Facts& facts)
@@ -106,24 +102,27 @@ bool StatementReport::BeginSection() {
     return true;
 }
 
-void StatementReport::Show(StatementLine& line, const Sides& sides) {
-    line.Show(App().GetFormats(), sides, text_);
+void StatementReport::Show(StatementLine& line, const Sides& sides, VarianceSense sense) {
+    line.Show(App().GetFormats(), sides, text_, sense);
 }
 
 // Earnings are more than the lines of their account.
-std::string StatementReport::KeyOf(const StatementRow& row) {
-    if (!row.account_id || earnings_->Hold(*row.account_id)) return {};
-    const std::string id = std::to_string(*row.account_id);
-    return IsUnrealized(*row.account_id) ? "GLUnrealized|" + id : id;
+void StatementReport::ShowKey() {
+    if (!row_.account_id || earnings_->Hold(*row_.account_id)) return;
+    std::string key = std::to_string(*row_.account_id);
+    if (IsUnrealized(*row_.account_id)) key.insert(0, "GLUnrealized|");
+    line_.SetTags(key, ComparisonKey(key));
 }
 
 // With the sign they print with. Nothing when the account is left out.
 std::optional<Sides> StatementReport::CountAccount() try {
-    Sides exact;
-    if (row_.account_id) exact = AmountsOf(row_);
-    if (IsCreditType(row_.type)) exact = exact.Negated();
     if (row_.inactive && !include_zero_balances_) return std::nullopt;
-    if (row_.account_id) AccountCounted();
+    Sides exact;
+    if (row_.account_id) {
+        exact = AmountsOf(row_);
+        AccountCounted();
+    }
+    if (IsCreditType(row_.type)) exact = exact.Negated();
     if (exact.AreZero() && !include_zero_balances_) return std::nullopt;
     const Sides amounts = Rounded(exact);
     levels_.Add(amounts);
@@ -134,17 +133,17 @@ std::optional<Sides> StatementReport::CountAccount() try {
 }
 
 void StatementReport::ShowAccount() {
-    line_.SetTag(KeyOf(row_));
+    ShowKey();
     const auto amounts = (Mark(), CountAccount());
     if (!amounts) return Detail.Skip();
-    Mark(), Show(line_, *amounts);
+    Mark(), Show(line_, *amounts, SenseOf(row_.type));
 }
 
 // A row that cannot be read may be an account.
 void StatementReport::SetDetailControlsValue() {
     Guard("SetDetailControlsValue", [&] {
         line_.Clear();
-        line_.SetTag({});
+        line_.SetTags({}, {});
         row_ = {};
         try {
             Mark(), row_ = columns_.Read(CurrentRow());
@@ -156,7 +155,7 @@ void StatementReport::SetDetailControlsValue() {
         levels_.Begin(row_.role);
         if (IsSubtotal(row_.role)) {
             const Sides subtotal = levels_.TakeSubtotal(row_.role);
-            Mark(), Show(line_, subtotal);
+            Mark(), Show(line_, subtotal, SenseOf(row_.type));
         }
         if (row_.role == RowRole::kPosting) ShowAccount();
     });
@@ -165,12 +164,14 @@ void StatementReport::SetDetailControlsValue() {
 void StatementReport::SetDetailControlsPosition() {
     Guard("SetDetailControlsPosition", [&] {
         const Box& designed = txtDescr.Design().box;
-        const Twips indent = kIndent * outline_.DepthOf(row_.role);
+        const int depth = outline_.DepthOf(row_.role);
+        const bool bold = depth == 0 && (IsHeading(row_.role) || IsSubtotal(row_.role));
+        const Twips indent = kIndent * depth;
         const Twips right = txtDescr.Place().Right();
         txtDescr.SetLeft(designed.left + indent);
         txtDescr.SetWidth(right - txtDescr.Place().left);
-        txtDescr.SetBold(IsBold(row_.role));
-        line_.SetBold(IsBold(row_.role));
+        txtDescr.SetBold(bold);
+        line_.SetBold(bold);
         line_.SetRulesVisible(IsSubtotal(row_.role));
         Detail.SetHeight(HeightOf(row_.role));
         if (IsHeading(row_.role)) Detail.KeepWithNext();

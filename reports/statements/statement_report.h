@@ -51,6 +51,8 @@ class StatementReport : public framework::ReportBase,
     virtual void AccountCounted() {}
     /// Accounts of credit types print with the opposite sign.
     virtual bool IsCreditType(std::int32_t account_type) const = 0;
+    /// The drill-down key of what an account is compared with, from the account's own.
+    virtual std::string ComparisonKey(const std::string& key) const { return key + "|LastYear"; }
 
     /// Hands the rows of the query to the run and begins its totals.
     void StartRows(const std::string& statement);
@@ -70,8 +72,10 @@ class StatementReport : public framework::ReportBase,
     /// Begins a section under that caption when there is a row; false at either end of the rows.
     bool BeginSection();
     StatementLevels& Levels() { return levels_; }
-    /// Puts amounts into a line outside of the detail.
-    void Show(StatementLine& line, const Sides& sides);
+    /// Puts amounts into a line.
+    void Show(StatementLine& line, const Sides& sides,
+              VarianceSense sense = VarianceSense::kMoreIsBetter);
+    const StatementLine& RowLine() const { return line_; }
 
     void Detail_Format();
 
@@ -87,7 +91,7 @@ class StatementReport : public framework::ReportBase,
     void SetDetailControlsPosition();
     void ShowAccount();
     std::optional<Sides> CountAccount();
-    std::string KeyOf(const StatementRow& row);
+    void ShowKey();
 
     RowColumns columns_;
     StatementRow row_;  // The one that is being printed.

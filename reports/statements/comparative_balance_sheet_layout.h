@@ -1,0 +1,9 @@
+#pragma once
+
+#include "host/layout.h"
+
+namespace varnel::reports {
+
+const Layout& ComparativeBalanceSheetLayout();
+
+}  // namespace varnel::reports
