@@ -113,12 +113,25 @@ std::string BalanceSheet(const std::string&) {
            SumsBetween("1899-12-31", "2024-12-31");
 }
 
+/// The same with that of the period a year before.
+std::string ComparativeIncomeStatement(const std::string& company) {
+    return IncomeStatement(company) + " UNION ALL " + SumsBetween("2025-08-01", "2025-10-31");
+}
+
+/// The same at both closing dates.
+std::string ComparativeBalanceSheet(const std::string& company) {
+    return BalanceSheet(company) + " UNION ALL " + SumsBetween("1899-12-31", "2024-12-31") +
+           " UNION ALL " + SumsBetween("1899-12-31", "2023-12-31");
+}
+
 constexpr ReportCase kCases[] = {
     {"trial-balance-summary", NoOptions, SumsByAccount, true},
     {"trial-balance-detail", WholeYears, TrialBalanceDetail, true},
     {"gifi", NoOptions, SumsByAccount, true},
     {"income-statement", LastQuarter, IncomeStatement, true},
     {"balance-sheet", AtYearEnd, BalanceSheet, true},
+    {"comparative-income-statement", LastQuarter, ComparativeIncomeStatement, true},
+    {"comparative-balance-sheet", AtYearEnd, ComparativeBalanceSheet, true},
     {"unrealized-exchange", NoOptions, UnrealizedExchange},
     {"unrealized-exchange-detail", BusiestAccountOptions, UnrealizedExchangeDetail},
     {"realized-exchange", NoOptions, RealizedExchange},
