@@ -70,7 +70,7 @@ TEST_F(Revaluing, TakesTheKeyedRateWhetherItIsOnOrOff) {
     info.records.push_back({.id = 3, .code = "EUR", .description = "Euro"});
     EXPECT_EQ(test::DescriptionOf(
                   [&] { EvaluateAtKeyedRate(info, given, "31 March", Balance(3, "10", "13")); }),
-              "There is no exchange rate for EUR at 31 March");
+              "There is no exchange rate for EUR at 31 March; enter one or give one");
     EXPECT_EQ(ErrorOf([&] { EvaluateAtKeyedRate(info, nullptr, "", Balance(2, "10", "13")); }),
               error_number::kObjectNotSet);
 }

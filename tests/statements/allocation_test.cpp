@@ -6,12 +6,14 @@
 namespace varnel {
 namespace {
 
+using test::BudgetRun;
+using test::ComparativeIncomeRun;
+using test::ComparativeSheetRun;
 using test::IncomeRun;
 using test::SheetRun;
 using test::StatementRun;
 
-long AllocationsOf(StatementRun run, int blocks) {
-    const std::int32_t type = run.report->IReport_ReportTitle() == "30003" ? 1 : 5;
+long AllocationsOf(StatementRun run, std::int32_t type, int blocks) {
     for (std::int32_t id = 10'000; id < 10'000 + blocks * 10; id += 10) {
         run.chart.push_back({id, type, 1});
         run.chart.push_back({id + 1, type, 2, 1});
@@ -27,8 +29,10 @@ long AllocationsOf(StatementRun run, int blocks) {
 }
 
 TEST(StatementAllocationTest, ARowAllocatesNothing) {
-    for (auto* make : {IncomeRun, SheetRun})
-        EXPECT_EQ(AllocationsOf(make(), 10), AllocationsOf(make(), 500));
+    for (auto* make : {IncomeRun, ComparativeIncomeRun, BudgetRun})
+        EXPECT_EQ(AllocationsOf(make(), 5, 10), AllocationsOf(make(), 5, 500));
+    for (auto* make : {SheetRun, ComparativeSheetRun})
+        EXPECT_EQ(AllocationsOf(make(), 1, 10), AllocationsOf(make(), 1, 500));
 }
 
 }  // namespace

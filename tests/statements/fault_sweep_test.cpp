@@ -72,7 +72,7 @@ TEST(StatementFaultSweepTest, OfTheIncomeStatementShowsRightFiguresOrNone) {
 }
 
 TEST(StatementFaultSweepTest, OfTheBalanceSheetShowsRightFiguresOrNone) {
-    const auto right = SweepFaults({"dsrBalanceSheet",
+    const auto right = SweepFaults({"dsrBalanceSheet|dsrBalanceSheetAjust|dsrGeneralJournalAdjust",
                                     {{"PageHeader", {"txtExchangeRate"}},
                                      {"ghAcctType", {"lblAcctType"}},
                                      {"Detail", {"txtTotal"}},

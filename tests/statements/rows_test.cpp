@@ -27,9 +27,9 @@ struct ChartLine {
 
 // Subtotals of the first level begin at 1 and 7 and after 3, those of the second at 7 and after 5.
 constexpr ChartLine kChart[] = {
-    {3, "", "0.00|0.00", 0, false},  // Nothing was posted yet.
-    {7, "", "|", 0, true},           // A block of the second level.
-    {1, "", "|", 1, false},          // One of the first level in it.
+    {3, "", "0.00|0.00", 0, true},  // Nothing was posted yet.
+    {7, "", "|", 0, true},          // A block of the second level.
+    {1, "", "|", 1, false},         // One of the first level in it.
     {2, "100", "100.00|101.00", 2, false},
     {4, "-10", "-10.00|-9.00", 2, false},
     {3, "", "90.00|92.00", 1, false},  // 100 - 10.
@@ -40,12 +40,12 @@ constexpr ChartLine kChart[] = {
     {8, "", "|", 2, false},
     {3, "", "2.00|3.00", 1, false},
     {5, "", "99.00|103.00", 0, true},  // 90 + 7 + 2.
-    {3, "", "0.00|0.00", 0, false},
+    {3, "", "0.00|0.00", 0, true},
     {2, "3", "3.00|4.00", 0, false},
     {7, "", "|", 0, true},  // Forgets 3.
     {2, "4", "4.00|5.00", 1, false},
     {5, "", "4.00|5.00", 0, true},
-    {3, "", "4.00|5.00", 0, false},  // 5 leaves the first level as it is.
+    {3, "", "4.00|5.00", 0, true},  // 5 leaves the first level as it is.
 };
 
 /// Each account also has 1 of the year before the period.

@@ -5,13 +5,20 @@ namespace varnel::test {
 namespace {
 
 /// In the statements over the chart and in no other.
-constexpr const char* kOfTheChart = "AcctType, GroupType";
+constexpr const char* kOfTheChart = "GroupType";
 
 }  // namespace
 
 StatementRun::StatementRun(std::shared_ptr<IReport> tried) : ReportRun(std::move(tried)) {
     host->company.type_classes[9] = 2;
     host->company.additional_income_types = "6,7";
+    HaveFiscalYears({});
+}
+
+void StatementRun::HaveFiscalYears(const std::vector<std::pair<Date, Date>>& years) {
+    RowSet rows{{"BegDate", "EndDate"}, {}};
+    for (const auto& [first, last] : years) rows.rows.push_back({first, last});
+    host->database.Answer("FiscalYearDet", std::move(rows));
 }
 
 void StatementRun::HoldForeignAmount() {
@@ -54,8 +61,9 @@ std::vector<std::string> Rows(const CollectedBands& bands) {
     std::vector<std::string> rows;
     for (const auto& band : bands.Of("Detail")) {
         std::string& row = rows.emplace_back(band.Text("txtDescr").substr(8));
-        for (const char* amount : {"txtTotal", "txtTotalCul"})
-            if (band.controls.contains(amount)) row += "|" + band.Text(amount);
+        for (const char* figure :
+             {"txtTotal", "txtTotalCul", "txtTotalComp", "txtTotalDoll", "lblTotalDiff"})
+            if (band.controls.contains(figure)) row += "|" + band.Text(figure);
     }
     return rows;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "framework/cls_report.h"
@@ -17,7 +18,8 @@ struct ChartRow {
     bool inactive = false;
 };
 
-/// Income statement or balance sheet. Its rows come in the order of the chart.
+/// Income statement or balance sheet, alone or with its comparison. Its rows come in the order of
+/// the chart; there are no fiscal years that cut a comparison.
 class StatementRun : public ReportRun {
   public:
     explicit StatementRun(std::shared_ptr<IReport> tried);
@@ -25,11 +27,13 @@ class StatementRun : public ReportRun {
     Object& Properties() { return dynamic_cast<Object&>(*report); }
     /// 100 USD booked at 120 stand on accounts that can gain: 3.45 revalued.
     void HoldForeignAmount();
+    /// First and last days, in order.
+    void HaveFiscalYears(const std::vector<std::pair<Date, Date>>& years);
     /// Gives the host its rows. Part of a run.
     void Prepare();
     /// Runs the same report object again with each call.
     CollectedBands operator()();
-    /// Runs it and tells what its rows show: description, amounts.
+    /// Runs it and tells what its rows show: description, amounts, variance, percent.
     std::vector<std::string> Rows();
     /// Its statement over the chart, whatever was asked after it.
     const RecordedCommand& ChartCommand() const;
@@ -38,7 +42,16 @@ class StatementRun : public ReportRun {
 };
 
 inline StatementRun IncomeRun() { return StatementRun(clsReport().IncomeStatement()); }
+inline StatementRun ComparativeIncomeRun() {
+    return StatementRun(clsReport().ComparativeIncomeStatement());
+}
+inline StatementRun BudgetRun() {
+    return StatementRun(clsReport().ComparativeIncomeStatementBudget());
+}
 inline StatementRun SheetRun() { return StatementRun(clsReport().BalanceSheet()); }
+inline StatementRun ComparativeSheetRun() {
+    return StatementRun(clsReport().ComparativeBalanceSheet());
+}
 
 /// What the rows show in a run that was made.
 std::vector<std::string> Rows(const CollectedBands& bands);
