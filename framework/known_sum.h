@@ -12,6 +12,11 @@ class KnownSum {
   public:
     KnownSum() = default;
     explicit KnownSum(Currency value) : value_(value) {}
+    static KnownSum Unknown() {
+        KnownSum sum;
+        sum.Lose();
+        return sum;
+    }
 
     void Add(Currency amount) {
         const bool known = std::exchange(known_, false);  // Stays so when the sum overflows.

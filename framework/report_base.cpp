@@ -42,7 +42,10 @@ ReportBase::ReportBase(const Layout& layout, const Facts& facts)
 }
 
 void ReportBase::IReport_Application(std::shared_ptr<Application> application) {
-    Guard("IReport_Application", [&] { SetApplication(std::move(application)); });
+    Guard("IReport_Application", [&] {
+        fiscal_year_start_.reset();
+        SetApplication(std::move(application));
+    });
 }
 
 void ReportBase::IReport_DateFrom(Date date) {

@@ -21,13 +21,16 @@ struct BalanceScope {
     friend bool operator==(const BalanceScope&, const BalanceScope&) = default;
 };
 
+/// Stands for every account where one is asked for.
+inline constexpr std::int32_t kEveryAccount = -1;
+
 /// Balances of the ledger, debit positive and exact. A host answers every account of a scope from
 /// one grouped query.
 class BalanceService {
   public:
     virtual ~BalanceService() = default;
     /// The account's net amount over the scope: in home currency, or with `in_foreign_currency` the
-    /// sum of the foreign amounts of its lines. Account -1 is every account.
+    /// sum of the foreign amounts of its lines. `kEveryAccount` takes all.
     virtual Currency AccountBalance(std::int32_t account_id, const BalanceScope& scope,
                                     bool in_foreign_currency) = 0;
     /// The net result of all income-statement accounts strictly before the date (a profit is

@@ -7,8 +7,6 @@ namespace varnel::company {
 
 namespace {
 
-constexpr std::int32_t kEveryAccount = -1;
-
 bool IsOpen(const BalanceScope& scope) { return scope.from <= kOpenStart && scope.to >= kOpenEnd; }
 
 // Without limits the dates stay out of the text: the index that is grouped by account then holds

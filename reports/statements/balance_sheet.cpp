@@ -38,7 +38,7 @@ constexpr std::string_view kColumns =
 constexpr std::string_view kAccounts = " FROM GLAcct WHERE AcctType IN (1,2,3)";
 constexpr std::string_view kOrder = " ORDER BY AcctType, GLAcctId";
 constexpr const char* kWithoutSegment = "(GLDet.ExSegmentId IS NULL)";
-constexpr std::int32_t kEveryAccount = -1;
+constexpr int kCents = 2;
 
 }  // namespace
 
@@ -75,7 +75,9 @@ void dsrBalanceSheet::ActiveReport_ReportStart() {
         Levels().Lose();
         out_of_balance_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
-        closing_dates_ = ClosingDates();
+        scopes_.clear();
+        for (const auto& date : ClosingDates())
+            scopes_.push_back(date ? std::optional(Scope(kOpenStart, *date)) : std::nullopt);
         Mark(), home_currency_id_ = GetCurrencyInfo().CieHomeCurrencyId();
         StartRows(BuildStatement());
         Mark(), currency_id_ = Data().Rows()->GetColumns().At("ExCurrencyId");
@@ -100,26 +102,26 @@ bool dsrBalanceSheet::IsCreditType(std::int32_t account_type) const {
 
 std::vector<std::optional<Date>> dsrBalanceSheet::ClosingDates() { return {DateTo()}; }
 
-Sides dsrBalanceSheet::AmountsOf(const StatementRow& row) try {
-    Sides amounts;
-    for (std::size_t side = 0; side < closing_dates_.size(); ++side) {
-        KnownSum amount, adjustment;
-        amount.Lose();
-        adjustment.Lose();
-        if (closing_dates_[side]) {
-            const BalanceScope scope = Scope(kOpenStart, *closing_dates_[side]);
-            const Currency booked = StatementBalance(*row.account_id, scope);
-            const Currency gain = ExchangeAdjustment(*row.account_id, scope, booked);
+Sides dsrBalanceSheet::AmountsOf(const StatementRow& row) {
+    Sides amounts, adjustments;
+    for (std::size_t side = 0; side < scopes_.size(); ++side) {
+        KnownSum amount = KnownSum::Unknown(), adjustment = KnownSum::Unknown();
+        if (const auto& scope = scopes_[side]) {
+            const Currency booked = StatementBalance(*row.account_id, *scope);
+            const Currency gain = ExchangeAdjustment(*row.account_id, *scope, booked);
             amount = KnownSum(booked + gain);
             adjustment = KnownSum(gain);
         }
         amounts.Put(side, amount);
-        account_adjustment_.Put(side, adjustment);
+        adjustments.Put(side, adjustment);
     }
+    adjustment_.Add(adjustments);
     return amounts;
-} catch (...) {
+}
+
+void dsrBalanceSheet::LoseAmounts() {
+    StatementReport::LoseAmounts();
     adjustment_.Lose();
-    throw;
 }
 
 // What stands on a control account of a foreign currency gains, debit positive; nothing on others.
@@ -136,12 +138,12 @@ Currency dsrBalanceSheet::ExchangeAdjustment(std::int32_t account_id, const Bala
     const LedgerBalance balance{
         .currency_id = own_currency, .booked_rate = {}, .foreign = foreign, .home = booked};
     auto& info = company.GetCurrencyInfo();
-    return info.Round(EvaluateAtKeyedRate(info, *this, balance).gain, 2);
+    return info.Round(EvaluateAtKeyedRate(info, *this, balance).gain, kCents);
 }
 
 void dsrBalanceSheet::ReportHeader_Format() {
     Mark(), At(kPeriodLabel).SetText(ClosingDateCaption(App(), DateTo()));
-    SetColumnCaptions(closing_dates_);
+    SetColumnCaptions();
     Mark(), ShowRatesLine(GetSurface(), StatementRatesText(App(), *this));
     Mark(), ReplacePageHeaderControls(SectionAt("PageHeader"));
 }
@@ -202,12 +204,10 @@ void dsrBalanceSheet::CloseSection(const Sides& total) {
 void dsrBalanceSheet::ReportFooter_Format() {
     lines_.closing.Clear();
     lblGTot.Clear();
-    const Sides total = std::exchange(liabilities_and_equity_, {});
-    const bool out_of_balance = std::exchange(out_of_balance_, false);
-    InitBalanceSheetAjust(total);
+    InitBalanceSheetAjust();
     Mark(),
-        lblGTot.SetText(PlainText(App(), out_of_balance ? kOutOfBalance : kLiabilitiesAndEquity));
-    Mark(), Show(lines_.closing, total);
+        lblGTot.SetText(PlainText(App(), out_of_balance_ ? kOutOfBalance : kLiabilitiesAndEquity));
+    Mark(), Show(lines_.closing, liabilities_and_equity_);
 }
 
 std::string dsrBalanceSheet::GetInverseSegmentFilter() const {
@@ -216,21 +216,21 @@ std::string dsrBalanceSheet::GetInverseSegmentFilter() const {
 
 // Minus the balance of all that the filter leaves out. Lines without a segment are not in the
 // inverse of a list, so they are asked for besides.
-KnownSum dsrBalanceSheet::OtherSegments(std::optional<Date> closing) {
-    KnownSum outside;
-    if (!closing) outside.Lose();
-    if (!closing) return outside;
+KnownSum dsrBalanceSheet::OtherSegments(const std::optional<BalanceScope>& scope) {
+    if (!scope) return KnownSum::Unknown();
     auto& balances = CurrentCompany().Balances();
     const auto balance = [&](const std::string& clause) {
-        return balances.AccountBalance(kEveryAccount, {kOpenStart, *closing, clause, {}}, false);
+        BalanceScope outside = *scope;
+        outside.segment_clause = clause;
+        return balances.AccountBalance(kEveryAccount, outside, false);
     };
-    outside.Add(balance(GetInverseSegmentFilter()));
-    if (!TakesLinesWithoutSegment()) outside.Add(balance(kWithoutSegment));
-    return KnownSum(GetCurrencyInfo().Round(-outside.Value(), 2));
+    Currency outside = balance(GetInverseSegmentFilter());
+    if (!TakesLinesWithoutSegment()) outside += balance(kWithoutSegment);
+    return KnownSum(GetCurrencyInfo().Round(-outside, kCents));
 }
 
 // Without its amounts there is nothing to adjust by: the parts stay out.
-void dsrBalanceSheet::InitBalanceSheetAjust(const Sides& liabilities_and_equity) {
+void dsrBalanceSheet::InitBalanceSheetAjust() {
     Control& place = At("dsrBalanceSheetAjust");
     place.SetSubReport(nullptr);
     Guard("InitBalanceSheetAjust", [&] {
@@ -242,10 +242,10 @@ void dsrBalanceSheet::InitBalanceSheetAjust(const Sides& liabilities_and_equity)
         adjusted->DescrLeft(left);
         adjusted->DescrWidth(lblGTot.Place().width);
         adjusted->AmountColumns(lines_.row.Columns());
-        adjusted->LiabilitiesAndEquity(liabilities_and_equity);
-        Mark(), adjusted->AdjustingAmount(OtherSegments(closing_dates_.front()));
-        if (closing_dates_.size() > 1)
-            Mark(), adjusted->AdjustingAmountComp(OtherSegments(closing_dates_.back()));
+        adjusted->LiabilitiesAndEquity(liabilities_and_equity_);
+        Mark(), adjusted->AdjustingAmount(OtherSegments(scopes_.front()));
+        if (scopes_.size() > 1)
+            Mark(), adjusted->AdjustingAmountComp(OtherSegments(scopes_.back()));
         place.SetSubReport(std::move(adjusted));
     });
 }

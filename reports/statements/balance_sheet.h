@@ -33,13 +33,15 @@ class dsrBalanceSheet : public StatementReport {
     void SetLines(Lines lines);
 
     Sides AmountsOf(const StatementRow& row) override;
-    void AccountCounted() override { adjustment_.Add(account_adjustment_); }
+    void LoseAmounts() override;
     bool IsCreditType(std::int32_t account_type) const override;
 
     /// The closing dates of the amounts, in the order of the columns; none where one could not be
     /// worked out.
     virtual std::vector<std::optional<Date>> ClosingDates();
-    virtual void SetColumnCaptions(const std::vector<std::optional<Date>>& /*dates*/) {}
+    virtual void SetColumnCaptions() {}
+    /// The lines of each amount.
+    const std::vector<std::optional<BalanceScope>>& Scopes() const { return scopes_; }
     virtual dsrBalanceSheetAjust::Layouts AdjustmentStyle() const {
         return dsrBalanceSheetAjust::Layouts::kPlain;
     }
@@ -50,8 +52,8 @@ class dsrBalanceSheet : public StatementReport {
                                 Currency booked);
     void CloseSection(const Sides& total);
     std::string GetInverseSegmentFilter() const;
-    framework::KnownSum OtherSegments(std::optional<Date> closing);
-    void InitBalanceSheetAjust(const Sides& liabilities_and_equity);
+    framework::KnownSum OtherSegments(const std::optional<BalanceScope>& scope);
+    void InitBalanceSheetAjust();
 
     void ReportHeader_Format();
     void ghAcctType_Format();
@@ -60,13 +62,12 @@ class dsrBalanceSheet : public StatementReport {
     void ReportFooter_Format();
 
     std::string_view selected_columns_;
-    std::vector<std::optional<Date>> closing_dates_;
+    std::vector<std::optional<BalanceScope>> scopes_;
     Column currency_id_;
     std::optional<ControlAccounts> control_accounts_;
     std::int32_t home_currency_id_ = 0;
-    Sides account_adjustment_;  // What the account gains, if it is a control account.
-    Sides adjustment_;          // What those that print have gained so far.
-    Sides difference_;          // The first section less the others.
+    Sides adjustment_;  // What control accounts have gained so far.
+    Sides difference_;  // The first section less the others.
     Sides liabilities_and_equity_;
     bool out_of_balance_ = false;
 

@@ -45,10 +45,12 @@ std::vector<std::optional<Date>> dsrComparativeBalanceSheet::ClosingDates() {
     return dates;
 }
 
-void dsrComparativeBalanceSheet::SetColumnCaptions(const std::vector<std::optional<Date>>& dates) {
+void dsrComparativeBalanceSheet::SetColumnCaptions() {
+    Control& comparison = At("lblDateComp");
+    comparison.Clear();
     Mark(), At("lblDate").SetText(ClosingDateCaption(App(), DateTo()));
-    At("lblDateComp").Clear();
-    if (dates.back()) Mark(), At("lblDateComp").SetText(ClosingDateCaption(App(), *dates.back()));
+    if (const auto& scope = Scopes().back())
+        Mark(), comparison.SetText(ClosingDateCaption(App(), scope->to));
 }
 
 }  // namespace varnel::reports

@@ -12,7 +12,7 @@ class dsrComparativeBalanceSheet final : public dsrBalanceSheet {
 
   protected:
     std::vector<std::optional<Date>> ClosingDates() override;
-    void SetColumnCaptions(const std::vector<std::optional<Date>>& dates) override;
+    void SetColumnCaptions() override;
     dsrBalanceSheetAjust::Layouts AdjustmentStyle() const override {
         return dsrBalanceSheetAjust::Layouts::kComparative;
     }

@@ -113,8 +113,7 @@ void dsrIncomeStatement::ActiveReport_ReportStart() {
 
 std::string dsrIncomeStatement::BuildStatement() {
     if (FilterTool* const tool = Tool()) Mark(), tool->SetTables("GLAcct");
-    Mark();
-    const std::string types = CurrentCompany().GetAccountTypes().AdditionalIncomeTypes();
+    const std::string types = (Mark(), CurrentCompany().GetAccountTypes().AdditionalIncomeTypes());
     const std::string columns(kColumns), more(more_columns_);
     std::string statement = "SELECT * FROM (  " + columns + "AcctType, GroupType" + more +
                             "   FROM GLAcct   WHERE AcctType IN (4,5)   UNION ALL   " + columns +
@@ -230,7 +229,7 @@ void dsrIncomeStatement::gfAcctType_Format() {
     const Sides total = Levels().TakeSection();
     lblTypeCap.Clear();
     lines_.section_total.Clear();
-    lines_.result.Clear();
+    ShowResult(0);
     const auto* const end = std::ranges::find(kSectionEnds, SectionType(), &SectionEnd::type);
     if (end == std::end(kSectionEnds)) return result_.Lose();
     if (end->type == kRevenue)

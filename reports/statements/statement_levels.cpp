@@ -12,8 +12,6 @@ Sides::Sides(std::initializer_list<Currency> amounts) {
                            [](Currency amount) { return KnownSum(amount); });
 }
 
-bool Sides::AreKnown() const { return std::ranges::all_of(sums_, &KnownSum::Known); }
-
 bool Sides::AreZero() const { return std::ranges::all_of(sums_, &KnownSum::IsZero); }
 
 Sides Sides::Negated() const {

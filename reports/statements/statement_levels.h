@@ -19,7 +19,6 @@ class Sides {
     Sides(std::initializer_list<Currency> amounts);
 
     const framework::KnownSum& operator[](std::size_t side) const { return sums_[side]; }
-    bool AreKnown() const;
     void Put(std::size_t side, const framework::KnownSum& sum) { sums_[side] = sum; }
     /// Whether every one is known to be zero.
     bool AreZero() const;

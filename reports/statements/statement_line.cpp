@@ -1,5 +1,6 @@
 #include "reports/statements/statement_line.h"
 
+#include <cmath>
 #include <utility>
 
 #include "framework/cell_values.h"
@@ -12,6 +13,18 @@ namespace {
 constexpr int kPercentDecimals = 2;
 /// Nothing can be said in percent of zero.
 constexpr std::string_view kNotAvailable = "NA";
+/// Beyond it a percentage is a text alone, as data exports cannot hold it.
+constexpr double kLargestPercent = 1e9;
+
+void PutPercent(Formats& formats, Control& control, std::optional<double> percent,
+                std::string& scratch) {
+    if (!percent) return control.SetText(kNotAvailable);
+    scratch.clear();
+    formats.AppendNumber(*percent, kPercentDecimals, scratch);
+    if (std::abs(*percent) > kLargestPercent) return control.SetText(scratch);
+    constexpr std::int64_t kHundredth = Rate::kScale / 100;
+    control.SetValue(Rate::FromScaled(std::llround(*percent * 100) * kHundredth), scratch);
+}
 
 }  // namespace
 
@@ -43,12 +56,7 @@ void StatementLine::ShowVariance(Formats& formats, const Sides& sides, std::stri
     if (!current.Known() || !comparison.Known()) return;
     const Variance variance = VarianceOf(current.Value(), comparison.Value(), sense);
     framework::PutAmount(formats, *controls_.variance, variance.amount, scratch);
-    scratch = kNotAvailable;
-    if (variance.percent) {
-        scratch.clear();
-        formats.AppendNumber(*variance.percent, kPercentDecimals, scratch);
-    }
-    controls_.percent->SetText(scratch);
+    PutPercent(formats, *controls_.percent, variance.percent, scratch);
 }
 
 void StatementLine::SetVisible(bool visible) {

@@ -36,7 +36,6 @@ StatementReport::StatementReport(const Layout& layout, const Facts& facts)
 
 void StatementReport::IReport_Initialize() {
     Guard("IReport_Initialize", [&] {
-        earnings_.reset();
         ReadHomeCurrency();
         Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
     });
@@ -65,7 +64,7 @@ StatementRow StatementReport::RowColumns::Read(const Row& row) const {
 }
 
 void StatementReport::StartRows(const std::string& statement) {
-    if (!earnings_) Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
+    Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
     auto& info = (Mark(), GetCurrencyInfo());
     const bool foreign_used = (Mark(), info.CieIsForeignCurrencyUsed());
     unrealized_account_id_ = foreign_used ? (Mark(), info.UnrealizedGainLossAcctId()) : 0;
@@ -108,7 +107,7 @@ void StatementReport::Show(StatementLine& line, const Sides& sides, VarianceSens
 
 // Earnings are more than the lines of their account.
 void StatementReport::ShowKey() {
-    if (!row_.account_id || earnings_->Hold(*row_.account_id)) return;
+    if (!row_.account_id || earnings_.Hold(*row_.account_id)) return;
     std::string key = std::to_string(*row_.account_id);
     if (IsUnrealized(*row_.account_id)) key.insert(0, "GLUnrealized|");
     line_.SetTags(key, ComparisonKey(key));
@@ -118,17 +117,14 @@ void StatementReport::ShowKey() {
 std::optional<Sides> StatementReport::CountAccount() try {
     if (row_.inactive && !include_zero_balances_) return std::nullopt;
     Sides exact;
-    if (row_.account_id) {
-        exact = AmountsOf(row_);
-        AccountCounted();
-    }
+    if (row_.account_id) exact = AmountsOf(row_);
     if (IsCreditType(row_.type)) exact = exact.Negated();
     if (exact.AreZero() && !include_zero_balances_) return std::nullopt;
     const Sides amounts = Rounded(exact);
     levels_.Add(amounts);
     return amounts;
 } catch (...) {
-    levels_.Lose();
+    LoseAmounts();
     throw;
 }
 
@@ -148,7 +144,7 @@ void StatementReport::SetDetailControlsValue() {
         try {
             Mark(), row_ = columns_.Read(CurrentRow());
         } catch (...) {
-            levels_.Lose();
+            LoseAmounts();
             throw;
         }
         txtRow.SetText(NameOf(row_.role));

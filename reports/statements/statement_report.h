@@ -35,7 +35,6 @@ class StatementReport : public framework::ReportBase,
                         public framework::RevaluedReport,
                         public IReportConfig {
   public:
-    /// Reads the earnings accounts; StartStatement asks again for those that cannot be read.
     void IReport_Initialize() override;
     /// Whether accounts without amounts print.
     void IReportConfig_ShowConfigurationScreen() override;
@@ -45,10 +44,11 @@ class StatementReport : public framework::ReportBase,
     /// The line of amounts in the detail.
     void SetRowLine(StatementLine line) { line_ = std::move(line); }
 
-    /// What the account's amounts are, debit positive. Only of rows with an account.
+    /// What the account's amounts are, debit positive and exact; they print with the sign of their
+    /// section, to the cent. Only of rows with an account.
     virtual Sides AmountsOf(const StatementRow& row) = 0;
-    /// Told after its amounts, unless the account is left out as inactive.
-    virtual void AccountCounted() {}
+    /// The amounts of a row could not be worked out: no sum that they belong to is known.
+    virtual void LoseAmounts() { levels_.Lose(); }
     /// Accounts of credit types print with the opposite sign.
     virtual bool IsCreditType(std::int32_t account_type) const = 0;
     /// The drill-down key of what an account is compared with, from the account's own.
@@ -75,7 +75,6 @@ class StatementReport : public framework::ReportBase,
     /// Puts amounts into a line.
     void Show(StatementLine& line, const Sides& sides,
               VarianceSense sense = VarianceSense::kMoreIsBetter);
-    const StatementLine& RowLine() const { return line_; }
 
     void Detail_Format();
 
@@ -98,7 +97,7 @@ class StatementReport : public framework::ReportBase,
     StatementLine line_;
     StatementLevels levels_;
     StatementOutline outline_;
-    std::optional<framework::EarningsAccounts> earnings_;
+    framework::EarningsAccounts earnings_;
     std::int32_t unrealized_account_id_ = 0;
     std::int32_t section_type_ = 0;
     bool include_zero_balances_ = false;

@@ -12,15 +12,14 @@ TrialReport::TrialReport(const Layout& layout, const Facts& facts)
 
 void TrialReport::IReport_Initialize() {
     Guard("IReport_Initialize", [&] {
-        earnings_.reset();
         ReadHomeCurrency();
         Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
     });
 }
 
 void TrialReport::StartAmounts(const AccountAmounts::Period& period) {
-    if (!earnings_) Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
-    Mark(), amounts_.emplace(CurrentCompany(), *this, *earnings_, period);
+    Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
+    Mark(), amounts_.emplace(CurrentCompany(), *this, earnings_, period);
 }
 
 Date TrialReport::StartOfYearOrPeriod() {

@@ -17,7 +17,6 @@ class TrialReport : public framework::ReportBase,
                     public framework::FilterableReport,
                     public framework::RevaluedReport {
   public:
-    /// Reads the earnings accounts; StartAmounts asks again for those that cannot be read.
     void IReport_Initialize() override;
     void ActiveReport_Terminate() override { amounts_.reset(); }
 
@@ -35,7 +34,7 @@ class TrialReport : public framework::ReportBase,
     Date StartOfYearOrPeriod();
 
   private:
-    std::optional<framework::EarningsAccounts> earnings_;
+    framework::EarningsAccounts earnings_;
     std::optional<AccountAmounts> amounts_;
 };
 
