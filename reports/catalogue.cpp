@@ -3,6 +3,8 @@
 #include "accounts/cgl_acct.h"
 #include "accounts/cgl_acct_helper.h"
 #include "accounts/cgl_accts.h"
+#include "reports/bank/bank_reconciliation.h"
+#include "reports/bank/current_bank_reconciliation.h"
 #include "reports/exchange/realized_exchange.h"
 #include "reports/exchange/unrealized_exchange.h"
 #include "reports/exchange/unrealized_exchange_detail.h"
@@ -40,8 +42,8 @@ constexpr CatalogueEntry kReports[] = {
     {"dsrComparativeIncomeStatement", 30004, Make<reports::dsrComparativeIncomeStatement>},
     {"dsrComparativeBalanceSheet", 30006, Make<reports::dsrComparativeBalanceSheet>},
     {"dsrGIFIReport", 30007, Make<reports::dsrGIFIReport>},
-    {"dsrBankReconciliation", 30008, nullptr},
-    {"dsrCurrentBankReconciliation", 30009, nullptr},
+    {"dsrBankReconciliation", 30008, Make<reports::dsrBankReconciliation>},
+    {"dsrCurrentBankReconciliation", 30009, Make<reports::dsrCurrentBankReconciliation>},
     {"dsrUnRealExchProfitloss", 30010, Make<reports::dsrUnRealExchProfitloss>},
     {"dsrUnRealExchProfitlossDetail", 30011, Make<reports::dsrUnRealExchProfitlossDetail>},
     {"dsrRealizedExchProfitloss", 30012, Make<reports::dsrRealizedExchProfitloss>},

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "reports/bank/reconciliation_query.h"
+#include "reports/bank/reconciliation_report.h"
+
+namespace varnel::reports {
+
+/// Bank reconciliation from the ledger: the one in progress, whose amounts the host sets, or a
+/// saved one reproduced.
+///
+/// Late-bound it has, besides the properties that both reconciliations have,
+/// `ExBankConcilHistoryId` (a saved reconciliation; below 1 is the one in progress) and the method
+/// `RefreshTotalsWithBankConcilHistory`.
+class dsrBankReconciliation final : public ReconciliationReport {
+  public:
+    dsrBankReconciliation();
+
+    void ActiveReport_ReportStart() override;
+
+    std::int32_t ExBankConcilHistoryId() const { return history_id_; }
+    void ExBankConcilHistoryId(std::int32_t id) { history_id_ = id; }
+    /// Works the five amounts out from the ledger, as they were at the statement's date: call it
+    /// before the run, once account and reconciliation are set. When it fails they stay as they
+    /// were.
+    void RefreshTotalsWithBankConcilHistory();
+
+  private:
+    /// The saved reconciliation's date, the zero date when there is no such record.
+    Date EffectiveDate();
+    ReconciliationScope Scope();
+    Currency SumOf(const ParameterQuery& query);
+
+    void Detail_Format();
+
+    std::int32_t history_id_ = 0;
+    ItemColumns columns_;
+};
+
+}  // namespace varnel::reports
