@@ -216,7 +216,9 @@ void dsrIncomeStatement::ghAcctType_Format() {
 void dsrIncomeStatement::ShowResult(std::int16_t caption_text) {
     const bool shown = caption_text != 0;
     lblGTot.SetVisible(shown);
+    lblGTot.Clear();
     lines_.result.SetVisible(shown);
+    lines_.result.Clear();
     lines_.final_rules.SetRulesVisible(shown && Data().Rows()->AtEnd());
     if (!shown) return;
     Mark(), lblGTot.SetText(PlainText(App(), caption_text));

@@ -57,6 +57,18 @@ const RecordedCommand& StatementRun::ChartCommand() const {
     return *found;
 }
 
+CollectedBands AdjustmentIn(const CollectedBands& bands, int depth) {
+    CollectedBands found;
+    bool begun = false;  // The filter's own sub-report has no header.
+    for (const auto& band : bands.bands) {
+        begun = begun || (band.depth == 1 && band.section == "ReportHeader");
+        if (!begun || band.depth != depth) continue;
+        found.bands.push_back(band);
+        found.bands.back().depth = 0;
+    }
+    return found;
+}
+
 std::vector<std::string> Rows(const CollectedBands& bands) {
     std::vector<std::string> rows;
     for (const auto& band : bands.Of("Detail")) {

@@ -53,6 +53,10 @@ inline StatementRun ComparativeSheetRun() {
     return StatementRun(clsReport().ComparativeBalanceSheet());
 }
 
+/// The bands of the adjusted balance sheet alone (1), or of the journal line in it (2), as if they
+/// were a report of their own.
+CollectedBands AdjustmentIn(const CollectedBands& bands, int depth);
+
 /// What the rows show in a run that was made.
 std::vector<std::string> Rows(const CollectedBands& bands);
 

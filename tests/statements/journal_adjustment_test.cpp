@@ -1,0 +1,76 @@
+#include "reports/statements/journal_adjustment.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/statements/statement_run.h"
+
+namespace varnel {
+namespace {
+
+using reports::dsrGeneralJournalAdjust;
+using test::Collect;
+using test::CollectedBands;
+using test::MemoryHost;
+using test::Shown;
+using testing::ElementsAre;
+
+std::string RowOf(const CollectedBands& bands) {
+    const auto rows = Shown(bands, "Detail", {"txtAccountDescr", "txtDebit", "txtCredit"});
+    return rows.size() == 1 ? rows[0] : std::to_string(rows.size()) + " rows";
+}
+
+std::string FooterOf(const CollectedBands& bands) {
+    return Shown(bands, "ReportFooter", {"lblTotal", "txtDebitTotal", "txtCreditTotal"}).at(0);
+}
+
+TEST(JournalAdjustmentTest, APositiveAmountIsACredit) {
+    struct Sided {
+        const char *amount, *row, *footer;
+    };
+    constexpr Sided kCases[] = {{"-125.50", "8571|125.50|", "1641|125.50|"},
+                                {"125.50", "8571||125.50", "1641||125.50"},
+                                {"-0.01", "8571|0.01|", "1641|0.01|"},
+                                {"0", "||", "||"}};
+    for (const auto& tried : kCases) {
+        const auto report =
+            std::make_shared<dsrGeneralJournalAdjust>(std::make_shared<MemoryHost>());
+        report->AdjustingAmount(Currency::Parse(tried.amount));
+        const auto bands = Collect(*report);
+        EXPECT_EQ(RowOf(bands), tried.row) << tried.amount;
+        EXPECT_EQ(FooterOf(bands), tried.footer) << tried.amount;
+        EXPECT_THAT(bands.Texts("PageHeader", "lblTitle"), ElementsAre("8323"));
+    }
+}
+
+TEST(JournalAdjustmentTest, EachRunHasOneRowOfItsOwnAmount) {
+    const auto report = std::make_shared<dsrGeneralJournalAdjust>(std::make_shared<MemoryHost>());
+    for (const auto& [amount, row] :
+         {std::pair("5", "8571||5.00"), {"5", "8571||5.00"}, {"-6", "8571|6.00|"}, {"0", "||"}}) {
+        report->AdjustingAmount(Currency::Parse(amount));
+        const auto bands = Collect(*report);
+        EXPECT_EQ(RowOf(bands), row) << amount;
+        EXPECT_EQ(FooterOf(bands).empty(), false);
+    }
+}
+
+TEST(JournalAdjustmentTest, AHostThatFailsIsToldAndTheRunGoesOn) {
+    const auto host = std::make_shared<MemoryHost>();
+    const auto report = std::make_shared<dsrGeneralJournalAdjust>(host);
+    report->AdjustingAmount(Currency::FromWhole(5));
+    Collect(*report);
+    const int calls = host->calls.Count();
+    for (int k = 1; k <= calls; ++k) {
+        host->message_boxes.clear();
+        host->calls.FailAt(host->calls.Count() + k);
+        EXPECT_TRUE(Collect(*report).ended);
+        EXPECT_THAT(host->message_boxes,
+                    ElementsAre(testing::HasSubstr("in Varnel.dsrGeneralJournalAdjust.")))
+            << "host call " << k;
+    }
+    host->calls.FailAt(0);
+    EXPECT_EQ(RowOf(Collect(*report)), "8571||5.00");
+}
+
+}  // namespace
+}  // namespace varnel
