@@ -5,11 +5,16 @@
 namespace varnel {
 namespace {
 
+using test::BudgetRun;
+using test::CollectedBands;
+using test::ComparativeIncomeRun;
+using test::ComparativeSheetRun;
 using test::IncomeRun;
 using test::kUnrealized;
 using test::SheetRun;
 using test::Shown;
 using test::StatementRun;
+using test::SweepFaults;
 using testing::ElementsAre;
 
 /// A report that has run once, over another amount.
@@ -25,22 +30,33 @@ StatementRun RunBefore(StatementRun run) {
     return run;
 }
 
-StatementRun Income() {
-    StatementRun run = IncomeRun();
+StatementRun IncomeOf(StatementRun run) {
     run.chart = {{4'000, 4, 7},    {4'010, 4}, {4'020, 4, 3}, {5'000, 5, 1},
                  {kUnrealized, 5}, {5'020, 5}, {5'090, 5, 5}, {9'010, 9}};
     run.Post(4'010, "2025-02-10", "-100");
     run.Post(kUnrealized, "2025-02-10", "7");
     run.Post(5'020, "2025-01-10", "20");
     run.Post(9'010, "2025-02-10", "1");
+    run.Post(4'010, "2024-02-10", "-80");
+    run.Post(5'020, "2024-02-10", "30");
+    run.HaveFiscalYears({{Date::ParseIso("2024-01-01"), Date::ParseIso("2024-12-31")}});
     run.HoldForeignAmount();
     run.host->database.Answer("ProjInfo", {{"ProjId", "Descr"}, {{"P7", "Shop"}}});
     run.Properties().Put("ProjIds", "0");
     return RunBefore(std::move(run));
 }
 
-StatementRun Sheet() {
-    StatementRun run = SheetRun();
+StatementRun Income() { return IncomeOf(IncomeRun()); }
+StatementRun ComparativeIncome() { return IncomeOf(ComparativeIncomeRun()); }
+
+StatementRun Budget() {
+    StatementRun run = BudgetRun();
+    run.host->company.budgets = {{4'010, run.from, run.to, Currency::FromWhole(-90)},
+                                 {9'010, run.from, run.to, Currency::FromWhole(2)}};
+    return IncomeOf(std::move(run));
+}
+
+StatementRun SheetOf(StatementRun run) {
     run.chart = {{1'000, 1, 1}, {1'010, 1}, {1'200, 1, 2, 2}, {1'300, 1, 2, 3},
                  {1'390, 1, 3}, {2'010, 2}, {3'010, 3},       {3'090, 3, 5}};
     run.Post(1'010, "2025-01-10", "10");
@@ -48,9 +64,20 @@ StatementRun Sheet() {
     run.Post(1'300, "2025-01-10", "15", "10");
     run.Post(2'010, "2025-01-10", "-30");
     run.Post(3'010, "2025-01-10", "-115");
+    run.Post(1'200, "2024-01-10", "12", "10");
+    run.Post(3'010, "2024-01-10", "-5");
+    run.HaveFiscalYears({{Date::ParseIso("2024-01-01"), Date::ParseIso("2024-12-31")}});
     run.host->company.account_params["CustGLAR"] = 1'200;
     return RunBefore(std::move(run));
 }
+
+StatementRun Sheet() { return SheetOf(SheetRun()); }
+StatementRun ComparativeSheet() { return SheetOf(ComparativeSheetRun()); }
+
+/// Of a balance sheet, what its segments lack alone.
+struct AdjustedRun : StatementRun {
+    CollectedBands operator()() { return test::AdjustmentIn(StatementRun::operator()(), 1); }
+};
 
 TEST(StatementFaultSweepTest, OfTheIncomeStatementShowsRightFiguresOrNone) {
     const auto right = SweepFaults({"dsrIncomeStatement",
@@ -71,8 +98,11 @@ TEST(StatementFaultSweepTest, OfTheIncomeStatementShowsRightFiguresOrNone) {
               "95.45|75.45");
 }
 
+constexpr const char* kPrintedBySheets =
+    "dsrBalanceSheet|dsrComparativeBalanceSheet|dsrBalanceSheetAjust|dsrGeneralJournalAdjust";
+
 TEST(StatementFaultSweepTest, OfTheBalanceSheetShowsRightFiguresOrNone) {
-    const auto right = SweepFaults({"dsrBalanceSheet|dsrBalanceSheetAjust|dsrGeneralJournalAdjust",
+    const auto right = SweepFaults({kPrintedBySheets,
                                     {{"PageHeader", {"txtExchangeRate"}},
                                      {"ghAcctType", {"lblAcctType"}},
                                      {"Detail", {"txtTotal"}},
@@ -80,9 +110,76 @@ TEST(StatementFaultSweepTest, OfTheBalanceSheetShowsRightFiguresOrNone) {
                                      {"gfAcctType", {"txtTypeTotal"}},
                                      {"ReportFooter", {"txtTotalPassCap"}}}},
                                    Sheet);
-    // 30 + 115 + 3.45.
+    // 30 + 120 + 3.80, which 110 USD booked at 132 have gained.
     EXPECT_THAT(Shown(right, "ReportFooter", {"lblGTot", "txtTotalPassCap"}),
-                ElementsAre("8324|148.45"));
+                ElementsAre("8324|153.80"));
+}
+
+TEST(StatementFaultSweepTest, OfTheComparativeIncomeStatementShowsRightFiguresOrNone) {
+    const std::pair<StatementRun (*)(), const char*> kForms[] = {
+        {ComparativeIncome, "95.45|50.00|45.45|90.90"}, {Budget, "95.45|88.00|7.45|8.47"}};
+    for (const auto& [make, result] : kForms) {
+        const auto right = SweepFaults({"dsrComparativeIncomeStatement",
+                                        {{"GroupHeader1", {"lblDatePeriodComp"}},
+                                         {"Detail", {"txtTotal"}},
+                                         {"Detail", {"txtTotalCul"}},
+                                         {"Detail", {"txtTotalComp"}},
+                                         {"Detail", {"txtTotalDoll"}},
+                                         {"Detail", {"lblTotalDiff"}},
+                                         {"gfAcctType", {"txtTypeTotalComp"}},
+                                         {"gfAcctType", {"txtTypeTotalDoll"}},
+                                         {"gfAcctType", {"lblTypeTotalDiff"}},
+                                         {"gfAcctType", {"txtTotalPassCapComp"}},
+                                         {"gfAcctType", {"txtTotalPassCapDoll"}},
+                                         {"gfAcctType", {"lblTotalPassCapDiff"}}}},
+                                       make);
+        // 80 - 30 last year, 90 - 2 by the budget.
+        EXPECT_EQ(Shown(right, "gfAcctType",
+                        {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll",
+                         "lblTotalPassCapDiff"})
+                      .back(),
+                  result);
+    }
+}
+
+TEST(StatementFaultSweepTest, OfTheComparativeBalanceSheetShowsRightFiguresOrNone) {
+    const auto right = SweepFaults({kPrintedBySheets,
+                                    {{"Detail", {"txtTotal"}},
+                                     {"Detail", {"txtTotalComp"}},
+                                     {"Detail", {"txtTotalDoll"}},
+                                     {"Detail", {"lblTotalDiff"}},
+                                     {"GroupFooter1", {"txtProfitLoosComp"}},
+                                     {"GroupFooter1", {"txtProfitLoosDoll"}},
+                                     {"gfAcctType", {"txtTypeTotalComp"}},
+                                     {"gfAcctType", {"txtTypeTotalDoll"}},
+                                     {"gfAcctType", {"lblTypeTotalDiff"}},
+                                     {"ReportFooter", {"txtTotalPassCapComp"}},
+                                     {"ReportFooter", {"txtTotalPassCapDoll"}},
+                                     {"ReportFooter", {"lblTotalPassCapDiff"}}}},
+                                   ComparativeSheet);
+    // 5 + 0.35 a year before.
+    EXPECT_THAT(Shown(right, "ReportFooter",
+                      {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll"}),
+                ElementsAre("153.80|5.35|148.45"));
+}
+
+TEST(StatementFaultSweepTest, OfTheAdjustedBalanceSheetShowsRightFiguresOrNone) {
+    const auto right = SweepFaults({kPrintedBySheets,
+                                    {{"ReportHeader", {"lblAcctType"}},
+                                     {"Detail", {"txtTotalAdj"}},
+                                     {"Detail", {"txtTotalAdjComp"}},
+                                     {"Detail", {"txtTotalAdjDiff"}},
+                                     {"Detail", {"txtTotalAdjDiffPerc"}},
+                                     {"ReportFooter", {"txtTypeTotal"}},
+                                     {"ReportFooter", {"txtTypeTotal2"}},
+                                     {"ReportFooter", {"txtTotalDiffDollar"}},
+                                     {"ReportFooter", {"txtTotalPassCap"}},
+                                     {"ReportFooter", {"txtTotalPassCapPassed"}},
+                                     {"ReportFooter", {"txtTotalPassDiffDollar"}}}},
+                                   [] { return AdjustedRun(ComparativeSheet()); });
+    // Every line fits both clauses of this host: 7 are in the books, and were a year before.
+    EXPECT_THAT(Shown(right, "ReportFooter", {"txtTypeTotal", "txtTypeTotal2", "txtTotalPassCap"}),
+                ElementsAre("-14.00|-14.00|139.80"));
 }
 
 }  // namespace
