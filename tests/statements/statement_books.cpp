@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
+
+#include "tests/support/book_questions.h"
 
 namespace varnel::test {
 
@@ -96,6 +99,33 @@ void SettleForeignAmounts(StatementBooks& books, Random& random) {
     }
 }
 
+void AddBudgets(StatementBooks& books, Random& random) {
+    for (const auto& account : books.accounts) {
+        if (!account.IsPosting() || !account.IsOfTheYear() || random.Chance(300)) continue;
+        const Date first = SomeDay(books, random);
+        const Date middle = first + Small(random, 0, 60), last = middle + Small(random, 1, 400);
+        for (const auto& [from, to] : {std::pair(first, middle), std::pair(middle + 1, last)})
+            books.budgets.push_back({account.id, from, to, 100 * random.Between(-900, 900)});
+    }
+}
+
+std::string BudgetScript(const StatementBooks& books) {
+    std::string script = ";DELETE FROM AcctBudget";
+    for (const auto& budget : books.budgets)
+        script += ";INSERT INTO AcctBudget (ExAcctId, BegDate, EndDate, BudgetAmnt) VALUES (" +
+                  std::to_string(budget.account_id) + ",'" + budget.first.ToIso() + "','" +
+                  budget.last.ToIso() + "'," +
+                  Decimal(budget.a_day * (budget.last - budget.first + 1)) + ")";
+    return script;
+}
+
+/// The first month of each year, and the rest of it.
+constexpr const char* kFiscalPeriods =
+    ";DELETE FROM FiscalYearDet;INSERT INTO FiscalYearDet (ExFiscalYearId, PeriodNo, BegDate, "
+    "EndDate) SELECT InFiscalYearId, 1, BegDate, DATE(BegDate, '+1 month', '-1 day') FROM "
+    "FiscalYear UNION ALL SELECT InFiscalYearId, 2, DATE(BegDate, '+1 month'), EndDate FROM "
+    "FiscalYear";
+
 std::string Parameter(const std::string& name, int account_id) {
     return "REPLACE INTO GLAccountParam VALUES ('Cie','" + name + "'," +
            std::to_string(account_id) + ");";
@@ -124,6 +154,7 @@ StatementBooks MakeStatementBooks(Random& random) {
               [](const auto& a, const auto& b) { return a.number < b.number; });
     AddEntries(books, random, kCurrencies, SomeCents);
     SettleForeignAmounts(books, random);
+    AddBudgets(books, random);
     return books;
 }
 
@@ -132,7 +163,8 @@ std::string ScriptOf(const StatementBooks& books) {
                          Parameter("CustGLAR", books.company_controls.receivable) +
                          Parameter("SuppGLAP", books.company_controls.payable) +
                          "REPLACE INTO CompanySetting VALUES ('UseForeignCurrency','" +
-                         (books.uses_foreign_currency ? "True" : "False") + "')";
+                         (books.uses_foreign_currency ? "True" : "False") + "')" + kFiscalPeriods +
+                         BudgetScript(books);
     for (int currency = kHomeCurrency; currency <= kCurrencies; ++currency)
         script += ";UPDATE WorldCurrency SET ARGLAccountId = " +
                   std::to_string(books.controls[currency].receivable) +

@@ -13,7 +13,15 @@ struct StatementBooks : Books {
         bool Has(int account_id) const { return account_id == receivable || account_id == payable; }
     };
 
+    /// So much a day, which a period cut anywhere has exactly.
+    struct Budget {
+        int account_id;
+        Date first, last;
+        Units a_day;
+    };
+
     bool uses_foreign_currency = true;
+    std::vector<Budget> budgets;
     /// The company's own, and those of each currency by its id.
     Controls company_controls, controls[kCurrencies + 1];
 

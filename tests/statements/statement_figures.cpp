@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "framework/cls_report.h"
 #include "tests/support/collected_bands.h"
 
@@ -34,16 +36,20 @@ std::vector<Units> Printed(const std::vector<std::optional<Units>>& amounts) {
 
 class StatementReader {
   public:
+    /// `suffixes` are those of the columns in the names of controls.
     StatementReader(const std::shared_ptr<Application>& host, std::vector<std::string> suffixes)
-        : host_(host), suffixes_(std::move(suffixes)) {}
+        : host_(host),
+          suffixes_(std::move(suffixes)),
+          is_sheet_(std::ranges::count(suffixes_, "Cul") == 0) {}
 
     PrintedStatement Read(IReport& report) {
         for (const auto& band : Collect(*report.IReport_ReportDesigner()).bands) {
+            if (band.depth == 1) ReadAdjusted(band);
             if (band.depth != 0) continue;
             if (band.section == "ghAcctType") statement_.sections.emplace_back();
             if (band.section == "Detail") AddRow(band);
             if (band.section == "gfAcctType") EndSection(band);
-            if (band.section == "ReportFooter" && suffixes_.size() == 1) ReadClosing(band);
+            if (band.section == "ReportFooter" && is_sheet_) ReadClosing(band);
         }
         return std::move(statement_);
     }
@@ -66,7 +72,9 @@ class StatementReader {
         const std::string& text = band.Text("txtDescr");
         const std::string name = "Account ";
         const auto columns = Columns("txtTotal");
-        for (const auto& column : columns) EXPECT_EQ(band[column].tag, band["txtTotal"].tag);
+        if (!is_sheet_) {
+            EXPECT_EQ(band["txtTotalCul"].tag, band["txtTotal"].tag);
+        }
         statement_.sections.back().rows.push_back(
             {std::stoi(text.substr(text.find(name) + name.size())), Amounts(band, columns),
              band["txtTotal"].tag});
@@ -75,17 +83,26 @@ class StatementReader {
         auto& section = statement_.sections.back();
         section.caption = TextNumber(band["lblTypeCap"]);
         section.totals = Printed(Amounts(band, Columns("txtTypeTotal")));
-        if (suffixes_.size() == 1) return;
+        if (is_sheet_) return;
         section.result_caption = TextNumber(band["lblGTot"]);
         section.results = Printed(Amounts(band, Columns("txtTotalPassCap")));
     }
     void ReadClosing(const CollectedBand& band) {
         statement_.closing_caption = TextNumber(band["lblGTot"]);
         statement_.closing = Amount(band["txtTotalPassCap"]).value_or(0);
+        if (suffixes_.size() > 1)
+            statement_.closing_compared = Amount(band["txtTotalPassCapComp"]).value_or(0);
+    }
+
+    void ReadAdjusted(const CollectedBand& band) {
+        if (band.section == "ReportFooter")
+            statement_.adjusted =
+                Printed(Amounts(band, {"txtTotalPassCap", "txtTotalPassCapPassed"}));
     }
 
     std::shared_ptr<Application> host_;
     std::vector<std::string> suffixes_;
+    bool is_sheet_;
     PrintedStatement statement_;
 };
 
@@ -133,6 +150,24 @@ PrintedStatement RunBalanceSheet(const std::shared_ptr<Application>& host,
     const auto report = clsReport().BalanceSheet();
     Configure(*report, host, question);
     return StatementReader(host, {""}).Read(*report);
+}
+
+PrintedStatement RunComparativeIncome(const std::shared_ptr<Application>& host,
+                                      const StatementQuestion& question, bool with_budget) {
+    const auto report = with_budget ? clsReport().ComparativeIncomeStatementBudget()
+                                    : clsReport().ComparativeIncomeStatement();
+    auto& properties = dynamic_cast<Object&>(*report);
+    properties.Put("CumulativeDateFrom", question.cumul_from);
+    properties.Put("CumulativeDateTo", question.cumul_to);
+    Configure(*report, host, question);
+    return StatementReader(host, {"", "Cul", "Comp", "Doll"}).Read(*report);
+}
+
+PrintedStatement RunComparativeSheet(const std::shared_ptr<Application>& host,
+                                     const StatementQuestion& question) {
+    const auto report = clsReport().ComparativeBalanceSheet();
+    Configure(*report, host, question);
+    return StatementReader(host, {"", "Comp", "Doll"}).Read(*report);
 }
 
 std::vector<std::string> InWords(const PrintedStatement& statement) {

@@ -16,7 +16,8 @@ struct StatementQuestion : Question {
     Date cumul_from{}, cumul_to{};
 };
 
-/// What a statement prints: amounts of the period and, in the income statement, cumulative ones.
+/// What a statement prints: amounts of the period, cumulative ones in the income statement, then
+/// what they are compared with and the variance where they are.
 struct PrintedStatement {
     /// Row of the chart; a heading or a text has no amounts.
     struct Row {
@@ -33,9 +34,11 @@ struct PrintedStatement {
         std::vector<Units> results{};
     };
     std::vector<Section> sections{};
-    /// Of the balance sheet.
+    /// Of the balance sheet, the second with its comparison.
     int closing_caption = 0;
-    Units closing = 0;
+    Units closing = 0, closing_compared = 0;
+    /// The same with what the segments lack; empty without the adjusted balance sheet.
+    std::vector<Units> adjusted{};
 
     /// 0 for an account that is not printed.
     Units Of(int account, std::size_t column = 0) const;
@@ -47,6 +50,10 @@ PrintedStatement RunIncomeStatement(const std::shared_ptr<Application>& host,
                                     const StatementQuestion& question);
 PrintedStatement RunBalanceSheet(const std::shared_ptr<Application>& host,
                                  const StatementQuestion& question);
+PrintedStatement RunComparativeIncome(const std::shared_ptr<Application>& host,
+                                      const StatementQuestion& question, bool with_budget);
+PrintedStatement RunComparativeSheet(const std::shared_ptr<Application>& host,
+                                     const StatementQuestion& question);
 
 /// One piece each, to compare and to print.
 std::vector<std::string> InWords(const PrintedStatement& statement);

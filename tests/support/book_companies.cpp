@@ -42,10 +42,11 @@ void BookCompany::Put(const std::string& script) {
 void BookCompany::Reopen() { host_ = Open(file_); }
 
 void ForEverySeed(
-    const std::function<void(BookCompany& company, company::demo::Random& random)>& check) {
+    const std::function<void(BookCompany& company, company::demo::Random& random)>& check,
+    std::uint64_t seeds) {
     BookCompany company;
     const std::uint64_t first = FromEnvironment("VARNEL_SEED", 1);
-    const std::uint64_t end = first + FromEnvironment("VARNEL_COMPANIES", 1'000);
+    const std::uint64_t end = first + FromEnvironment("VARNEL_COMPANIES", seeds);
     ASSERT_LT(first, end) << "VARNEL_COMPANIES is a number";
     for (std::uint64_t seed = first; seed < end && !testing::Test::HasFailure(); ++seed) {
         SCOPED_TRACE("VARNEL_SEED=" + std::to_string(seed));

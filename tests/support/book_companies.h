@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -27,9 +28,10 @@ class BookCompany {
     std::shared_ptr<Application> host_;
 };
 
-/// Takes a thousand seeds in turn, until a test fails. VARNEL_COMPANIES is their number and
+/// Takes so many seeds in turn, until a test fails. VARNEL_COMPANIES is their number instead and
 /// VARNEL_SEED the first of them, to see one that failed again.
 void ForEverySeed(
-    const std::function<void(BookCompany& company, company::demo::Random& random)>& check);
+    const std::function<void(BookCompany& company, company::demo::Random& random)>& check,
+    std::uint64_t seeds = 1'000);
 
 }  // namespace varnel::test
