@@ -16,6 +16,7 @@
 #include "cli/message_log.h"
 #include "cli/nearest_name.h"
 #include "cli/output_file.h"
+#include "cli/reconciliation_figures.h"
 #include "cli/report_subject.h"
 #include "cli/report_table.h"
 #include "cli/run_monitor.h"
@@ -147,6 +148,7 @@ int RunReport(const RunRequest& request, Console& console) {
     PutSubject(*report, entry, *host, request);
     PutCumulativePeriod(*report, entry, host->CurrentCompany(), settings);
     ConfigureReport(*report, host, request, settings);
+    PutReconciliation(*report, entry, *host, request, settings);
     if (auto* config = dynamic_cast<IReportConfig*>(report.get()); config && log.Count() == 0)
         ConfigureOptions(*config, *dialogs, settings.options, request.configure);
     if (log.Count() > 0) return Conclude(log, false, console);

@@ -25,19 +25,29 @@ constexpr PropertyWithOption kPropertiesWithOption[] = {
     {&ReportEntry::projects_property, "--projects"},
     {&ReportEntry::cumulative_from_property, "--cumulative-from"},
     {&ReportEntry::cumulative_to_property, "--cumulative-to"},
+    {&ReportEntry::statement_date_property, "--statement-date"},
+    {&ReportEntry::ending_balance_property, "--ending-balance"},
+    {&ReportEntry::history_property, "--history"},
+    {&ReportEntry::rows_property, "--rows"},
 };
 
 /// What a report can be about, and the option that must say so.
 struct Subject {
     std::string_view ReportEntry::*property;
     std::string RunRequest::*given;
-    std::string_view words, option;
+    std::string_view words, option, value;
 };
 
 constexpr Subject kSubjects[] = {
-    {&ReportEntry::account_property, &RunRequest::account, "one account", "--account NUMBER"},
-    {&ReportEntry::currency_property, &RunRequest::currency, "one currency", "--currency CODE"},
-    {&ReportEntry::projects_property, &RunRequest::projects, "some projects", "--projects IDS"},
+    {&ReportEntry::account_property, &RunRequest::account, "one account", "--account", "NUMBER"},
+    {&ReportEntry::currency_property, &RunRequest::currency, "one currency", "--currency", "CODE"},
+    {&ReportEntry::projects_property, &RunRequest::projects, "some projects", "--projects", "IDS"},
+    {&ReportEntry::statement_date_property, &RunRequest::statement_date, "one bank statement",
+     "--statement-date", "DATE"},
+    {&ReportEntry::ending_balance_property, &RunRequest::ending_balance, "one bank statement",
+     "--ending-balance", "AMOUNT"},
+    {&ReportEntry::rows_property, &RunRequest::rows_file, "the lines to reconcile", "--rows",
+     "FILE"},
 };
 
 /// Something that the command line names and reports know by its id.
@@ -61,6 +71,14 @@ void RefuseProperty(std::string_view property, std::string_view option, const Ru
         if (SameName(name, property))
             throw UsageError("--property " + name + ": use " + std::string(option) + " instead");
     }
+}
+
+/// A saved reconciliation knows what it is about.
+void RefuseBesideHistory(const RunRequest& request) {
+    for (const auto& subject : kSubjects)
+        if (!(request.*subject.given).empty())
+            throw UsageError("--history: leave out " + std::string(subject.option) +
+                             ", which is for the reconciliation in progress");
 }
 
 /// Numbers that begin alike are near: they come first, so that they win over others as near.
@@ -97,18 +115,22 @@ void RefuseHomeCurrency(std::int32_t currency_id, company::CompanyHost& host,
 void RequireSubject(const ReportEntry& entry, const RunRequest& request) {
     for (const auto& [property, option] : kPropertiesWithOption)
         if (!(entry.*property).empty()) RefuseProperty(entry.*property, option, request);
+    if (!request.history.empty()) return RefuseBesideHistory(request);
     for (const auto& subject : kSubjects)
         if (!(entry.*subject.property).empty() && (request.*subject.given).empty())
-            throw UsageError(std::string(entry.name) + " is about " + std::string(subject.words) +
-                             ": add " + std::string(subject.option));
+            throw UsageError(
+                std::string(entry.name) + " is about " + std::string(subject.words) + ": add " +
+                std::string(subject.option) + " " + std::string(subject.value) +
+                (entry.history_property.empty() ? ""
+                                                : ", or --history ID for a saved reconciliation"));
 }
 
 void PutSubject(IReport& report, const ReportEntry& entry, company::CompanyHost& host,
                 const RunRequest& request) {
     for (const auto& kind : kKinds) {
         const auto property = entry.*kind.property;
-        if (property.empty()) continue;
         const std::string& name = request.*kind.name;
+        if (property.empty() || name.empty()) continue;
         const std::int32_t id = IdOf(kind, name, host);
         if (kind.property == &ReportEntry::currency_property) RefuseHomeCurrency(id, host, name);
         report.IReport_ReportDesigner()->Put(property, id);

@@ -7,8 +7,9 @@
 
 namespace varnel::cli {
 
-/// A UsageError when the report is about one account, one currency or some projects and the request
-/// names none, or sets by --property what the report has an option for.
+/// A UsageError when the request does not name what the report is about: an account, a currency,
+/// projects, a bank statement. Another one when it names a saved reconciliation and more, or sets by
+/// --property what the report has an option for.
 void RequireSubject(const ReportEntry& entry, const RunRequest& request);
 
 /// Puts the internal ids of the account and the currency that the request names into the report's

@@ -29,6 +29,15 @@ struct ReportEntry {
     /// Properties of the days of a cumulative period; empty for reports that have none.
     std::string_view cumulative_from_property = {};
     std::string_view cumulative_to_property = {};
+    /// Properties of a bank reconciliation: the date and the ending balance of the bank's
+    /// statement, the id of a saved reconciliation, and the rows of the one in progress; empty for
+    /// reports that have none.
+    std::string_view statement_date_property = {};
+    std::string_view ending_balance_property = {};
+    std::string_view history_property = {};
+    std::string_view rows_property = {};
+    /// Whether the report keeps its custom filter and makes nothing of it.
+    bool ignores_filter = false;
     /// Whether the filter is not criteria but exchange rates: "USD=1.35|EUR=1.47".
     bool filter_gives_rates = false;
 };

@@ -25,6 +25,18 @@ bool HasCurrency(const ReportEntry& entry, IReport&) { return !entry.currency_pr
 
 bool HasProjects(const ReportEntry& entry, IReport&) { return !entry.projects_property.empty(); }
 
+bool HasHistory(const ReportEntry& entry, IReport&) { return !entry.history_property.empty(); }
+
+bool HasStatement(const ReportEntry& entry, IReport&) {
+    return !entry.statement_date_property.empty();
+}
+
+bool HasRows(const ReportEntry& entry, IReport&) { return !entry.rows_property.empty(); }
+
+bool HasFilter(const ReportEntry& entry, IReport& report) {
+    return Has<IFilterableReport>(entry, report) && !entry.ignores_filter;
+}
+
 bool HasCumulativePeriod(const ReportEntry& entry, IReport&) {
     return !entry.cumulative_from_property.empty();
 }
@@ -38,6 +50,13 @@ constexpr RunOption kOptions[] = {
     {"--account", "NUMBER", &RunRequest::account, "The account, by its number", HasAccount},
     {"--currency", "CODE", &RunRequest::currency, "The foreign currency, as USD", HasCurrency},
     {"--projects", "IDS", &RunRequest::projects, "The projects, by id: 3,7", HasProjects},
+    {"--history", "ID", &RunRequest::history, "The saved bank reconciliation, by id", HasHistory},
+    {"--statement-date", "DATE", &RunRequest::statement_date, "The date of the bank's statement",
+     HasStatement},
+    {"--ending-balance", "AMOUNT", &RunRequest::ending_balance,
+     "The ending balance of the bank's statement, as -1234.50", HasStatement},
+    {"--rows", "FILE", &RunRequest::rows_file,
+     "The lines to reconcile, as CSV; - for standard input", HasRows},
     {"--cumulative-from", "DATE", &RunRequest::cumulative_from,
      "First day of the cumulative period; left out: of the fiscal year of --to",
      HasCumulativePeriod},
@@ -48,7 +67,7 @@ constexpr RunOption kOptions[] = {
     {"--no-segment", "", &RunRequest::no_segment,
      "Lines without a segment: these too, or only these", Has<ISegmentFilter>},
     {"--filter", "TEXT", &RunRequest::filter,
-     "Criteria and ordering in SQL: 'GLDet.DetAmnt > 500|GLDet.DetDate'", Has<IFilterableReport>},
+     "Criteria and ordering in SQL: 'GLDet.DetAmnt > 500|GLDet.DetDate'", HasFilter},
     {"--foreign", "", &RunRequest::foreign, "Show amounts in foreign currency too", Always},
     {"--revalue", "", &RunRequest::revalue,
      "Foreign balances at the exchange rates of the last day", Has<IExchangeRates>},

@@ -14,6 +14,10 @@ struct RunRequest {
     std::string account;   // Its number.
     std::string currency;  // Its code.
     std::string projects;
+    std::string history;  // The id of a saved bank reconciliation.
+    std::string statement_date;
+    std::string ending_balance;
+    std::string rows_file;
     std::string cumulative_from;
     std::string cumulative_to;
     std::string segments;

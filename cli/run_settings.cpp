@@ -5,6 +5,7 @@
 #include "cli/errors.h"
 #include "cli/given_rates.h"
 #include "company/filter/filter_fault.h"
+#include "host/error.h"
 #include "host/object.h"
 
 namespace varnel::cli {
@@ -25,26 +26,42 @@ std::optional<Date> ReadGivenDate(std::string_view option, const std::string& te
     return ReadDate(option, text, Date());
 }
 
-std::int32_t ReadId(std::string_view option, std::string_view text) {
+std::int32_t ReadId(std::string_view option, std::string_view text, std::string_view advice) {
     while (text.starts_with(' ')) text.remove_prefix(1);
     while (text.ends_with(' ')) text.remove_suffix(1);
     std::int32_t id = 0;
     const auto* end = text.data() + text.size();
     const auto read = std::from_chars(text.data(), end, id);
     if (text.empty() || read.ec != std::errc{} || read.ptr != end)
-        throw UsageError(std::string(option) + ": \"" + std::string(text) +
-                         "\" is no id; write ids with commas between them, as 3,7");
+        throw UsageError(std::string(option) + ": \"" + std::string(text) + "\" is no id; " +
+                         std::string(advice));
     return id;
+}
+
+constexpr std::string_view kWriteIds = "write ids with commas between them, as 3,7";
+
+std::optional<std::int32_t> ReadGivenId(std::string_view option, const std::string& text) {
+    if (text.empty()) return {};
+    return ReadId(option, text, "write one number, as 3");
+}
+
+Currency ReadAmount(std::string_view option, const std::string& text) {
+    if (text.empty()) return {};
+    try {
+        return Currency::Parse(text);
+    } catch (const Error& error) {
+        throw UsageError(std::string(option) + ": " + error.Description());
+    }
 }
 
 std::vector<std::int32_t> ReadIds(std::string_view option, std::string_view list) {
     std::vector<std::int32_t> ids;
     while (!list.empty()) {
         const auto comma = list.find(',');
-        ids.push_back(ReadId(option, list.substr(0, comma)));
+        ids.push_back(ReadId(option, list.substr(0, comma), kWriteIds));
         if (comma == std::string_view::npos) break;
         list.remove_prefix(comma + 1);
-        if (list.empty()) ReadId(option, list);
+        if (list.empty()) ReadId(option, list, kWriteIds);
     }
     return ids;
 }
@@ -119,6 +136,9 @@ RunSettings ReadSettings(const RunRequest& request) {
                          " is after --to " + settings.to.ToIso());
     settings.cumulative.from = ReadGivenDate("--cumulative-from", request.cumulative_from);
     settings.cumulative.to = ReadGivenDate("--cumulative-to", request.cumulative_to);
+    settings.statement = {.history = ReadGivenId("--history", request.history),
+                          .date = ReadDate("--statement-date", request.statement_date, Date()),
+                          .ending_balance = ReadAmount("--ending-balance", request.ending_balance)};
     settings.projects = ReadIds("--projects", request.projects);
     settings.segments = ReadIds("--segments", request.segments);
     settings.session_date = ReadGivenDate("--session-date", request.session_date);

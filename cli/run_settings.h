@@ -10,6 +10,7 @@
 #include "cli/run_request.h"
 #include "company/services/given_rates.h"
 #include "engine/document.h"
+#include "host/currency.h"
 #include "host/date.h"
 
 namespace varnel::cli {
@@ -27,6 +28,12 @@ struct RunSettings {
     struct {
         std::optional<Date> from, to;
     } cumulative;
+    /// Of bank reconciliations.
+    struct {
+        std::optional<std::int32_t> history;
+        Date date;
+        Currency ending_balance;
+    } statement;
     std::vector<std::int32_t> projects;
     std::vector<std::int32_t> segments;
     std::optional<Date> session_date;

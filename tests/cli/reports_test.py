@@ -20,7 +20,11 @@ class Reports(VarnelTest):
     def test_every_listed_report_runs(self):
         _, output, _ = self.run_varnel("reports")
         lines = output.decode().splitlines()
-        subjects = {"--account": "1030", "--currency": "USD", "--projects": "1"}
+        (self.folder / "rows.csv").write_text("DetDate,DetRef,DetDesc,Conciliated,DetAmnt,"
+                                              "ForeignAmnt,Source,ExSrcKeyVal\n")
+        subjects = {"--account": "1030", "--currency": "USD", "--projects": "1",
+                    "--statement-date": "2026-09-30", "--ending-balance": "100.00",
+                    "--rows": "rows.csv"}
         names = [line.split()[0] for line in lines[::2]]
         self.assertIn("general-journal", names)
         for name, options in zip(names, lines[1::2]):

@@ -1,0 +1,91 @@
+#include "cli/csv_records.h"
+
+#include <string_view>
+
+#include "cli/errors.h"
+
+namespace varnel::cli {
+
+namespace {
+
+constexpr int kEnd = std::istream::traits_type::eof();
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool EndsLine(int character) { return character == '\n' || character == '\r'; }
+
+}  // namespace
+
+CsvRecords::CsvRecords(std::istream& input, std::string name)
+    : input_(input), name_(std::move(name)) {
+    if (Peek() != static_cast<unsigned char>(kByteOrderMark[0])) return;
+    for (const char mark : kByteOrderMark)
+        if (Take() != mark) Refuse("it is no text in UTF-8; save it as \"CSV UTF-8\"");
+}
+
+void CsvRecords::Refuse(const std::string& fault) const {
+    throw UsageError(name_ + ", line " + std::to_string(record_line_) + ": " + fault);
+}
+
+char CsvRecords::Take() {
+    const int character = input_.get();
+    if (character == '\n' || (character == '\r' && Peek() != '\n')) ++line_;
+    return static_cast<char>(character);
+}
+
+bool CsvRecords::SkipEmptyLines() {
+    while (EndsLine(Peek())) Take();
+    record_line_ = line_;
+    return Peek() != kEnd;
+}
+
+std::string CsvRecords::ReadQuoted() {
+    std::string value;
+    Take();
+    while (true) {
+        if (Peek() == kEnd) Refuse("a quoted value begins and never ends; add the closing quote");
+        const char character = Take();
+        if (character != '"') {
+            value += character;
+        } else if (Peek() == '"') {
+            value += Take();
+        } else {
+            return value;
+        }
+    }
+}
+
+bool CsvRecords::AtLineEnd() { return Peek() == kEnd || EndsLine(Peek()); }
+
+std::string CsvRecords::ReadValue() {
+    if (Peek() == '"') {
+        auto value = ReadQuoted();
+        if (!AtLineEnd() && Peek() != ',')
+            Refuse("after the quoted value \"" + value +
+                   "\" comes more; double the quotes that are part of a value");
+        return value;
+    }
+    std::string value;
+    while (!AtLineEnd() && Peek() != ',') value += Take();
+    if (value.find('"') != std::string::npos)
+        Refuse("there is a quote in the middle of \"" + value +
+               "\"; put the value between quotes and double those that are part of it");
+    return value;
+}
+
+bool CsvRecords::Next() {
+    values_.clear();
+    if (!SkipEmptyLines()) return false;
+    values_.push_back(ReadValue());
+    while (Peek() == ',') {
+        Take();
+        values_.push_back(ReadValue());
+    }
+    if (columns_ == 0) columns_ = values_.size();
+    if (values_.size() != columns_)
+        Refuse("it has " + std::to_string(values_.size()) + " values and the header " +
+               std::to_string(columns_) +
+               "; separate values by commas, and put one that has a comma between quotes");
+    return true;
+}
+
+}  // namespace varnel::cli
