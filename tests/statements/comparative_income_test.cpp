@@ -111,11 +111,14 @@ std::vector<std::string> Keys(StatementRun& run) {
 TEST(ComparativeIncomeTest, LeadsToTheLinesOfEitherYearButToNoneOfABudget) {
     for (const bool is_budget : {false, true}) {
         StatementRun run = is_budget ? BudgetRun() : ComparativeIncomeRun();
-        run.chart = {{5'000, 5, 1}, {5'010, 5}, {kCurrentEarnings, 5}, {5'090, 5, 3}};
+        run.chart = {
+            {5'000, 5, 1}, {5'010, 5}, {kUnrealized, 5}, {kCurrentEarnings, 5}, {5'090, 5, 3}};
         run.IncludeZeroBalances();
-        EXPECT_THAT(Keys(run),
-                    ElementsAre(";;;;;", is_budget ? "5010;5010;;;;" : "5010;5010;5010|LastYear;;;",
-                                ";;;;;", ";;;;;"));
+        const std::string year[] = {is_budget ? "" : "5010|LastYear",
+                                    is_budget ? "" : "5900|LastYear"};
+        EXPECT_THAT(Keys(run), ElementsAre(";;;;;", "5010;5010;" + year[0] + ";;;",
+                                           "GLUnrealized|5900;GLUnrealized|5900;" + year[1] + ";;;",
+                                           ";;;;;", ";;;;;"));
     }
 }
 

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/statements/statement_run.h"
 
 namespace varnel {
@@ -108,6 +110,36 @@ TEST(ComparisonPeriodTest, ThatCannotBeWorkedOutLeavesTheComparisonBlank) {
                        "lblTotalPassCapDiff"}),
                 ElementsAre("-10.00|||"));
     EXPECT_THAT(sheet.Texts("PageHeader", "lblDateComp"), ElementsAre(""));
+}
+
+/// Makes the last call of that name fail in the next run, which asks as the one before.
+void FailLast(StatementRun& run, const std::string& name) {
+    run();
+    const auto first = static_cast<std::ptrdiff_t>(run.host->calls.Names().size());
+    run();
+    const auto& names = run.host->calls.Names();
+    const auto last = std::find(names.rbegin(), names.rend(), name);
+    run.host->calls.FailAt(run.host->calls.Count() + static_cast<int>(names.rend() - last - first));
+}
+
+TEST(ComparisonTest, OfOneAccountThatCannotBeHadLeavesItsOtherAmounts) {
+    struct Failing {
+        StatementRun (*make)();
+        std::int32_t type;
+        const char *call, *row;
+    };
+    constexpr Failing kFailing[] = {
+        {ComparativeIncomeRun, 5, "StatementBalance", "10|5.00|5.00|||"},
+        {test::BudgetRun, 5, "GetAcctBudgetRange", "10|5.00|5.00|||"},
+        {ComparativeSheetRun, 1, "StatementBalance", "10|10.00|||"}};
+    for (const auto& tried : kFailing) {
+        StatementRun run = tried.make();
+        run.chart = {{10, tried.type}};
+        for (const char* day : {"2025-02-10", "2024-02-10"}) run.Post(10, day, "5");
+        FailLast(run, tried.call);
+        EXPECT_THAT(run.Rows(), ElementsAre(tried.row)) << tried.call;
+        EXPECT_EQ(run.host->message_boxes.size(), 1u);
+    }
 }
 
 }  // namespace

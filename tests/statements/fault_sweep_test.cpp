@@ -9,9 +9,7 @@ using test::BudgetRun;
 using test::CollectedBands;
 using test::ComparativeIncomeRun;
 using test::ComparativeSheetRun;
-using test::IncomeRun;
 using test::kUnrealized;
-using test::SheetRun;
 using test::Shown;
 using test::StatementRun;
 using test::SweepFaults;
@@ -46,7 +44,6 @@ StatementRun IncomeOf(StatementRun run) {
     return RunBefore(std::move(run));
 }
 
-StatementRun Income() { return IncomeOf(IncomeRun()); }
 StatementRun ComparativeIncome() { return IncomeOf(ComparativeIncomeRun()); }
 
 StatementRun Budget() {
@@ -71,7 +68,6 @@ StatementRun SheetOf(StatementRun run) {
     return RunBefore(std::move(run));
 }
 
-StatementRun Sheet() { return SheetOf(SheetRun()); }
 StatementRun ComparativeSheet() { return SheetOf(ComparativeSheetRun()); }
 
 /// Of a balance sheet, what its segments lack alone.
@@ -79,104 +75,71 @@ struct AdjustedRun : StatementRun {
     CollectedBands operator()() { return test::AdjustmentIn(StatementRun::operator()(), 1); }
 };
 
-TEST(StatementFaultSweepTest, OfTheIncomeStatementShowsRightFiguresOrNone) {
-    const auto right = SweepFaults({"dsrIncomeStatement",
-                                    {{"GroupHeader1", {"lblDatePeriod"}},
-                                     {"GroupHeader1", {"lblDateCul"}},
-                                     {"GroupHeader1", {"fldProjects"}},
-                                     {"GroupHeader1", {"txtExchangeRate"}},
-                                     {"ghAcctType", {"lblAcctType"}},
-                                     {"Detail", {"txtTotal"}},
-                                     {"Detail", {"txtTotalCul"}},
-                                     {"gfAcctType", {"txtTypeTotal"}},
-                                     {"gfAcctType", {"txtTypeTotalCul"}},
-                                     {"gfAcctType", {"txtTotalPassCap"}},
-                                     {"gfAcctType", {"txtTotalPassCapCul"}}}},
-                                   Income);
-    // 100 - (7 - 3.45) - 1, and 20 less.
-    EXPECT_EQ(Shown(right, "gfAcctType", {"txtTotalPassCap", "txtTotalPassCapCul"}).back(),
-              "95.45|75.45");
+using Figures = std::vector<std::pair<const char*, std::vector<std::string>>>;
+
+/// Each figure by itself: one may be blank where another is right.
+Figures Each(const Figures& sections) {
+    Figures figures;
+    for (const auto& [section, controls] : sections)
+        for (const auto& control : controls) figures.push_back({section, {control}});
+    return figures;
 }
 
-constexpr const char* kPrintedBySheets =
-    "dsrBalanceSheet|dsrComparativeBalanceSheet|dsrBalanceSheetAjust|dsrGeneralJournalAdjust";
+// The comparatives make every call of the plain statements, and more.
 
-TEST(StatementFaultSweepTest, OfTheBalanceSheetShowsRightFiguresOrNone) {
-    const auto right = SweepFaults({kPrintedBySheets,
-                                    {{"PageHeader", {"txtExchangeRate"}},
-                                     {"ghAcctType", {"lblAcctType"}},
-                                     {"Detail", {"txtTotal"}},
-                                     {"GroupFooter1", {"txtProfitLoos"}},
-                                     {"gfAcctType", {"txtTypeTotal"}},
-                                     {"ReportFooter", {"txtTotalPassCap"}}}},
-                                   Sheet);
-    // 30 + 120 + 3.80, which 110 USD booked at 132 have gained.
-    EXPECT_THAT(Shown(right, "ReportFooter", {"lblGTot", "txtTotalPassCap"}),
-                ElementsAre("8324|153.80"));
-}
-
-TEST(StatementFaultSweepTest, OfTheComparativeIncomeStatementShowsRightFiguresOrNone) {
+TEST(StatementFaultSweepTest, OfTheIncomeStatementsShowsRightFiguresOrNone) {
+    const auto figures = Each(
+        {{"GroupHeader1",
+          {"lblDatePeriod", "lblDateCul", "lblDatePeriodComp", "fldProjects", "txtExchangeRate"}},
+         {"ghAcctType", {"lblAcctType"}},
+         {"Detail", {"txtTotal", "txtTotalCul", "txtTotalComp", "txtTotalDoll", "lblTotalDiff"}},
+         {"gfAcctType",
+          {"txtTypeTotal", "txtTypeTotalCul", "txtTypeTotalComp", "txtTypeTotalDoll",
+           "lblTypeTotalDiff", "txtTotalPassCap", "txtTotalPassCapCul", "txtTotalPassCapComp",
+           "txtTotalPassCapDoll", "lblTotalPassCapDiff"}}});
+    // 100 - (7 - 3.45) - 1, cumulative 20 less; 80 - 30 last year, 90 - 2 by the budget.
     const std::pair<StatementRun (*)(), const char*> kForms[] = {
-        {ComparativeIncome, "95.45|50.00|45.45|90.90"}, {Budget, "95.45|88.00|7.45|8.47"}};
+        {ComparativeIncome, "95.45|75.45|50.00|45.45|90.90"},
+        {Budget, "95.45|75.45|88.00|7.45|8.47"}};
     for (const auto& [make, result] : kForms) {
-        const auto right = SweepFaults({"dsrComparativeIncomeStatement",
-                                        {{"GroupHeader1", {"lblDatePeriodComp"}},
-                                         {"Detail", {"txtTotal"}},
-                                         {"Detail", {"txtTotalCul"}},
-                                         {"Detail", {"txtTotalComp"}},
-                                         {"Detail", {"txtTotalDoll"}},
-                                         {"Detail", {"lblTotalDiff"}},
-                                         {"gfAcctType", {"txtTypeTotalComp"}},
-                                         {"gfAcctType", {"txtTypeTotalDoll"}},
-                                         {"gfAcctType", {"lblTypeTotalDiff"}},
-                                         {"gfAcctType", {"txtTotalPassCapComp"}},
-                                         {"gfAcctType", {"txtTotalPassCapDoll"}},
-                                         {"gfAcctType", {"lblTotalPassCapDiff"}}}},
-                                       make);
-        // 80 - 30 last year, 90 - 2 by the budget.
+        const auto right = SweepFaults({"dsrComparativeIncomeStatement", figures}, make);
         EXPECT_EQ(Shown(right, "gfAcctType",
-                        {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll",
-                         "lblTotalPassCapDiff"})
+                        {"txtTotalPassCap", "txtTotalPassCapCul", "txtTotalPassCapComp",
+                         "txtTotalPassCapDoll", "lblTotalPassCapDiff"})
                       .back(),
                   result);
     }
 }
 
-TEST(StatementFaultSweepTest, OfTheComparativeBalanceSheetShowsRightFiguresOrNone) {
-    const auto right = SweepFaults({kPrintedBySheets,
-                                    {{"Detail", {"txtTotal"}},
-                                     {"Detail", {"txtTotalComp"}},
-                                     {"Detail", {"txtTotalDoll"}},
-                                     {"Detail", {"lblTotalDiff"}},
-                                     {"GroupFooter1", {"txtProfitLoosComp"}},
-                                     {"GroupFooter1", {"txtProfitLoosDoll"}},
-                                     {"gfAcctType", {"txtTypeTotalComp"}},
-                                     {"gfAcctType", {"txtTypeTotalDoll"}},
-                                     {"gfAcctType", {"lblTypeTotalDiff"}},
-                                     {"ReportFooter", {"txtTotalPassCapComp"}},
-                                     {"ReportFooter", {"txtTotalPassCapDoll"}},
-                                     {"ReportFooter", {"lblTotalPassCapDiff"}}}},
-                                   ComparativeSheet);
-    // 5 + 0.35 a year before.
+constexpr const char* kPrintedBySheets =
+    "dsrComparativeBalanceSheet|dsrBalanceSheetAjust|dsrGeneralJournalAdjust";
+
+TEST(StatementFaultSweepTest, OfTheBalanceSheetsShowsRightFiguresOrNone) {
+    const auto figures =
+        Each({{"PageHeader", {"txtExchangeRate"}},
+              {"ghAcctType", {"lblAcctType"}},
+              {"Detail", {"txtTotal", "txtTotalComp", "txtTotalDoll", "lblTotalDiff"}},
+              {"GroupFooter1", {"txtProfitLoos", "txtProfitLoosComp", "txtProfitLoosDoll"}},
+              {"gfAcctType",
+               {"txtTypeTotal", "txtTypeTotalComp", "txtTypeTotalDoll", "lblTypeTotalDiff"}},
+              {"ReportFooter",
+               {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll",
+                "lblTotalPassCapDiff"}}});
+    const auto right = SweepFaults({kPrintedBySheets, figures}, ComparativeSheet);
+    // 30 + 120 + 3.80, which 110 USD booked at 132 have gained; 5 + 0.35 a year before.
     EXPECT_THAT(Shown(right, "ReportFooter",
-                      {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll"}),
-                ElementsAre("153.80|5.35|148.45"));
+                      {"lblGTot", "txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll"}),
+                ElementsAre("8324|153.80|5.35|148.45"));
 }
 
 TEST(StatementFaultSweepTest, OfTheAdjustedBalanceSheetShowsRightFiguresOrNone) {
-    const auto right = SweepFaults({kPrintedBySheets,
-                                    {{"ReportHeader", {"lblAcctType"}},
-                                     {"Detail", {"txtTotalAdj"}},
-                                     {"Detail", {"txtTotalAdjComp"}},
-                                     {"Detail", {"txtTotalAdjDiff"}},
-                                     {"Detail", {"txtTotalAdjDiffPerc"}},
-                                     {"ReportFooter", {"txtTypeTotal"}},
-                                     {"ReportFooter", {"txtTypeTotal2"}},
-                                     {"ReportFooter", {"txtTotalDiffDollar"}},
-                                     {"ReportFooter", {"txtTotalPassCap"}},
-                                     {"ReportFooter", {"txtTotalPassCapPassed"}},
-                                     {"ReportFooter", {"txtTotalPassDiffDollar"}}}},
-                                   [] { return AdjustedRun(ComparativeSheet()); });
+    const auto figures = Each(
+        {{"Detail", {"txtTotalAdj", "txtTotalAdjComp", "txtTotalAdjDiff", "txtTotalAdjDiffPerc"}},
+         {"ReportFooter",
+          {"txtTypeTotal", "txtTypeTotal2", "txtTotalDiffDollar", "txtTotalPassCap",
+           "txtTotalPassCapPassed", "txtTotalPassDiffDollar"}}});
+    const auto right =
+        SweepFaults({kPrintedBySheets, figures}, [] { return AdjustedRun(ComparativeSheet()); });
     // Every line fits both clauses of this host: 7 are in the books, and were a year before.
     EXPECT_THAT(Shown(right, "ReportFooter", {"txtTypeTotal", "txtTypeTotal2", "txtTotalPassCap"}),
                 ElementsAre("-14.00|-14.00|139.80"));

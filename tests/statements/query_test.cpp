@@ -132,17 +132,5 @@ TEST(StatementScopeTest, SegmentsAreAskedOfTheBalancesInParentheses) {
     }
 }
 
-TEST(StatementScopeTest, ProjectsAreAskedOfTheBalances) {
-    StatementRun run = IncomeRun();
-    run.chart = {{5'010, 5}};
-    run.Post(5'010, "2025-02-10", "5");
-    run.Post(5'010, "2025-02-10", "7");
-    run.Post(5'010, "2025-01-10", "9");
-    for (std::size_t i = 1; i < 3; ++i) run.host->company.ledger[i].project_id = 8;
-    run.host->database.Answer("ProjInfo", {{"ProjId", "Descr"}, {}});
-    run.Properties().Put("ProjIds", "8,9");
-    EXPECT_THAT(run.Rows(), ElementsAre("5010|7.00|16.00"));
-}
-
 }  // namespace
 }  // namespace varnel

@@ -114,25 +114,22 @@ TEST(StatementRowTest, AddsUpRoundedAmounts) {
 }
 
 /// An account of each kind, under a heading that is inactive.
-StatementRun RunOfSomeInactive(StatementRun run, std::int32_t type) {
-    run.chart = {{1, type, 1, 0, true},  {10, type},   {20, type, 2, 0, true}, {30, type},
-                 {40, type, 2, 0, true}, {90, type, 3}};
-    run.Post(30, "2025-02-10", "3");
-    run.Post(40, "2025-02-10", "4");
-    return run;
-}
-
 TEST(StatementOptionTest, AccountsWithoutAmountsAndInactiveOnesPrintAndCountWhenAskedFor) {
-    StatementRun sheet = RunOfSomeInactive(SheetRun(), 1);
-    EXPECT_THAT(sheet.Rows(), ElementsAre("1|", "30|3.00", "90|3.00"));
-    sheet.IncludeZeroBalances();
-    EXPECT_THAT(sheet.Rows(),
-                ElementsAre("1|", "10|0.00", "20|0.00", "30|3.00", "40|4.00", "90|7.00"));
-    StatementRun income = RunOfSomeInactive(IncomeRun(), 5);
-    EXPECT_THAT(income.Rows(), ElementsAre("1||", "30|3.00|3.00", "90|3.00|3.00"));
-    income.IncludeZeroBalances();
-    EXPECT_THAT(income.Rows(), ElementsAre("1||", "10|0.00|0.00", "20|0.00|0.00", "30|3.00|3.00",
-                                           "40|4.00|4.00", "90|7.00|7.00"));
+    for (auto* make : {IncomeRun, SheetRun}) {
+        const std::int32_t type = make == IncomeRun ? 5 : 1;
+        StatementRun run = make();
+        run.chart = {{1, type, 1, 0, true},  {10, type},   {20, type, 2, 0, true}, {30, type},
+                     {40, type, 2, 0, true}, {90, type, 3}};
+        run.Post(30, "2025-02-10", "3");
+        run.Post(40, "2025-02-10", "4");
+        const std::vector<std::string> columns{"txtDescr", "txtTotal"};
+        EXPECT_THAT(Shown(run(), "Detail", columns),
+                    ElementsAre("Account 1|", "Account 30|3.00", "Account 90|3.00"));
+        run.IncludeZeroBalances();
+        EXPECT_THAT(Shown(run(), "Detail", columns),
+                    ElementsAre("Account 1|", "Account 10|0.00", "Account 20|0.00",
+                                "Account 30|3.00", "Account 40|4.00", "Account 90|7.00"));
+    }
 }
 
 TEST(StatementOptionTest, TheDialogOpensWithTheChoiceOfTheTimeBefore) {

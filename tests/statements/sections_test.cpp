@@ -79,18 +79,5 @@ TEST(IncomeSectionTest, IsCaptionedByTheHostAndLeavesRoomForAResult) {
     EXPECT_THAT(heights, ElementsAre(570, 570, 570, 675, 1'035, 1'035));
 }
 
-TEST(IncomeSectionTest, RevenueOnTheDebitSideAndExpensesOnTheCreditSideAreNegative) {
-    StatementRun run = IncomeRun();
-    run.chart = {{4'000, 4}, {5'000, 5}, {9'000, 9}};
-    run.Post(4'000, "2025-02-10", "1");
-    run.Post(5'000, "2025-02-10", "-1234.5");
-    run.Post(9'000, "2025-02-10", "-0.25");
-    const auto bands = run();
-    EXPECT_THAT(Rows(bands),
-                ElementsAre("4000|-1.00|-1.00", "5000|-1,234.50|-1,234.50", "9000|-0.25|-0.25"));
-    EXPECT_EQ(Shown(bands, "gfAcctType", kFooter).back(),
-              "2678|-0.25|-0.25|2680|1,233.75|1,233.75");
-}
-
 }  // namespace
 }  // namespace varnel
