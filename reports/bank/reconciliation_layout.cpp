@@ -58,7 +58,7 @@ SectionLayout Item() {
             .kind = SectionKind::kDetail,
             .height = kDetailHeight,
             .controls = {ColumnText("txtDetDate", kDate, 0, kBody, "date"),
-                         ColumnText("txtDetRef", kReference, 0, kBody, "reference"),
+                         Growing(ColumnText("txtDetRef", kReference, 0, kBody, "reference")),
                          Growing(ColumnText("txtDetDesc", kDescription, 0, kBody, "description")),
                          ColumnText("txtAmount", kAmount, 0, kBody, "amount")}};
 }
