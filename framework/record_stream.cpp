@@ -26,7 +26,7 @@ Variant ParseLiteral(std::string_view literal, std::string_view filter) {
     if (literal.size() >= 2 && literal.front() == '\'' && literal.back() == '\'')
         return std::string(literal.substr(1, literal.size() - 2));
     const std::string word = Upper(literal);
-    if (word == "TRUE" || word == "FALSE") return word == "TRUE";
+    if (word == "TRUE" || word == "FALSE") return std::int32_t{word == "TRUE"};
     try {
         return Variant(std::string(literal)).ToCurrency();
     } catch (const Error&) {
@@ -36,16 +36,30 @@ Variant ParseLiteral(std::string_view literal, std::string_view filter) {
 
 bool IsText(const Variant& value) { return value.Holds<std::string>(); }
 
-// Null before all values, numbers by what they are worth, texts by their bytes.
-int Compare(const Variant& a, const Variant& b) {
-    if (a.IsNull() || b.IsNull()) return int{b.IsNull()} - int{a.IsNull()};
+/// Of a value of a row: null, numbers, dates and texts do not mix.
+int Kind(const Variant& value) {
+    if (value.IsNull()) return 0;
+    if (IsText(value)) return 3;
+    return value.Holds<Date>() ? 2 : 1;
+}
+
+/// Numbers by what they are worth, texts by their bytes.
+int Order(const Variant& a, const Variant& b) {
     const auto order = [](const auto& left, const auto& right) {
         return left < right ? -1 : int{right < left};
     };
-    if (a.Holds<Date>() && b.Holds<Date>()) return order(a.ToDate(), b.ToDate());
-    if (a.Holds<bool>() && b.Holds<bool>()) return order(a.ToBool(), b.ToBool());
-    if (IsText(a) || IsText(b)) return order(a.ToText(), b.ToText());
-    return order(a.ToCurrency(), b.ToCurrency());
+    const int kind = Kind(a);
+    if (kind != Kind(b)) return order(kind, Kind(b));
+    if (kind == 0) return 0;
+    if (kind == 1) return order(a.ToCurrency(), b.ToCurrency());
+    if (kind == 2) return order(a.ToDate(), b.ToDate());
+    return order(a.ToText(), b.ToText());
+}
+
+/// Between quotes stand dates too.
+bool IsEqual(const Variant& value, const Variant& wanted) {
+    if (value.IsNull() || !IsText(wanted)) return Order(value, wanted) == 0;
+    return value.ToText() == wanted.ToText();
 }
 
 }  // namespace
@@ -102,11 +116,11 @@ void RecordCopy::SetSort(std::string_view sort) {
 void RecordCopy::Arrange() {
     order_.clear();
     for (std::size_t i = 0; i < rows_.size(); ++i)
-        if (!filter_column_.Valid() || Compare(rows_[i].Value(filter_column_), filter_value_) == 0)
+        if (!filter_column_.Valid() || IsEqual(rows_[i].Value(filter_column_), filter_value_))
             order_.push_back(i);
     std::ranges::stable_sort(order_, [this](std::size_t a, std::size_t b) {
         for (const auto& key : sort_) {
-            const int order = Compare(rows_[a].Value(key.column), rows_[b].Value(key.column));
+            const int order = Order(rows_[a].Value(key.column), rows_[b].Value(key.column));
             if (order != 0) return (order < 0) != key.descending;
         }
         return false;

@@ -33,11 +33,12 @@ class RecordCopy final : public Recordset {
 
     /// Reads a column as yes or no, null as no; no sorts before yes. Error 3265 for an unknown one.
     void SetBoolean(std::string_view column);
-    /// "Column = value" with a number, True, False or a text between single quotes; empty takes all
-    /// rows. Error 5 for anything else. Stands on the first row afterwards.
+    /// "Column = value" with a number, True or False (of a column read as yes or no), or a text or
+    /// date between single quotes; empty takes all rows. Error 5 for anything else. Stands on the
+    /// first row afterwards.
     void SetFilter(std::string_view filter);
-    /// "Column [ASC|DESC], ...", null before all values; rows that are equal stay in order. Error 5
-    /// for anything else. Stands on the first row afterwards.
+    /// "Column [ASC|DESC], ...", null before numbers before dates before texts; rows that are equal
+    /// stay in order. Error 5 for anything else. Stands on the first row afterwards.
     void SetSort(std::string_view sort);
 
     const Columns& GetColumns() const override { return stream_->GetColumns(); }

@@ -52,7 +52,7 @@ ReconciliationScope dsrBankReconciliation::Scope() {
 
 void dsrBankReconciliation::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
-        ForgetTotal();
+        ForgetItems();
         const ReconciliationScope scope = Scope();
         const int database_type = (Mark(), App().CurrentContext().Database().DatabaseType());
         const auto query = ItemsQuery(database_type, scope, IncludesReconciled());

@@ -49,7 +49,7 @@ void dsrCurrentBankReconciliation::ConcilDataSet(const std::shared_ptr<Recordset
 
 void dsrCurrentBankReconciliation::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {
-        ForgetTotal();
+        ForgetItems();
         if (items_ != nullptr) {
             Mark(), columns_.Resolve(items_->GetColumns());
             Mark(), reconciled_ = items_->GetColumns().At(kReconciled);
@@ -88,11 +88,19 @@ void dsrCurrentBankReconciliation::FillFields(const Row& item) {
     Mark(), Data().SetField(fields_.type, TransactionType(item.Truth(reconciled_), amount));
 }
 
-// The row is fed even when a field of it could not be read: the detail moves on.
+// The row is fed even when a field of it could not be read, and then stays in the group before it:
+// the detail moves on.
 void dsrCurrentBankReconciliation::ActiveReport_FetchData(bool& end_of_data) {
     end_of_data = items_ == nullptr || items_->AtEnd();
     if (end_of_data) return;
-    Guard("ActiveReport_FetchData", [&] { FillFields(items_->Current()); });
+    Guard("ActiveReport_FetchData", [&] {
+        try {
+            FillFields(items_->Current());
+        } catch (...) {
+            LoseTotal();
+            throw;
+        }
+    });
 }
 
 // The last step is always reached, so that the feed goes on after a row that fails.

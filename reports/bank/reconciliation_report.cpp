@@ -85,14 +85,22 @@ bool ReconciliationReport::IsForeign(std::int32_t currency_id) {
     return currency_id != (Mark(), GetCurrencyInfo().CieHomeCurrencyId());
 }
 
+void ReconciliationReport::ForgetItems() {
+    currency_id_.reset();
+    LoseTotal();
+}
+
 void ReconciliationReport::StartItems() {
-    Mark(), currency_id_ = CurrentCompany().Accounts().CurrencyOf(subject_.account_id);
-    foreign_ = IsForeign(currency_id_);
+    auto& accounts = (Mark(), CurrentCompany().Accounts());
+    const std::int32_t currency_id = (Mark(), accounts.CurrencyOf(subject_.account_id));
+    foreign_ = IsForeign(currency_id);
+    currency_id_ = currency_id;
     group_total_ = {};
 }
 
+// Without a currency the amount stays blank: why was told when the run began.
 void ReconciliationReport::PutInAccountCurrency(Control& control, Currency amount) {
-    PutAmountIn(GetCurrencyInfo(), control, amount, currency_id_, text_);
+    if (currency_id_) PutAmountIn(GetCurrencyInfo(), control, amount, *currency_id_, text_);
 }
 
 void ReconciliationReport::PageHeader_Format() {
@@ -108,6 +116,7 @@ void ReconciliationReport::ghTransactionType_Format() {
     if (EndOfData()) return;
     const std::int32_t type = (Mark(), CurrentRow().Integer(transaction_type_));
     if (type < 1 || type > 4) return;
+    lblTransactionType.SetText({});
     Mark(), lblTransactionType.SetText(PlainText(App(), kGroupTexts[type - 1]));
 }
 

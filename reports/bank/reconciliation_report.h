@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "framework/custom_criteria.h"
@@ -51,8 +52,10 @@ class ReconciliationReport : public framework::ReportBase,
     };
 
     bool IncludesReconciled() const { return include_reconciled_; }
-    /// Before the rows are there: no group total is known.
-    void ForgetTotal() { group_total_.Lose(); }
+    /// Before the run has its rows: in which currency they are is not known, nor any total.
+    void ForgetItems();
+    /// When an item cannot be told to belong to the group.
+    void LoseTotal() { group_total_.Lose(); }
     /// Reads the account's currency and begins the group total.
     void StartItems();
     /// Whether items are in a currency of the account's own, and so by their foreign amounts.
@@ -73,7 +76,7 @@ class ReconciliationReport : public framework::ReportBase,
     Subject subject_;
     ReconciliationFigures figures_;
     bool include_reconciled_ = false;
-    std::int32_t currency_id_ = 0;
+    std::optional<std::int32_t> currency_id_;  // Nothing in a run that could not begin.
     bool foreign_ = false;
     framework::KnownSum group_total_;
     Column transaction_type_;
