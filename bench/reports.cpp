@@ -124,6 +124,30 @@ std::string ComparativeBalanceSheet(const std::string& company) {
            " UNION ALL " + SumsBetween("1899-12-31", "2023-12-31");
 }
 
+/// The bank account that has most lines: of each hundred some five are outstanding.
+std::string BusiestBankAccount(const std::string& company, const std::string& column) {
+    return ReadCell(company, "SELECT " + column +
+                                 " FROM GLDet INNER JOIN GLAcct ON InGLAcctId = ExAcctId WHERE "
+                                 "ChqAcct <> 0 GROUP BY ExAcctId ORDER BY COUNT(*) DESC LIMIT 1");
+}
+
+Options BusiestBankStatement(const std::string& company) {
+    return {"--account",        BusiestBankAccount(company, "GLAcct.GLAcctId"),
+            "--statement-date", "2026-10-31",
+            "--ending-balance", "0"};
+}
+
+std::string BankReconciliation(const std::string& company) {
+    return "SELECT GLDet.DetDate, GLDet.DetRef, GLDet.DetDesc, GLDet.ForeignAmnt, GLDet.DetAmnt, "
+           "GLDet.Source, GLDet.ExSrcKeyVal, GLAcct.ExCurrencyId, IIF(DetAmnt < 0, 3, 4) AS "
+           "TransactionType FROM GLDet INNER JOIN GLAcct ON GLDet.ExAcctId = GLAcct.InGLAcctId "
+           "WHERE GLDet.DetAmnt <> 0 AND (GLDet.Conciliated = 0 OR GLDet.Conciliated IS NULL) AND "
+           "GLDet.ExAcctId = " +
+           BusiestBankAccount(company, "ExAcctId") +
+           " AND GLDet.DetDate <= '2026-10-31' ORDER BY TransactionType, GLDet.DetDate, "
+           "GLDet.DetRef";
+}
+
 constexpr ReportCase kCases[] = {
     {"trial-balance-summary", NoOptions, SumsByAccount, true},
     {"trial-balance-detail", WholeYears, TrialBalanceDetail, true},
@@ -132,6 +156,7 @@ constexpr ReportCase kCases[] = {
     {"balance-sheet", AtYearEnd, BalanceSheet, true},
     {"comparative-income-statement", LastQuarter, ComparativeIncomeStatement, true},
     {"comparative-balance-sheet", AtYearEnd, ComparativeBalanceSheet, true},
+    {"bank-reconciliation", BusiestBankStatement, BankReconciliation},
     {"unrealized-exchange", NoOptions, UnrealizedExchange},
     {"unrealized-exchange-detail", BusiestAccountOptions, UnrealizedExchangeDetail},
     {"realized-exchange", NoOptions, RealizedExchange},
