@@ -5,11 +5,12 @@
 #include <vector>
 
 #include "host/company.h"
+#include "host/decimal.h"
 
 namespace varnel::company {
 
-/// Budgets from AcctBudget, read once. A budget period that the range cuts counts by its days, and
-/// each period's share is rounded once to four decimals.
+/// Budgets from AcctBudget, read once. A budget period that the range cuts counts by its days; the
+/// periods are added up exactly and their sum is rounded once, to the cent.
 class CompanyBudgets final : public BudgetService {
   public:
     explicit CompanyBudgets(CompanyDatabase& database) : database_(database) {}
@@ -27,7 +28,19 @@ class CompanyBudgets final : public BudgetService {
     };
     using Periods = std::unordered_map<std::int32_t, std::vector<Period>>;
     const Periods& All();
-    static Currency Share(const Period& period, Date from, Date to);
+
+    /// Of the parts of periods, as a fraction.
+    class ExactSum {
+      public:
+        /// Error 6 when the periods have no common divisor that is small enough.
+        void Add(const Period& period, std::int64_t days);
+        Currency ToCents() const;
+
+      private:
+        static constexpr std::int64_t kLargestDivisor = 1'000'000'000'000;
+        Int128 numerator_ = 0;  // Of ten-thousandths.
+        std::int64_t divisor_ = 1;
+    };
 
     CompanyDatabase& database_;
     std::optional<Periods> periods_;

@@ -102,21 +102,30 @@ bool dsrBalanceSheet::IsCreditType(std::int32_t account_type) const {
 
 std::vector<std::optional<Date>> dsrBalanceSheet::ClosingDates() { return {DateTo()}; }
 
+// What a comparison cannot be told of leaves the amounts of the closing date alone.
 Sides dsrBalanceSheet::AmountsOf(const StatementRow& row) {
-    Sides amounts, adjustments;
+    Sides amounts, gains;
     for (std::size_t side = 0; side < scopes_.size(); ++side) {
-        KnownSum amount = KnownSum::Unknown(), adjustment = KnownSum::Unknown();
-        if (const auto& scope = scopes_[side]) {
-            const Currency booked = StatementBalance(*row.account_id, *scope);
-            const Currency gain = ExchangeAdjustment(*row.account_id, *scope, booked);
-            amount = KnownSum(booked + gain);
-            adjustment = KnownSum(gain);
-        }
-        amounts.Put(side, amount);
-        adjustments.Put(side, adjustment);
+        const auto put = [&, side] { PutAmount(side, *row.account_id, amounts, gains); };
+        amounts.Put(side, KnownSum::Unknown());
+        gains.Put(side, KnownSum::Unknown());
+        if (side == 0)
+            Mark(), put();
+        else
+            Guard("AmountsOf", put);
     }
-    adjustment_.Add(adjustments);
+    adjustment_.Add(gains);
     return amounts;
+}
+
+void dsrBalanceSheet::PutAmount(std::size_t side, std::int32_t account_id, Sides& amounts,
+                                Sides& gains) {
+    const auto& scope = scopes_[side];
+    if (!scope) return;
+    const Currency booked = (Mark(), StatementBalance(account_id, *scope));
+    const Currency gain = (Mark(), ExchangeAdjustment(account_id, *scope, booked));
+    amounts.Put(side, KnownSum(booked + gain));
+    gains.Put(side, KnownSum(gain));
 }
 
 void dsrBalanceSheet::LoseAmounts() {
@@ -186,7 +195,7 @@ void dsrBalanceSheet::CloseSection(const Sides& total) {
         return lblAcctType.Text() == PlainText(App(), texts.caption);
     });
     if (section == std::end(kSections))
-        Raise(error_number::kOther, "Varnel.dsrBalanceSheet",
+        Raise(error_number::kOther, "Varnel." + std::string(ObjectName()),
               "The section \"" + lblAcctType.Text() + "\" is not one of a balance sheet");
     const bool first = section->type == kAssets;
     if (first) {
@@ -205,9 +214,11 @@ void dsrBalanceSheet::ReportFooter_Format() {
     lines_.closing.Clear();
     lblGTot.Clear();
     InitBalanceSheetAjust();
+    const bool out_of_balance = std::exchange(out_of_balance_, false);
+    const Sides total = std::exchange(liabilities_and_equity_, {});
     Mark(),
-        lblGTot.SetText(PlainText(App(), out_of_balance_ ? kOutOfBalance : kLiabilitiesAndEquity));
-    Mark(), Show(lines_.closing, liabilities_and_equity_);
+        lblGTot.SetText(PlainText(App(), out_of_balance ? kOutOfBalance : kLiabilitiesAndEquity));
+    Mark(), Show(lines_.closing, total);
 }
 
 std::string dsrBalanceSheet::GetInverseSegmentFilter() const {

@@ -48,6 +48,9 @@ class dsrBalanceSheet : public StatementReport {
 
   private:
     std::string BuildStatement();
+    /// Puts one side of an account's amounts, and what it gained in them; nothing where the date is
+    /// not known.
+    void PutAmount(std::size_t side, std::int32_t account_id, Sides& amounts, Sides& gains);
     Currency ExchangeAdjustment(std::int32_t account_id, const BalanceScope& scope,
                                 Currency booked);
     void CloseSection(const Sides& total);

@@ -92,6 +92,7 @@ void dsrBalanceSheetAjust::Place(Control& control) {
 
 void dsrBalanceSheetAjust::ReportHeader_Format() {
     SetControlsPosition();
+    At("lblAcctType").Clear();  // The text it was designed with is in one language.
     Mark(), At("lblAcctType").SetText(PlainText(App(), kCaptionText));
 }
 

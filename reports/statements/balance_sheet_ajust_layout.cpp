@@ -17,6 +17,7 @@ constexpr Twips kFooterHeight = kClosingEndTop + kRuleGap + 60;
 
 SectionLayout Caption() {
     auto section = StatementSection(kDescription);
+    section.controls.front().text = "TRANSACTIONS NON AFFECTÉES AUX SEGMENTS";
     return {.name = "ReportHeader",
             .kind = SectionKind::kReportHeader,
             .height = section.height,

@@ -109,17 +109,16 @@ void dsrComparativeIncomeStatement::AlignPageHeaderControls() {
 }
 
 // The budget has no lines to go to.
-std::string dsrComparativeIncomeStatement::ComparisonKey(const std::string& key) const {
-    return is_budget_ ? std::string() : dsrIncomeStatement::ComparisonKey(key);
+std::string dsrComparativeIncomeStatement::ComparisonKey(std::int32_t account_id) const {
+    return is_budget_ ? std::string() : dsrIncomeStatement::ComparisonKey(account_id);
 }
 
+// A comparison that cannot be worked out leaves the amounts of the period alone.
 Sides dsrComparativeIncomeStatement::AmountsOf(const StatementRow& row) {
     Sides amounts = dsrIncomeStatement::AmountsOf(row);
-    KnownSum comparison;
+    KnownSum comparison = KnownSum::Unknown();
     if (comparison_)
-        comparison.Add(Comparison(*row.account_id));
-    else
-        comparison.Lose();
+        Guard("AmountsOf", [&] { Mark(), comparison = KnownSum(Comparison(*row.account_id)); });
     amounts.Put(kComparisonSide, comparison);
     return amounts;
 }

@@ -26,7 +26,7 @@ class dsrComparativeIncomeStatement final : public dsrIncomeStatement {
 
   protected:
     Sides AmountsOf(const StatementRow& row) override;
-    std::string ComparisonKey(const std::string& key) const override;
+    std::string ComparisonKey(std::int32_t account_id) const override;
     void SetPeriods() override;
     void SetPageHeader() override;
 

@@ -108,9 +108,9 @@ void StatementReport::Show(StatementLine& line, const Sides& sides, VarianceSens
 // Earnings are more than the lines of their account.
 void StatementReport::ShowKey() {
     if (!row_.account_id || earnings_.Hold(*row_.account_id)) return;
-    std::string key = std::to_string(*row_.account_id);
-    if (IsUnrealized(*row_.account_id)) key.insert(0, "GLUnrealized|");
-    line_.SetTags(key, ComparisonKey(key));
+    const std::int32_t id = *row_.account_id;
+    line_.SetTags((IsUnrealized(id) ? "GLUnrealized|" : "") + std::to_string(id),
+                  ComparisonKey(id));
 }
 
 // With the sign they print with. Nothing when the account is left out.

@@ -51,8 +51,10 @@ class StatementReport : public framework::ReportBase,
     virtual void LoseAmounts() { levels_.Lose(); }
     /// Accounts of credit types print with the opposite sign.
     virtual bool IsCreditType(std::int32_t account_type) const = 0;
-    /// The drill-down key of what an account is compared with, from the account's own.
-    virtual std::string ComparisonKey(const std::string& key) const { return key + "|LastYear"; }
+    /// The drill-down key of what an account is compared with.
+    virtual std::string ComparisonKey(std::int32_t account_id) const {
+        return std::to_string(account_id) + "|LastYear";
+    }
 
     /// Hands the rows of the query to the run and begins its totals.
     void StartRows(const std::string& statement);

@@ -152,9 +152,12 @@ TEST_P(EveryHost, ClassesAccountTypes) {
 TEST_P(EveryHost, ProratesABudgetThatTheRangeCuts) {
     EXPECT_EQ(Budget(50, "2025-01-01", "2025-02-28"), "410.0000");
     EXPECT_EQ(Budget(50, "2025-01-16", "2025-02-14"), "210.0000") << "160 + 50";
-    EXPECT_EQ(Budget(50, "2025-02-01", "2025-02-03"), "10.7143") << "10.714285…";
-    EXPECT_EQ(Budget(40, "2025-02-01", "2025-02-03"), "-10.7143");
-    EXPECT_EQ(Budget(40, "2025-06-01", "2025-06-01"), "-0.0001") << "-0.00005, away from zero";
+    EXPECT_EQ(Budget(50, "2025-02-01", "2025-02-03"), "10.7100") << "10.714285…";
+    EXPECT_EQ(Budget(40, "2025-02-01", "2025-02-03"), "-10.7100");
+    EXPECT_EQ(Budget(50, "2025-01-31", "2025-02-01"), "13.5700") << "10 + 3.571428…";
+    EXPECT_EQ(Budget(40, "2025-06-01", "2025-06-01"), "-0.0100") << "-0.005, away from zero";
+    EXPECT_EQ(Budget(10, "2025-02-01", "2025-02-01"), "0.0000") << "0.0024666… twice";
+    EXPECT_EQ(Budget(10, "2025-01-30", "2025-02-02"), "0.0100") << "0.0074 twice";
     EXPECT_EQ(Budget(50, "2025-03-01", "2025-03-31"), "0.0000") << "outside";
     EXPECT_EQ(Budget(99, "2025-01-01", "2025-12-31"), "0.0000") << "no budget";
 }

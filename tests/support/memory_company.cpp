@@ -144,16 +144,18 @@ void MemoryCompany::BeginRun() { calls_.Note("BeginRun"); }
 
 Currency MemoryCompany::GetAcctBudgetRange(std::int32_t account_id, Date from, Date to) {
     calls_.Note("GetAcctBudgetRange");
-    Currency total;
+    constexpr std::int64_t kCent = Currency::kScale / 100;
+    Int128 total = 0, divisor = 1;  // A fraction; the few budgets of a test fit.
     for (const auto& budget : budgets) {
         if (budget.account_id != account_id) continue;
         const auto days = std::min(to, budget.to) - std::max(from, budget.from) + 1;
         if (days <= 0) continue;
-        const Int128 share = decimal::DivideRounded(Int128{budget.amount.Scaled()} * days,
-                                                    budget.to - budget.from + 1);
-        total += Currency::FromScaled(static_cast<std::int64_t>(share));
+        const auto all_days = budget.to - budget.from + 1;
+        total = total * all_days + Int128{budget.amount.Scaled()} * days * divisor;
+        divisor *= all_days;
     }
-    return total;
+    const Int128 cents = decimal::DivideRounded(total, divisor * kCent);
+    return Currency::FromScaled(static_cast<std::int64_t>(cents * kCent));
 }
 
 std::int32_t MemoryCompany::Class(std::int32_t account_type) {
