@@ -44,6 +44,7 @@ std::string CsvRecords::ReadQuoted() {
     while (true) {
         if (Peek() == kEnd) Refuse("a quoted value begins and never ends; add the closing quote");
         const char character = Take();
+        if (character == '\r' && Peek() == '\n') continue;  // A text has line feeds alone.
         if (character != '"') {
             value += character;
         } else if (Peek() == '"') {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cli/errors.h"
 #include "cli/names_by_id.h"
 #include "cli/reconciliation_rows.h"
 #include "framework/query_runner.h"
@@ -17,6 +18,14 @@ constexpr const char* kStatement =
     "SELECT ExAcctId, \"BankConcilDate\" FROM BankConcilHistory WHERE \"ID\" = ?";
 constexpr const char* kNumber = "SELECT GLAcctId FROM GLAcct WHERE InGLAcctId = ?";
 
+constexpr const char* kNumberProperty = "ConcilAcctId";
+constexpr const char* kDepositsProperty = "DepAmntCirc";
+constexpr const char* kWithdrawalsProperty = "ChqAmntCirc";
+constexpr const char* kLedgerProperty = "GLBalAmnt";
+constexpr const char* kDifferenceProperty = "DifAmnt";
+constexpr const char* kGiven[] = {kNumberProperty, kDepositsProperty, kWithdrawalsProperty,
+                                  kLedgerProperty, kDifferenceProperty};
+
 struct Account {
     std::int32_t id;
     bool foreign;  // In a currency of its own.
@@ -30,7 +39,7 @@ void PutStatement(Object& report, const ReportEntry& entry, Application& applica
     std::string text;
     if (!number->AtEnd()) number->Current().AppendText({0}, text);
     report.Put(entry.account_property, account);
-    report.Put("ConcilAcctId", text);
+    report.Put(kNumberProperty, text);
     report.Put(entry.statement_date_property, date);
 }
 
@@ -88,13 +97,22 @@ void PutInProgress(Object& report, const ReportEntry& entry, company::CompanyHos
     const Currency ending = settings.statement.ending_balance;
     PutStatement(report, entry, host, account.id, settings.statement.date);
     report.Put(entry.ending_balance_property, ending);
-    report.Put("DepAmntCirc", deposits);
-    report.Put("ChqAmntCirc", withdrawals);
-    report.Put("GLBalAmnt", balance);
-    report.Put("DifAmnt", balance - (ending + deposits - withdrawals));
+    report.Put(kDepositsProperty, deposits);
+    report.Put(kWithdrawalsProperty, withdrawals);
+    report.Put(kLedgerProperty, balance);
+    report.Put(kDifferenceProperty, balance - (ending + deposits - withdrawals));
 }
 
 }  // namespace
+
+void RefuseFigures(const ReportEntry& entry, const RunSettings& settings) {
+    if (entry.statement_date_property.empty()) return;
+    for (const auto& property : settings.properties)
+        for (const char* given : kGiven)
+            if (SameName(property.name, given))
+                throw UsageError("--property " + property.name +
+                                 ": leave it out; it follows from the account and its lines");
+}
 
 void PutReconciliation(IReport& report, const ReportEntry& entry, company::CompanyHost& host,
                        const RunRequest& request, const RunSettings& settings) {

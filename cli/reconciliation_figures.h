@@ -8,6 +8,9 @@
 
 namespace varnel::cli {
 
+/// A UsageError when a property is set that a bank reconciliation is given by the command.
+void RefuseFigures(const ReportEntry& entry, const RunSettings& settings);
+
 /// Gives a bank reconciliation what it is about and its amounts; nothing to other reports. The
 /// report has its application and, unless it is a saved one, its account.
 ///

@@ -87,7 +87,14 @@ Variant ReadValue(const CsvRecords& record, const RowColumn& column, const std::
     }
 }
 
+void RequireReadable(const std::istream& input, const std::string& name) {
+    if (!input.bad()) return;
+    throw UsageError("--rows: " + name + " cannot be read: " + std::strerror(errno));
+}
+
 std::shared_ptr<Recordset> ReadRows(std::istream& input, const std::string& name) {
+    input.peek();
+    RequireReadable(input, name);
     CsvRecords records(input, name);
     if (!records.Next())
         throw UsageError(name + " is empty; its first line must name " + ColumnNames());
@@ -98,6 +105,7 @@ std::shared_ptr<Recordset> ReadRows(std::istream& input, const std::string& name
         for (std::size_t i = 0; i < kColumns.size(); ++i)
             row.push_back(ReadValue(records, kColumns[i], records.Values()[places[i]]));
     }
+    RequireReadable(input, name);
     std::vector<std::string> names;
     for (const auto& column : kColumns) names.emplace_back(column.name);
     return std::make_shared<drivers::MemoryRecordset>(std::move(names), rows);
@@ -108,9 +116,8 @@ std::shared_ptr<Recordset> ReadRows(std::istream& input, const std::string& name
 std::shared_ptr<Recordset> ReadReconciliationRows(const std::string& file) {
     if (file == "-") return ReadRows(std::cin, "standard input");
     std::ifstream input(file);
-    input.peek();
-    if (input.bad() || !input.is_open())
-        throw UsageError("--rows: " + file + " cannot be read: " + std::strerror(errno));
+    if (!input.is_open()) input.setstate(std::ios::badbit);
+    RequireReadable(input, file);
     return ReadRows(input, file);
 }
 

@@ -136,6 +136,7 @@ int RunReport(const RunRequest& request, Console& console) {
     const OutputFormat& format = ChooseFormat(request);
     RefuseOtherOptions(entry, request);
     RequireSubject(entry, request);
+    RefuseFigures(entry, settings);
     CheckFiles(request, format);
     CheckTerminal(request);
     if (IsShownOnTerminal(request)) console.SwitchProgressOff();

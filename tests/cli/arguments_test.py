@@ -2,6 +2,8 @@ from varnel import JOURNAL, VarnelTest, main
 
 USAGE = 2
 DETAIL = ["run", "unrealized-exchange-detail", "--company", "shop.db"]
+SAVED = ["run", "bank-reconciliation", "--company", "shop.db"]
+STATEMENT = [*SAVED, "--account", "1020", "--statement-date", "2026-09-30"]
 
 REFUSED = [
     ([], "say which command"),
@@ -61,6 +63,19 @@ REFUSED = [
     ([*DETAIL, "--account", "1030", "--currency", "cad"],
      "--currency: cad is the company's own currency; name a foreign one"),
     ([*DETAIL, "--account", "1030", "--property", "ExCurrencyId=2"], "use --currency instead"),
+    ([*SAVED, "--history", "9"], "no saved reconciliation 9; there are:\n  1  1020 - 2026-05-31\n"),
+    ([*SAVED, "--history", "three"], '--history: "three" is no id; write one number'),
+    ([*SAVED, "--history", "3", "--account", "1020"], "--history: leave out --account"),
+    ([*SAVED, "--history", "3", "--ending-balance", "1"], "--history: leave out --ending-balance"),
+    ([*SAVED, "--history", "3", "--to", "2026-09-30"], "bank-reconciliation takes no --to"),
+    ([*SAVED, "--history", "3", "--filter", "1=1"], "bank-reconciliation takes no --filter"),
+    ([*SAVED, "--history", "3", "--property", "difamnt=1"], "--property difamnt: leave it out"),
+    ([*SAVED, "--history", "3", "--property", "ConcDate=1"], "use --statement-date instead"),
+    (SAVED, "add --account NUMBER, or --history ID for a saved reconciliation"),
+    ([*SAVED, "--account", "1020"], "is about one bank statement: add --statement-date DATE"),
+    ([*STATEMENT, "--ending-balance", "12,50"], '--ending-balance: "12,50" is not an amount'),
+    ([*STATEMENT, "--rows", "x.csv"], "bank-reconciliation takes no --rows"),
+    ([*JOURNAL, "--history", "3"], "general-journal takes no --history"),
     ([*JOURNAL, "--lang", "de"], "there is no language de: use en-CA or fr-CA"),
     ([*JOURNAL, "--paper", "a5"], "there is no paper a5: use letter or a4"),
     ([*JOURNAL, "-O", "docx"], "there is no format docx: use txt, pdf, csv or jsonl"),

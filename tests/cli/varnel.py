@@ -31,8 +31,9 @@ class VarnelTest(unittest.TestCase):
         environment = {**os.environ, "LC_ALL": "C.UTF-8", **options.pop("env", {})}
         options.setdefault("stdout", subprocess.PIPE)
         options.setdefault("stderr", subprocess.PIPE)
+        options.setdefault("stdin", subprocess.DEVNULL)
         return subprocess.Popen([PROGRAM, *arguments], cwd=cls.folder, env=environment,
-                                stdin=subprocess.DEVNULL, **options)
+                                **options)
 
     def run_varnel(self, *arguments, **options):
         """Exit code, bytes of standard output, text of standard error."""
