@@ -7,8 +7,8 @@
 
 namespace varnel::cli {
 
-/// A UsageError when the request does not name what the report is about: an account, a currency,
-/// projects, a bank statement. Another one when it names a saved reconciliation and more, or sets by
+/// A UsageError when the request does not name what the report is about (an account, a currency,
+/// projects, a bank statement), when it names a saved reconciliation and more, or when it sets by
 /// --property what the report has an option for.
 void RequireSubject(const ReportEntry& entry, const RunRequest& request);
 
