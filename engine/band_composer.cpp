@@ -94,7 +94,8 @@ void BandComposer::Measure(const Section& section) {
 
 Extent BandComposer::Measured(const Control& control, std::size_t index) {
     const Box& box = control.Place();
-    Extent extent{.box = box, .height = box.height};
+    Extent extent{
+        .box = box, .height = box.height, .follows_column = control.Design().follows_column};
     if (control.Design().kind == ControlKind::kSubReport) {
         extent.gives_way = true;
         extent.height = RunSubReport(control, sub_reports_[index]);

@@ -11,7 +11,11 @@ namespace {
 
 bool CameOutAsDesigned(const Extent& extent) { return extent.height == extent.box.height; }
 
-bool IsAbove(const Extent& a, const Extent& b) { return a.box.Bottom() <= b.box.top; }
+bool IsAbove(const Extent& a, const Extent& b) {
+    if (b.follows_column && (a.box.Right() <= b.box.left || b.box.Right() <= a.box.left))
+        return false;
+    return a.box.Bottom() <= b.box.top;
+}
 
 }  // namespace
 

@@ -70,6 +70,11 @@ ControlLayout TotalRule(std::string_view name, const ColumnPlace& place, Twips t
             .stretch = place.stretch};
 }
 
+ControlLayout Closing(ControlLayout rule) {
+    rule.follows_column = true;
+    return rule;
+}
+
 ControlLayout Growing(ControlLayout text) {
     text.can_grow = true;
     return text;

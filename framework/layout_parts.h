@@ -56,6 +56,8 @@ ControlLayout TotalRule(std::string_view name, const ColumnPlace& place, Twips t
 ControlLayout Growing(ControlLayout text);
 ControlLayout Bound(ControlLayout text, std::string_view field);
 ControlLayout Hidden(ControlLayout control);
+/// A rule that stays with the figure over it when a text beside that takes further lines.
+ControlLayout Closing(ControlLayout rule);
 
 /// A text that is for data exports alone: it takes no place and is not printed.
 ControlLayout ExportedText(std::string_view name, std::string_view column,

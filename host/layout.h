@@ -63,6 +63,9 @@ struct ControlLayout {
     bool visible = true;
     /// Text that does not fit its width goes on in further lines; what stands below moves down.
     bool can_grow = false;
+    /// Moves down with what stands above it in its own column alone, not with what grows beside
+    /// that: a rule under a figure.
+    bool follows_column = false;
     Stretch stretch = Stretch::kNone;
 };
 

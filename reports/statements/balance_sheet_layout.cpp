@@ -31,11 +31,12 @@ SectionLayout SectionTotal() {
     return {.name = "gfAcctType",
             .kind = SectionKind::kGroupFooter,
             .height = kSectionTotalHeight,
-            .controls = {TotalRule("linTypeTotal", kAmount, kSectionRuleTop),
-                         SectionCaption("lblTypeCap", kDescription, kSectionTotalTop),
-                         ColumnText("txtTypeTotal", kAmount, kSectionTotalTop, kBodyBold),
-                         Hidden(TotalRule("linTypeEnd", kAmount, kSectionEndTop)),
-                         Hidden(TotalRule("linTypeEnd2", kAmount, kSectionEndTop + kRuleGap))}};
+            .controls = {
+                TotalRule("linTypeTotal", kAmount, kSectionRuleTop),
+                SectionCaption("lblTypeCap", kDescription, kSectionTotalTop),
+                ColumnText("txtTypeTotal", kAmount, kSectionTotalTop, kBodyBold),
+                Hidden(Closing(TotalRule("linTypeEnd", kAmount, kSectionEndTop))),
+                Hidden(Closing(TotalRule("linTypeEnd2", kAmount, kSectionEndTop + kRuleGap)))}};
 }
 
 SectionLayout Total() {
@@ -45,8 +46,8 @@ SectionLayout Total() {
             .controls = {TotalRule("linTotalPassCap", kAmount, kTotalTop - 30),
                          SectionCaption("lblGTot", kDescription, kTotalTop),
                          ColumnText("txtTotalPassCap", kAmount, kTotalTop, kBodyBold),
-                         TotalRule("linFinal", kAmount, kTotalEndTop),
-                         TotalRule("linFinal2", kAmount, kTotalEndTop + kRuleGap),
+                         Closing(TotalRule("linFinal", kAmount, kTotalEndTop)),
+                         Closing(TotalRule("linFinal2", kAmount, kTotalEndTop + kRuleGap)),
                          AdjustedSheet(kTotalHeight)}};
 }
 

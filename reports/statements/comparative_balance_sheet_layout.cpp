@@ -58,12 +58,12 @@ SectionLayout SectionTotal() {
                          ColumnText("txtTypeTotalComp", kComparison, total, kBodyBold),
                          ColumnText("txtTypeTotalDoll", kVariance, total, kBodyBold),
                          ColumnText("lblTypeTotalDiff", kPercent, total, kBodyBold),
-                         Hidden(TotalRule("linTypeEnd", kAmount, end)),
-                         Hidden(TotalRule("linTypeEndComp", kComparison, end)),
-                         Hidden(TotalRule("linTypeEndDoll", kVariance, end)),
-                         Hidden(TotalRule("linTypeEnd2", kAmount, end2)),
-                         Hidden(TotalRule("linTypeEndComp2", kComparison, end2)),
-                         Hidden(TotalRule("linTypeEndDoll2", kVariance, end2))}};
+                         Hidden(Closing(TotalRule("linTypeEnd", kAmount, end))),
+                         Hidden(Closing(TotalRule("linTypeEndComp", kComparison, end))),
+                         Hidden(Closing(TotalRule("linTypeEndDoll", kVariance, end))),
+                         Hidden(Closing(TotalRule("linTypeEnd2", kAmount, end2))),
+                         Hidden(Closing(TotalRule("linTypeEndComp2", kComparison, end2))),
+                         Hidden(Closing(TotalRule("linTypeEndDoll2", kVariance, end2)))}};
 }
 
 SectionLayout Total() {
@@ -71,19 +71,21 @@ SectionLayout Total() {
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
             .height = kTotalHeight,
-            .controls = {
-                TotalRule("linTotalPassCap", kAmount, kTotalTop - 30),
-                TotalRule("linTotalPassCapComp", kComparison, kTotalTop - 30),
-                TotalRule("linTotalPassCapDoll", kVariance, kTotalTop - 30),
-                SectionCaption("lblGTot", kDescription, kTotalTop),
-                ColumnText("txtTotalPassCap", kAmount, kTotalTop, kBodyBold),
-                ColumnText("txtTotalPassCapComp", kComparison, kTotalTop, kBodyBold),
-                ColumnText("txtTotalPassCapDoll", kVariance, kTotalTop, kBodyBold),
-                ColumnText("lblTotalPassCapDiff", kPercent, kTotalTop, kBodyBold),
-                TotalRule("linFinal", kAmount, end), TotalRule("linFinalComp", kComparison, end),
-                TotalRule("linFinalDoll", kVariance, end), TotalRule("linFinal2", kAmount, end2),
-                TotalRule("linFinalComp2", kComparison, end2),
-                TotalRule("linFinalDoll2", kVariance, end2), AdjustedSheet(kTotalHeight)}};
+            .controls = {TotalRule("linTotalPassCap", kAmount, kTotalTop - 30),
+                         TotalRule("linTotalPassCapComp", kComparison, kTotalTop - 30),
+                         TotalRule("linTotalPassCapDoll", kVariance, kTotalTop - 30),
+                         SectionCaption("lblGTot", kDescription, kTotalTop),
+                         ColumnText("txtTotalPassCap", kAmount, kTotalTop, kBodyBold),
+                         ColumnText("txtTotalPassCapComp", kComparison, kTotalTop, kBodyBold),
+                         ColumnText("txtTotalPassCapDoll", kVariance, kTotalTop, kBodyBold),
+                         ColumnText("lblTotalPassCapDiff", kPercent, kTotalTop, kBodyBold),
+                         Closing(TotalRule("linFinal", kAmount, end)),
+                         Closing(TotalRule("linFinalComp", kComparison, end)),
+                         Closing(TotalRule("linFinalDoll", kVariance, end)),
+                         Closing(TotalRule("linFinal2", kAmount, end2)),
+                         Closing(TotalRule("linFinalComp2", kComparison, end2)),
+                         Closing(TotalRule("linFinalDoll2", kVariance, end2)),
+                         AdjustedSheet(kTotalHeight)}};
 }
 
 }  // namespace

@@ -54,14 +54,14 @@ SectionLayout SectionTotal() {
                          ColumnText("txtTotalPassCapComp", kComparison, result, kBodyBold),
                          ColumnText("txtTotalPassCapDoll", kVariance, result, kBodyBold),
                          ColumnText("lblTotalPassCapDiff", kPercent, result, kBodyBold),
-                         TotalRule("linFinal", kPeriod, end),
-                         TotalRule("linFinalCul", kCumulative, end),
-                         TotalRule("linFinalComp", kComparison, end),
-                         TotalRule("linFinalDoll", kVariance, end),
-                         TotalRule("linFinal2", kPeriod, end2),
-                         TotalRule("linFinalCul2", kCumulative, end2),
-                         TotalRule("linFinalComp2", kComparison, end2),
-                         TotalRule("linFinalDoll2", kVariance, end2)}};
+                         Closing(TotalRule("linFinal", kPeriod, end)),
+                         Closing(TotalRule("linFinalCul", kCumulative, end)),
+                         Closing(TotalRule("linFinalComp", kComparison, end)),
+                         Closing(TotalRule("linFinalDoll", kVariance, end)),
+                         Closing(TotalRule("linFinal2", kPeriod, end2)),
+                         Closing(TotalRule("linFinalCul2", kCumulative, end2)),
+                         Closing(TotalRule("linFinalComp2", kComparison, end2)),
+                         Closing(TotalRule("linFinalDoll2", kVariance, end2))}};
 }
 
 SectionLayout Rows() {

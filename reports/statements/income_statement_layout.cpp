@@ -15,23 +15,24 @@ constexpr auto kPeriod = ColumnPlace::Amount(6'900, 1'900);
 constexpr auto kCumulative = ColumnPlace::Amount(8'900, 1'900);
 
 SectionLayout SectionTotal() {
-    return {.name = "gfAcctType",
-            .kind = SectionKind::kGroupFooter,
-            .height = kResultHeight,
-            .controls = {TotalRule("linTypeTotal", kPeriod, kSectionRuleTop),
-                         TotalRule("linTypeTotalCul", kCumulative, kSectionRuleTop),
-                         SectionCaption("lblTypeCap", kDescription, kSectionTotalTop),
-                         ColumnText("txtTypeTotal", kPeriod, kSectionTotalTop, kBodyBold),
-                         ColumnText("txtTypeTotalCul", kCumulative, kSectionTotalTop, kBodyBold),
-                         TotalRule("linResult", kPeriod, kResultRuleTop),
-                         TotalRule("linResultCul", kCumulative, kResultRuleTop),
-                         SectionCaption("lblGTot", kDescription, kResultTop),
-                         ColumnText("txtTotalPassCap", kPeriod, kResultTop, kBodyBold),
-                         ColumnText("txtTotalPassCapCul", kCumulative, kResultTop, kBodyBold),
-                         TotalRule("linFinal", kPeriod, kResultEndTop),
-                         TotalRule("linFinalCul", kCumulative, kResultEndTop),
-                         TotalRule("linFinal2", kPeriod, kResultEndTop + kRuleGap),
-                         TotalRule("linFinalCul2", kCumulative, kResultEndTop + kRuleGap)}};
+    return {
+        .name = "gfAcctType",
+        .kind = SectionKind::kGroupFooter,
+        .height = kResultHeight,
+        .controls = {TotalRule("linTypeTotal", kPeriod, kSectionRuleTop),
+                     TotalRule("linTypeTotalCul", kCumulative, kSectionRuleTop),
+                     SectionCaption("lblTypeCap", kDescription, kSectionTotalTop),
+                     ColumnText("txtTypeTotal", kPeriod, kSectionTotalTop, kBodyBold),
+                     ColumnText("txtTypeTotalCul", kCumulative, kSectionTotalTop, kBodyBold),
+                     TotalRule("linResult", kPeriod, kResultRuleTop),
+                     TotalRule("linResultCul", kCumulative, kResultRuleTop),
+                     SectionCaption("lblGTot", kDescription, kResultTop),
+                     ColumnText("txtTotalPassCap", kPeriod, kResultTop, kBodyBold),
+                     ColumnText("txtTotalPassCapCul", kCumulative, kResultTop, kBodyBold),
+                     Closing(TotalRule("linFinal", kPeriod, kResultEndTop)),
+                     Closing(TotalRule("linFinalCul", kCumulative, kResultEndTop)),
+                     Closing(TotalRule("linFinal2", kPeriod, kResultEndTop + kRuleGap)),
+                     Closing(TotalRule("linFinalCul2", kCumulative, kResultEndTop + kRuleGap))}};
 }
 
 }  // namespace

@@ -9,7 +9,6 @@ namespace {
 constexpr Twips kSectionHeaderHeight = 570;
 constexpr Twips kSectionCaptionTop = 240;
 constexpr Twips kSectionCaptionHeight = 290;
-constexpr Twips kTotalCaptionHeight = 300;
 constexpr Twips kRowRuleTop = 4;
 constexpr Twips kRowTop = 20;
 constexpr TextStyle kSection = {.size = 190, .bold = true, .ink = Ink::kAccent};
@@ -50,7 +49,6 @@ ControlLayout RowRule(std::string_view name, const ColumnPlace& place) {
 ControlLayout SectionCaption(std::string_view name, const ColumnPlace& place, Twips top) {
     auto caption = ColumnText(name, place, top, kBodyBold);
     caption.kind = ControlKind::kLabel;
-    caption.box.height = kTotalCaptionHeight;
     return Growing(caption);
 }
 

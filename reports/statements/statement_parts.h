@@ -29,8 +29,6 @@ inline constexpr Twips kResultRuleTop = 470;
 inline constexpr Twips kResultTop = 505;
 inline constexpr Twips kResultEndTop = 745;
 
-/// What a total is called. It takes the room of the rules that close the total too, which then stay
-/// with the figures when it needs more lines.
 ControlLayout SectionCaption(std::string_view name, const framework::ColumnPlace& place, Twips top);
 
 /// The second of two rules that close a final amount lies this far under the first.

@@ -53,6 +53,21 @@ TEST(Growth, NothingMovesUpPastWhatStandsBesideAnAbsentSubReport) {
     EXPECT_EQ(controls[2].shift, 0);
 }
 
+TEST(Growth, ARuleUnderAFigureMovesWithItAndNotWithATextBesideIt) {
+    const auto rule = [](Twips top) {
+        return Extent{.box = {200, top, 100, 10}, .height = 10, .follows_column = true};
+    };
+    const auto figure = [](Twips top) {
+        return Extent{.box = {200, top, 100, 100}, .height = 100};
+    };
+    std::vector<Extent> controls{At(100, 100, 200), figure(100), rule(210),
+                                 At(300, 100, 250), figure(300), rule(410)};
+    EXPECT_EQ(Growth().Settle(controls, kSection), 850);
+    EXPECT_EQ(controls[2].shift, 0);
+    EXPECT_EQ(controls[4].shift, 100);
+    EXPECT_EQ(controls[5].shift, 100);
+}
+
 TEST(Growth, TheSectionHoldsWhatGrewOverItsEnd) {
     std::vector<Extent> controls{At(550, 100, 400)};
     EXPECT_EQ(Growth().Settle(controls, kSection), 950);
