@@ -52,16 +52,6 @@ TEST(CurrentReconciliationTest, KeepsACopyOfTheScreensRows) {
     EXPECT_TRUE(run.host->database.Commands().empty());
 }
 
-TEST(CurrentReconciliationTest, TheScreensRowsAreNotMovedByARun) {
-    BankRun run = CurrentRun();
-    run.items = {{3, Money("-1")}, {4, Money("2")}};
-    const auto screen = Screen(run);
-    run.Properties().Put("ConcilDataSet", ObjectRef(screen));
-    screen->MoveNext();
-    RunAsItIs(run);
-    EXPECT_EQ(screen->Current().Text(screen->GetColumns().At("DetRef")), "R2");
-}
-
 TEST(CurrentReconciliationTest, GroupsComeInOrderWhateverTheOrderOfTheScreen) {
     BankRun run = CurrentRun();
     run.items = {{4, Money("40")}, {1, Money("-10")}, {3, Money("-30")},

@@ -97,19 +97,17 @@ TEST_P(ReconciliationTest, TheSummaryShowsTheFiguresThatTheHostSetAndTheAdjusted
     EXPECT_EQ(line("lblDif", "txtDif"), "30023|-59.25");
 }
 
-TEST_P(ReconciliationTest, TheHeaderShowsTheAccountAndTheDateAsTheHostSetThem) {
+TEST_P(ReconciliationTest, TheHeaderShowsTitleAccountAndDateAsTheHostSetThem) {
+    EXPECT_EQ(run.report->IReport_ReportTitle(), GetParam() ? "30009" : "30008");
+    EXPECT_EQ(run.report->IReport_DateDisplayOptions(), DateDisplay::kNone);
     run.Properties().Put("concdate", Day("2025-02-28"));
-    EXPECT_THAT(Shown(run(), "PageHeader",
-                      {"lblConcilAcct", "txtConcilAcctId", "lblConcDate", "txtConcDate"}),
-                ElementsAre("30025|1010-00|30024|2025-02-28"));
+    EXPECT_THAT(
+        Shown(run(), "PageHeader",
+              {"hdrTitle", "lblConcilAcct", "txtConcilAcctId", "lblConcDate", "txtConcDate"}),
+        ElementsAre(run.report->IReport_ReportTitle() + "|30025|1010-00|30024|2025-02-28"));
     EXPECT_EQ(run.Properties().Get("ConcilAcctId").ToText(), "1010-00");
     EXPECT_EQ(run.Properties().Get("ExConcilAcctId").ToInteger32(), test::kBank);
     EXPECT_EQ(run.Properties().Get("ConcDate").ToDate(), Date::ParseIso("2025-02-28"));
-}
-
-TEST_P(ReconciliationTest, HasATitleAndAsksForNoDates) {
-    EXPECT_EQ(run.report->IReport_ReportTitle(), GetParam() ? "30009" : "30008");
-    EXPECT_EQ(run.report->IReport_DateDisplayOptions(), DateDisplay::kNone);
 }
 
 TEST_P(ReconciliationTest, ACustomFilterTakesNothingAway) {
@@ -139,18 +137,6 @@ TEST_P(ReconciliationTest, AnUnknownAccountIsToldOnceAndNoAmountIsInTheCurrencyO
     EXPECT_THAT(bands.Texts("gfTransactionType", "txtGroupTotal"), ElementsAre("", ""));
     EXPECT_THAT(Shown(bands, "ReportFooter", {"txtEndBal", "txtAdjustedBal"}), ElementsAre("|"));
     told = 1;
-}
-
-TEST_P(ReconciliationTest, TheCloseBoxOfItsDialogLeavesTheOption) {
-    run.items = {{1, Money("-1")}, {3, Money("-2")}};
-    run.IncludeReconciled();
-    run.host->use_dialog = [](Form& form) {
-        EXPECT_TRUE(form.CheckBoxes()[0]->checked);
-        form.CheckBoxes()[0]->checked = false;
-        form.CloseBox();
-    };
-    dynamic_cast<IReportConfig&>(*run.report).IReportConfig_ShowConfigurationScreen();
-    EXPECT_THAT(run().Texts("Detail", "txtAmount"), ElementsAre("1.00", "2.00"));
 }
 
 }  // namespace
