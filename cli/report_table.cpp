@@ -57,6 +57,7 @@ constexpr ReportEntry kReports[] = {
      .method = "ComparativeIncomeStatementBudget",
      .class_name = "dsrComparativeIncomeStatement",
      .arguments = None,
+     .title_text = 30005,
      .cumulative_from_property = "CumulativeDateFrom",
      .cumulative_to_property = "CumulativeDateTo"},
     {"comparative-balance-sheet", "ComparativeBalanceSheet", "dsrComparativeBalanceSheet", None},
@@ -133,6 +134,7 @@ std::shared_ptr<IReport> SampleReport(const ReportEntry& entry) {
 }
 
 std::int16_t TitleText(const ReportEntry& entry) {
+    if (entry.title_text != 0) return entry.title_text;
     const auto* report = InCatalogue(entry);
     return report == nullptr ? std::int16_t{0} : report->title_text;
 }

@@ -19,6 +19,8 @@ struct ReportEntry {
     std::string_view class_name;
     /// What the factory method takes.
     std::vector<Variant> (*arguments)(const RunSettings& settings, Application& application);
+    /// The number of its title when that is not its class's; 0 is none.
+    std::int16_t title_text = 0;
     /// Properties that take the internal id of the one account and the one currency that the report
     /// is about; empty for reports that are about all.
     std::string_view account_property = {};

@@ -16,6 +16,7 @@ class Reports(VarnelTest):
     def test_titles_come_in_the_language_asked_for(self):
         _, output, _ = self.run_varnel("reports", "--lang", "fr-CA")
         self.assertIn("Journal général", output.decode())
+        self.assertIn("État des résultats comparatif - budget", output.decode())
 
     def test_every_listed_report_runs(self):
         _, output, _ = self.run_varnel("reports")
