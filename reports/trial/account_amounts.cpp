@@ -4,7 +4,7 @@
 
 namespace varnel::reports {
 
-AccountAmounts::AccountAmounts(Company& company, IExchangeRates& rates,
+AccountAmounts::AccountAmounts(Company& company, IExchangeRates* rates,
                                const framework::EarningsAccounts& earnings, const Period& period)
     : company_(company),
       rates_(rates),
@@ -29,7 +29,7 @@ TrialAccount AccountAmounts::Read(const Row& row) try {
             .type = row.Integer(type_),
             .currency_id = currency_id == 0 ? home_currency_id_ : currency_id};
 } catch (...) {
-    if (rates_.IExchangeRates_Reevaluate()) difference_.Lose();
+    if (Revalues()) difference_.Lose();
     throw;
 }
 
@@ -56,7 +56,7 @@ framework::LedgerBalance AccountAmounts::ForeignAndHome(const TrialAccount& acco
 }
 
 Currency AccountAmounts::Revalue(const framework::LedgerBalance& balance) try {
-    const auto worth = framework::EvaluateAtKeyedRate(company_.GetCurrencyInfo(), rates_, balance);
+    const auto worth = framework::EvaluateAtKeyedRate(company_.GetCurrencyInfo(), *rates_, balance);
     difference_.Add(worth.gain);
     return worth.revalued;
 } catch (...) {
@@ -84,7 +84,7 @@ Currency AccountAmounts::BalanceOf(const TrialAccount& account) {
 
 Currency AccountAmounts::Amount(const TrialAccount& account) {
     const bool carries_difference =
-        !IsRetainedEarnings(account) && IsUnrealized(account) && rates_.IExchangeRates_Reevaluate();
+        !IsRetainedEarnings(account) && IsUnrealized(account) && Revalues();
     return carries_difference ? Unrealized() : BalanceOf(account);
 }
 

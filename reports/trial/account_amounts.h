@@ -36,8 +36,9 @@ class AccountAmounts {
         std::string project_ids;
     };
 
-    /// Company and rates must outlive it. Before Read comes Resolve.
-    AccountAmounts(Company& company, IExchangeRates& rates,
+    /// Company and rates must outlive it; without rates nothing is revalued. Before Read comes
+    /// Resolve.
+    AccountAmounts(Company& company, IExchangeRates* rates,
                    const framework::EarningsAccounts& earnings, const Period& period);
 
     /// The columns InGLAcctId, AcctType and ExCurrencyId of the account.
@@ -61,7 +62,7 @@ class AccountAmounts {
     Currency ForeignBalance(const TrialAccount& account);
 
     bool Revalues(std::int32_t currency_id) const {
-        return rates_.IExchangeRates_Reevaluate() && currency_id != home_currency_id_;
+        return Revalues() && currency_id != home_currency_id_;
     }
     /// What a foreign balance is worth at the rate of the day; the difference from what was booked
     /// goes into Difference.
@@ -80,12 +81,13 @@ class AccountAmounts {
     std::string Key(const TrialAccount& account) const;
 
   private:
+    bool Revalues() const { return rates_ != nullptr && rates_->IExchangeRates_Reevaluate(); }
     /// Since the start of the year or the beginning, by the account's type.
     const BalanceScope& ScopeOf(const TrialAccount& account);
     framework::LedgerBalance ForeignAndHome(const TrialAccount& account);
 
     Company& company_;
-    IExchangeRates& rates_;
+    IExchangeRates* rates_;
     framework::EarningsAccounts earnings_;
     std::int32_t unrealized_account_id_;
     std::int32_t home_currency_id_;

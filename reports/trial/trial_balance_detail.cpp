@@ -1,7 +1,5 @@
 #include "reports/trial/trial_balance_detail.h"
 
-#include <algorithm>
-
 #include "framework/cell_values.h"
 #include "framework/exchange_rates_note.h"
 #include "framework/filter_sort_subreport.h"
@@ -23,8 +21,6 @@ namespace {
 
 constexpr std::int16_t kAdjustment = 8571;
 constexpr Twips kGap = 60;
-constexpr std::string_view kDebitType = "DT";
-constexpr std::string_view kCreditType = "CT";
 
 constexpr std::string_view kHead =
     "SELECT SubQuery.*, "
@@ -112,7 +108,7 @@ void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
         Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
         PlaceColumns();
         const std::string statement = BuildStatement();
-        StartAmounts(ForwardPeriod());
+        StartAmounts(ForwardPeriod(selection_.project_ids));
         std::vector<Variant> parameters = {DateFrom(), DateTo()};
         if (selection_.single_account != 0) parameters.emplace_back(selection_.single_account);
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
@@ -162,14 +158,6 @@ std::string dsrTrialBalanceDetail::BuildStatement() {
     return statement + where + std::string(kOrder);
 }
 
-// What is brought forward ends on the day before the period.
-AccountAmounts::Period dsrTrialBalanceDetail::ForwardPeriod() {
-    return {.year_start = (Mark(), StartOfYearOrPeriod()),
-            .to = std::max(DateFrom() - 1, kOpenStart),
-            .segment_clause = SegmentClauseOn("GLDet.ExSegmentId"),
-            .project_ids = selection_.project_ids};
-}
-
 void dsrTrialBalanceDetail::PlaceColumns() {
     const bool foreign = DisplayForeignCurrency();
     At("lblCurrencyCap").SetVisible(foreign && foreign_used_);
@@ -183,11 +171,7 @@ Currency dsrTrialBalanceDetail::GetAccountBalanceForSpecialAccounts(const TrialA
 }
 
 void dsrTrialBalanceDetail::ShowBalance(const BalanceControls& controls, const KnownSum& balance) {
-    controls.amount.Clear();
-    controls.type.Clear();
-    if (!balance.Known()) return;
-    controls.type.SetText(balance.Value() < Currency() ? kCreditType : kDebitType);
-    PutAmount(App().GetFormats(), controls.amount, balance.Value().Abs(), text_);
+    controls.Show(App().GetFormats(), balance, text_);
 }
 
 void dsrTrialBalanceDetail::AddToBalance(Currency amount) {
@@ -234,8 +218,7 @@ void dsrTrialBalanceDetail::ShowAccountKey() {
 void dsrTrialBalanceDetail::ghAccount_Format() {
     if (EndOfData()) return;
     current_ = {};
-    forward_.amount.Clear();
-    forward_.type.Clear();
+    forward_.Clear();
     ShowAccountKey();
     ShowUnrealized({});
     const Forward forward = BringForward();
@@ -318,8 +301,7 @@ void dsrTrialBalanceDetail::Detail_Format() {
     txtDetDate.Clear();
     txtDebit.Clear();
     txtCredit.Clear();
-    running_.amount.Clear();
-    running_.type.Clear();
+    running_.Clear();
     txtCurrency.SetVisible(false);
     txtCurrencyCode.Clear();
     ShowKey();
@@ -333,9 +315,8 @@ void dsrTrialBalanceDetail::Detail_Format() {
 }
 
 void dsrTrialBalanceDetail::gfAccount_Format() {
-    for (Control* control :
-         {&txtDebitTotal, &txtCreditTotal, &account_balance_.amount, &account_balance_.type})
-        control->Clear();
+    for (Control* control : {&txtDebitTotal, &txtCreditTotal}) control->Clear();
+    account_balance_.Clear();
     const bool all_zero =
         current_.totals.IsZero() && current_.balance.IsZero() && Amounts().Difference().IsZero();
     if (!include_zero_balances_ && all_zero) return gfAccount.Skip();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "framework/debit_credit.h"
+#include "reports/trial/balance_controls.h"
 #include "reports/trial/trial_report.h"
 
 namespace varnel::reports {
@@ -46,16 +47,9 @@ class dsrTrialBalanceDetail final : public TrialReport, public IReportConfig {
         Currency balance;
         Currency unrealized;
     };
-    /// An amount with its "DT" or "CT" beside it.
-    struct BalanceControls {
-        Control& amount;
-        Control& type;
-    };
-
     std::string BuildStatement();
     bool ResolvesAccounts() const;
     std::string AccountList();
-    AccountAmounts::Period ForwardPeriod();
     void PlaceColumns();
     Currency GetAccountBalanceForSpecialAccounts(const TrialAccount& account);
     Forward BringForward();
