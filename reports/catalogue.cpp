@@ -9,6 +9,7 @@
 #include "reports/exchange/unrealized_exchange.h"
 #include "reports/exchange/unrealized_exchange_detail.h"
 #include "reports/journal/general_journal.h"
+#include "reports/journal/general_ledger.h"
 #include "reports/statements/balance_sheet.h"
 #include "reports/statements/comparative_balance_sheet.h"
 #include "reports/statements/comparative_income_statement.h"
@@ -33,7 +34,7 @@ ObjectRef MakeObject() {
 
 constexpr CatalogueEntry kReports[] = {
     {"dsrGeneralJournal", 6173, Make<reports::dsrGeneralJournal>},
-    {"dsrGeneralLedger", 30013, nullptr},
+    {"dsrGeneralLedger", 30013, Make<reports::dsrGeneralLedger>},
     {"dsrGeneralLedgerByAccount", 30014, nullptr},
     {"dsrTrialBalanceSummary", 30001, Make<reports::dsrTrialBalanceSummary>},
     {"dsrTrialBalanceDetail", 30002, Make<reports::dsrTrialBalanceDetail>},

@@ -14,7 +14,7 @@ using test::JournalRun;
 using testing::ElementsAre;
 
 std::string JournalSourceLine(int number) {
-    std::ifstream in(VARNEL_SOURCE_DIR "/reports/journal/general_journal.cpp");
+    std::ifstream in(VARNEL_SOURCE_DIR "/reports/journal/entry_report.cpp");
     std::string line;
     while (number-- > 0) std::getline(in, line);
     return line;

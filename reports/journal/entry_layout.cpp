@@ -1,4 +1,6 @@
-#include "reports/journal/general_journal_layout.h"
+#include "reports/journal/entry_layout.h"
+
+#include <utility>
 
 #include "framework/item_adjustment_note.h"
 #include "framework/layout_parts.h"
@@ -93,21 +95,21 @@ SectionLayout GrandTotals() {
 
 }  // namespace
 
-const Layout& GeneralJournalLayout() {
-    static const Layout layout{
-        .name = "dsrGeneralJournal",
-        .sections = {
-            {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
-            PageHeader(PageHeaderControls(Captions())),
-            EntryHeader(),
-            {.name = "ghComment", .kind = SectionKind::kGroupHeader, .group_field = "Remarks"},
-            Lines(),
-            Remarks(),
-            EntryFooter(),
-            PageFooter({ItemAdjustmentNoteControl()}),
-            GrandTotals(),
-        }};
-    return layout;
+Layout EntryLayout(std::string_view name, std::vector<ControlLayout> page_header) {
+    auto captions = Captions();
+    page_header.insert(page_header.end(), captions.begin(), captions.end());
+    return {.name = name,
+            .sections = {
+                {.name = "ReportHeader", .kind = SectionKind::kReportHeader},
+                PageHeader(PageHeaderControls(std::move(page_header))),
+                EntryHeader(),
+                {.name = "ghComment", .kind = SectionKind::kGroupHeader, .group_field = "Remarks"},
+                Lines(),
+                Remarks(),
+                EntryFooter(),
+                PageFooter({ItemAdjustmentNoteControl()}),
+                GrandTotals(),
+            }};
 }
 
 }  // namespace varnel::reports
