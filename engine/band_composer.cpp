@@ -43,6 +43,29 @@ Item ItemOf(const Control& control, ItemKind kind, const Box& box) {
             .box = box};
 }
 
+bool IsOverBreak(const Control& control) {
+    return control.Design().carry == Carry::kTakes || control.Design().carry == Carry::kWithIt;
+}
+
+void ComposeCarried(const Section& section, PlacedBand& band) {
+    for (const auto& control : section.Controls()) {
+        const Item item = ItemOf(control, ItemKind::kText, control.Place());
+        switch (control.Design().carry) {
+            case Carry::kNone:
+                break;
+            case Carry::kGives:
+                band.carried.Add(item, control.Text());
+                break;
+            case Carry::kTakes:
+                band.over_break.Add(item, {});
+                break;
+            case Carry::kWithIt:
+                if (!control.Text().empty()) band.over_break.Add(item, control.Text());
+                break;
+        }
+    }
+}
+
 /// What prints at most one item, in the control's own box.
 void PlaceSimple(const Control& control, Twips shift, ItemList& content) {
     Box box = control.Place();
@@ -73,15 +96,19 @@ void BandComposer::Compose(const Part& part, PlacedBand& band) {
     band.kind = section.Kind();
     band.height = section.Height();
     band.content.Clear();
+    band.carried.Clear();
+    band.over_break.Clear();
+    if (part.carries) ComposeCarried(section, band);
     if (!part.grows) {
         for (const auto& control : section.Controls())
-            if (control.Visible()) PlaceSimple(control, 0, band.content);
+            if (control.Visible() && !IsOverBreak(control)) PlaceSimple(control, 0, band.content);
         return;
     }
     Measure(section);
     band.height = std::max(Twips{0}, growth_.Settle(extents_, band.height));
     for (std::size_t i = 0; i < section.Controls().size(); ++i)
-        if (section.Controls()[i].Visible()) Place(section.Controls()[i], i, band.content);
+        if (section.Controls()[i].Visible() && !IsOverBreak(section.Controls()[i]))
+            Place(section.Controls()[i], i, band.content);
 }
 
 void BandComposer::Measure(const Section& section) {

@@ -78,6 +78,20 @@ class ItemList {
             items_.push_back(item);
         }
     }
+    /// Appends `over_break` of a band, moved likewise; items without text take those of `carried`
+    /// in order.
+    void AppendCarried(const ItemList& over_break, const ItemList& carried, Twips dx, Twips dy) {
+        std::size_t taken = 0;
+        for (Item item : over_break.items_) {
+            std::string_view text = over_break.Text(item);
+            if (text.empty() && taken < carried.items_.size())
+                text = carried.Text(carried.items_[taken++]);
+            item.box.left += dx;
+            item.box.top += dy;
+            Add(item, text);
+        }
+    }
+    bool Empty() const { return items_.empty(); }
     const std::vector<Item>& Items() const { return items_; }
     std::string_view Text(const Item& item) const {
         return std::string_view(texts_).substr(item.text_offset, item.text_length);
@@ -94,6 +108,11 @@ struct PlacedBand {
     SectionKind kind = SectionKind::kDetail;
     Twips height = 0;
     ItemList content;
+    /// Of a row: the texts that are carried when a page ends after it.
+    ItemList carried;
+    /// What is printed besides where a group goes on over a page break; an item without text takes
+    /// a carried one.
+    ItemList over_break;
 };
 
 struct Page {

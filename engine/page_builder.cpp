@@ -40,10 +40,13 @@ void PageBuilder::AddHeader() {
     PlaceRepeated(header_);
 }
 
-void PageBuilder::FinishPage() {
+void PageBuilder::FinishPage(const ItemList* carried) {
     if (edges_.MakeFooter(footer_)) {
         const Twips bottom = setup_.paper_height - setup_.margin_bottom;
-        PlaceAt(footer_, std::max(y_, bottom - footer_.height));
+        const Twips top = std::max(y_, bottom - footer_.height);
+        if (carried != nullptr)
+            page_.content.AppendCarried(footer_.over_break, *carried, left_, top);
+        PlaceAt(footer_, top);
     }
     edges_.Finish(page_);
 }
@@ -61,6 +64,11 @@ Twips PageBuilder::RoomOnNewPage() const {
 void PageBuilder::Place(const PlacedBand& band) {
     PlaceAt(band, y_);
     if (band.height > 0) fresh_ = false;
+}
+
+void PageBuilder::PlaceRepeated(const PlacedBand& band, const ItemList& carried) {
+    page_.content.AppendCarried(band.over_break, carried, left_, y_);
+    PlaceAt(band, y_);
 }
 
 void PageBuilder::PlaceAt(const PlacedBand& band, Twips top) {

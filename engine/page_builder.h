@@ -29,9 +29,11 @@ class PageBuilder {
     /// Unless the page has it: on the first one the report header may come before, and reach on to
     /// another page.
     void AddHeader();
-    void FinishPage();
-    void BreakPage() {
-        FinishPage();
+    /// `carried` are the texts of the last row when its group goes on over the page break, else
+    /// null.
+    void FinishPage(const ItemList* carried = nullptr);
+    void BreakPage(const ItemList* carried = nullptr) {
+        FinishPage(carried);
         StartPage();
         AddHeader();
     }
@@ -46,6 +48,8 @@ class PageBuilder {
     void Place(const PlacedBand& band);
     /// Places a band that leaves the page fresh.
     void PlaceRepeated(const PlacedBand& band) { PlaceAt(band, y_); }
+    /// The same with what it prints besides where its group goes on.
+    void PlaceRepeated(const PlacedBand& band, const ItemList& carried);
 
   private:
     void PlaceAt(const PlacedBand& band, Twips top);

@@ -37,6 +37,8 @@ void PagesOutput::Write(const Part& part, bool printed) {
         band_.kind = design.kind;
         band_.height = 0;
         band_.content.Clear();
+        band_.carried.Clear();
+        band_.over_break.Clear();
     }
     paginator_.Add(band_, {.kind = design.kind,
                            .level = part.level,

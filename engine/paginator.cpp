@@ -71,6 +71,7 @@ void Paginator::PlaceFront() {
     else
         page_.Place(front.band);
     if (front.place.kind == SectionKind::kGroupHeader) Remember(front);
+    if (front.place.kind == SectionKind::kDetail) std::swap(carried_, front.band.carried);
     waiting_.Pop();
 }
 
@@ -98,10 +99,13 @@ void Paginator::Remember(const BandQueue::Entry& header) {
         repeated_[level] = header.band;
     else
         repeated_[level].height = 0;
+    carried_.Clear();
 }
 
 void Paginator::BreakPage() {
-    page_.BreakPage();
+    const SectionKind next = waiting_.Front().place.kind;
+    const bool goes_on = next == SectionKind::kDetail || next == SectionKind::kGroupFooter;
+    page_.BreakPage(goes_on && !carried_.Empty() ? &carried_ : nullptr);
     repeat_due_ = true;
 }
 
@@ -112,7 +116,7 @@ void Paginator::RepeatHeaders() {
     if (RepeatedHeight(next) + waiting_.Height() > page_.Room()) return;
     for (int level = 0; level < OpenGroups(next); ++level) {
         const auto& header = repeated_[static_cast<std::size_t>(level)];
-        if (header.height > 0) page_.PlaceRepeated(header);
+        if (header.height > 0) page_.PlaceRepeated(header, carried_);
     }
 }
 

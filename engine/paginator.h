@@ -41,6 +41,8 @@ class Paginator {
     int kept_level_ = kNone;  // Of the outermost group that the waiting bands keep together.
     std::vector<PlacedBand> repeated_;  // By level: the open group's header, empty without repeat.
     bool repeat_due_ = false;           // A page was begun and nothing placed on it yet.
+    /// Of the last row that was placed; empty in a group that has placed none yet.
+    ItemList carried_;
     PlacedBand piece_;
 };
 

@@ -12,6 +12,7 @@ Part MakePart(Section& section) {
         const auto& design = control.Design();
         if (design.kind == ControlKind::kSubReport) part.has_sub_reports = true;
         if (design.can_grow) part.grows = true;
+        if (design.carry != Carry::kNone) part.carries = true;
     }
     part.grows = part.grows || part.has_sub_reports;
     return part;

@@ -18,6 +18,7 @@ struct Part {
     Section* section = nullptr;
     int level = -1;  // Of a group's header and footer, from outside in; -1 for all others.
     bool grows = false;
+    bool carries = false;  // Has controls that a break of the page concerns.
     bool has_sub_reports = false;
     std::vector<Binding> bindings;
 };

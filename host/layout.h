@@ -46,6 +46,19 @@ enum class ControlKind : std::uint8_t {
 enum class Stretch : std::uint8_t { kNone, kWiden, kShift };
 
 /// A control as designed. Texts and names are constants of the program: views stay valid for ever.
+/// What a control has to do with the figure that is carried from page to page while a group of rows
+/// goes on.
+enum class Carry : std::uint8_t {
+    kNone,
+    /// In a detail: its text is what is carried after the row.
+    kGives,
+    /// In a repeated group header or the page footer: printed only where a group goes on over the
+    /// break. The first that takes shows the text of the first that gives, and so on.
+    kTakes,
+    /// The same with a text of its own.
+    kWithIt,
+};
+
 struct ControlLayout {
     std::string_view name;
     ControlKind kind = ControlKind::kText;
@@ -67,6 +80,7 @@ struct ControlLayout {
     /// that: a rule under a figure.
     bool follows_column = false;
     Stretch stretch = Stretch::kNone;
+    Carry carry = Carry::kNone;
 };
 
 enum class SectionKind : std::uint8_t {

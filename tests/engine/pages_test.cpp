@@ -76,9 +76,8 @@ TEST(Pages, ALineStaysWithTheOneBeforeOrAfterWhereItsHandlerSaysSo) {
         if (line == "heading") report.SectionOf("detail").KeepWithNext();
         if (line == "sum") report.SectionOf("detail").KeepWithPrevious();
     });
-    EXPECT_EQ(TextsOfPages(report, PaperFor(4)), (PageTexts{{"PH", "1", "2"},
-                                                            {"PH", "heading", "4", "5"},
-                                                            {"PH", "6", "sum", "8"}}));
+    EXPECT_EQ(TextsOfPages(report, PaperFor(4)),
+              (PageTexts{{"PH", "1", "2"}, {"PH", "heading", "4", "5"}, {"PH", "6", "sum", "8"}}));
 }
 
 TEST(Pages, TheReportFooterTakesABandAlong) {
