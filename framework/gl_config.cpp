@@ -119,6 +119,16 @@ void frmGLConfig::PrepareInvConfigDialog(std::shared_ptr<Application> applicatio
     });
 }
 
+LedgerOptions AskLedgerOptions(Application& application, const LedgerOptions& current) {
+    const auto form = std::make_shared<frmGLConfig>();
+    form->Properties(kIncludeZeroBalance, current.include_zero_balances);
+    form->Properties(kShowComments, current.show_comments);
+    for (const auto option : {kIncludeZeroBalance, kShowComments}) form->ShowProperty(option, true);
+    form->PrepareInvConfigDialog(Borrowed(application), kIncludeZeroBalance);
+    Mark(), application.Dialogs().ShowModal(*form);
+    return {form->Properties(kIncludeZeroBalance), form->Properties(kShowComments)};
+}
+
 bool AskIncludeZeroBalance(Application& application, bool current) {
     const auto form = std::make_shared<frmGLConfig>();
     form->Properties(kIncludeZeroBalance, current);

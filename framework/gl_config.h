@@ -40,6 +40,16 @@ class frmGLConfig final : public OptionsForm {
     Twips full_height_ = 0;
 };
 
+/// What the general ledger by account asks for.
+struct LedgerOptions {
+    bool include_zero_balances = false;
+    bool show_comments = false;
+};
+
+/// Asks the user for both options and returns the answer; `current` is what the dialog opens with.
+/// A failure of the host's dialog service passes through.
+LedgerOptions AskLedgerOptions(Application& application, const LedgerOptions& current);
+
 /// Asks the user whether to include accounts with a zero balance and returns the answer; `current`
 /// is what the dialog opens with. A failure of the host's dialog service passes through.
 bool AskIncludeZeroBalance(Application& application, bool current);

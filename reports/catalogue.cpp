@@ -14,6 +14,7 @@
 #include "reports/statements/comparative_balance_sheet.h"
 #include "reports/statements/comparative_income_statement.h"
 #include "reports/statements/income_statement.h"
+#include "reports/trial/general_ledger_by_account.h"
 #include "reports/trial/gifi_report.h"
 #include "reports/trial/trial_balance_detail.h"
 #include "reports/trial/trial_balance_summary.h"
@@ -35,7 +36,7 @@ ObjectRef MakeObject() {
 constexpr CatalogueEntry kReports[] = {
     {"dsrGeneralJournal", 6173, Make<reports::dsrGeneralJournal>},
     {"dsrGeneralLedger", 30013, Make<reports::dsrGeneralLedger>},
-    {"dsrGeneralLedgerByAccount", 30014, nullptr},
+    {"dsrGeneralLedgerByAccount", 30014, Make<reports::dsrGeneralLedgerByAccount>},
     {"dsrTrialBalanceSummary", 30001, Make<reports::dsrTrialBalanceSummary>},
     {"dsrTrialBalanceDetail", 30002, Make<reports::dsrTrialBalanceDetail>},
     {"dsrIncomeStatement", 6096, Make<reports::dsrIncomeStatement>},

@@ -10,6 +10,7 @@
 #include "framework/standard_header.h"
 #include "framework/styles.h"
 #include "framework/texts.h"
+#include "reports/trial/account_list.h"
 #include "reports/trial/adjusting_lines.h"
 #include "reports/trial/trial_balance_detail_layout.h"
 
@@ -45,10 +46,6 @@ std::string LineCondition(const std::string& project_ids) {
 
 void AddCondition(std::string& where, const std::string& condition) {
     where += (where.empty() ? " WHERE " : " AND ") + condition;
-}
-
-bool IsIdList(std::string_view text) {
-    return text.find_first_not_of("0123456789, ") == std::string_view::npos;
 }
 
 constexpr Member<dsrTrialBalanceDetail> kMembers[] = {
@@ -130,18 +127,12 @@ bool dsrTrialBalanceDetail::ResolvesAccounts() const {
     return selection_.account_ids.empty() && !IsIdList(Criteria().criteria);
 }
 
-// The accounts of the host, else those of the filter: a list as it stands, or criteria that the
-// filter tool turns into one.
+// The accounts of the host, else those of the filter.
 std::string dsrTrialBalanceDetail::AccountList() {
     FilterTool* const tool = Tool();
     if (tool != nullptr) Mark(), tool->SetTables("GLAcct");
-    const std::string criteria = Criteria().criteria;
-    if (!ResolvesAccounts())
-        return selection_.account_ids.empty() ? criteria : selection_.account_ids;
-    if (tool == nullptr)
-        Raise(error_number::kObjectNotSet, std::string(ObjectName()),
-              "There is no filter tool to find the accounts of \"" + criteria + "\"");
-    return Mark(), tool->ResolveAccounts(criteria);
+    if (!selection_.account_ids.empty()) return selection_.account_ids;
+    return Mark(), AccountListOf(Criteria().criteria, tool, ObjectName());
 }
 
 std::string dsrTrialBalanceDetail::BuildStatement() {

@@ -1,0 +1,163 @@
+#include "reports/trial/general_ledger_by_account_layout.h"
+
+#include "framework/item_adjustment_note.h"
+#include "framework/layout_parts.h"
+#include "framework/standard_header.h"
+
+namespace varnel::reports {
+
+namespace {
+
+using namespace framework;
+
+constexpr std::int16_t kCarriedForward = 30053;
+constexpr std::int16_t kBroughtForward = 30054;
+
+constexpr auto kDate = ColumnPlace::Left(0, 880);
+constexpr auto kSeqNo = ColumnPlace::Left(920, 520);
+constexpr auto kSource = ColumnPlace::Left(1'480, 560);
+constexpr auto kReference = ColumnPlace::Left(2'080, 840);
+constexpr auto kDescription = ColumnPlace::Left(2'960, 1'720, Stretch::kWiden);
+constexpr auto kForeign = ColumnPlace::Amount(4'740, 1'440);
+constexpr auto kDebit = ColumnPlace::Amount(6'240, 1'320);
+constexpr auto kCredit = ColumnPlace::Amount(7'620, 1'320);
+constexpr auto kBalance = ColumnPlace::Amount(9'000, 1'440);
+constexpr ColumnPlace kType{10'480, 300, Align::kLeft, Stretch::kShift};
+constexpr auto kAccount = ColumnPlace::Left(0, 1'440);
+constexpr auto kAccountName = ColumnPlace::Left(1'480, 4'700, Stretch::kWiden);
+/// What stands before an amount: it ends where the balance, or the debit, begins.
+constexpr ColumnPlace kBeforeBalance{6'240, 2'700, Align::kRight, Stretch::kShift};
+constexpr ColumnPlace kBeforeDebit{1'980, 4'200, Align::kRight, Stretch::kWiden};
+constexpr Twips kHeaderTop = 70;
+
+ControlLayout OverBreak(ControlLayout control, Carry carry) {
+    control.carry = carry;
+    return control;
+}
+
+/// The balance that goes over a page break, with what it is called.
+std::vector<ControlLayout> Carried(std::int16_t caption, std::string_view name,
+                                   std::string_view amount, std::string_view type, Twips top) {
+    return {OverBreak(ColumnLabel(name, kBeforeBalance, top, kQuiet, caption), Carry::kWithIt),
+            OverBreak(ColumnText(amount, kBalance, top, kBody), Carry::kTakes),
+            OverBreak(ColumnText(type, kType, top, kQuiet), Carry::kTakes)};
+}
+
+std::vector<ControlLayout> Captions() {
+    return {ColumnCaption("lblDateCap", kDate, 1912),
+            ColumnCaption("lblSeqNoCap", kSeqNo, 2664),
+            ColumnCaption("lblSourceCap", kSource, 2648),
+            ColumnCaption("lblReferenceCap", kReference, 30051),
+            ColumnCaption("lblDescrCap", kDescription, 1789),
+            Hidden(ColumnCaption("lblForeignCap", kForeign, 5846)),
+            ColumnCaption("lblDebitCap", kDebit, 2656),
+            ColumnCaption("lblCreditCap", kCredit, 2657),
+            ColumnCaption("lblBalanceCap", kBalance, 2637),
+            CaptionRule()};
+}
+
+SectionLayout AccountHeader() {
+    const auto number = ColumnText("txtGLAcctId", kAccount, kHeaderTop, kBodyBold, "account");
+    const auto name =
+        ColumnText("txtDescr", kAccountName, kHeaderTop, kBodyBold, "account_description");
+    auto controls = Carried(kBroughtForward, "lblBroughtForward", "txtBroughtForward",
+                            "lblBroughtForwardType", kHeaderTop);
+    controls.insert(controls.begin(), {Bound(number, "GLAcctId"), Bound(name, "Descr")});
+    return {.name = "ghAccount",
+            .kind = SectionKind::kGroupHeader,
+            .height = kGroupHeight,
+            .group_field = "InGLAcctId",
+            .repeat = true,
+            .controls = std::move(controls)};
+}
+
+/// Not repeated: a page that the account runs on to begins with what is brought forward.
+SectionLayout Forward() {
+    return {.name = "ghForward",
+            .kind = SectionKind::kGroupHeader,
+            .height = kDetailHeight,
+            .group_field = "InGLAcctId",
+            .controls = {ColumnLabel("lblBalanceForward", kBeforeBalance, 0, kQuiet, 3011),
+                         ColumnText("txtBalanceForward", kBalance, 0, kBody, "forward"),
+                         ColumnText("lblBalanceForwardType", kType, 0, kQuiet, "forward_type")}};
+}
+
+SectionLayout Lines() {
+    return {.name = "Detail",
+            .kind = SectionKind::kDetail,
+            .height = kDetailHeight + kLineHeight,
+            .controls = {
+                ColumnText("txtDetDate", kDate, 0, kBody, "date"),
+                Bound(ColumnText("txtSeqNo", kSeqNo, 0, kBody, "entry"), "SeqNo"),
+                ColumnText("txtSource", kSource, 0, kBody, "source"),
+                Growing(ColumnText("txtDetRef", kReference, 0, kBody, "reference")),
+                Growing(ColumnText("txtDetDesc", kDescription, 0, kBody, "description")),
+                Hidden(ColumnText("txtForeign", kForeign, 0, kQuiet, "foreign")),
+                ExportedText("txtCurrencyCode", "currency"),
+                ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
+                ColumnText("txtCredit", kCredit, 0, kBody, "credit"),
+                OverBreak(ColumnText("txtBalance", kBalance, 0, kBody, "balance"), Carry::kGives),
+                OverBreak(ColumnText("lblBalanceType", kType, 0, kQuiet, "balance_type"),
+                          Carry::kGives),
+                Growing(ColumnText("txtRemarks", kDescription, kLineHeight, kRemark, "remarks"))}};
+}
+
+SectionLayout AccountFooter() {
+    return {
+        .name = "gfAccount",
+        .kind = SectionKind::kGroupFooter,
+        .height = kGroupHeight,
+        .controls = {TotalRule("linDebitTotal", kDebit, 0), TotalRule("linCreditTotal", kCredit, 0),
+                     TotalRule("linBalanceTotal", kBalance, 0),
+                     ColumnLabel("lblSubTotal", kBeforeDebit, 25, kBodyBold, 2710),
+                     ColumnText("txtDebitTotal", kDebit, 25, kBodyBold),
+                     ColumnText("txtCreditTotal", kCredit, 25, kBodyBold),
+                     ColumnText("txtBalanceTotal", kBalance, 25, kBodyBold),
+                     ColumnText("lblBalanceTotalType", kType, 25, kQuiet)}};
+}
+
+SectionLayout Footer() {
+    auto note = ItemAdjustmentNoteControl();
+    note.box.top += kCarriedHeight;
+    auto controls =
+        Carried(kCarriedForward, "lblCarriedForward", "txtCarriedForward", "lblCarriedType", 20);
+    controls.push_back(note);
+    auto footer = PageFooter(std::move(controls));
+    footer.height += kCarriedHeight;
+    return footer;
+}
+
+SectionLayout Totals() {
+    constexpr Twips kTop = 100;
+    const auto rule = [](std::string_view name, const ColumnPlace& place) {
+        return TotalRule(name, place, kTop - 40, kThick);
+    };
+    return {.name = "ReportFooter",
+            .kind = SectionKind::kReportFooter,
+            .height = kTop + 360,
+            .controls = {rule("linDebitGrandTotal", kDebit), rule("linCreditGrandTotal", kCredit),
+                         rule("linBalanceGrandTotal", kBalance),
+                         ColumnLabel("lblGrTotal", kBeforeDebit, kTop, kBodyBold, 1641),
+                         ColumnText("txtDebitGrandTotal", kDebit, kTop, kBodyBold),
+                         ColumnText("txtCreditGrandTotal", kCredit, kTop, kBodyBold),
+                         ColumnText("txtBalanceGrandTotal", kBalance, kTop, kBodyBold),
+                         ColumnText("lblBalanceGrandTotalType", kType, kTop, kQuiet)}};
+}
+
+}  // namespace
+
+const Layout& GeneralLedgerByAccountLayout() {
+    static const Layout layout{
+        .name = "dsrGeneralLedgerByAccount",
+        .sections = {PageHeader(PageHeaderControls(Captions())),
+                     AccountHeader(),
+                     Forward(),
+                     Lines(),
+                     {.name = "gfForward", .kind = SectionKind::kGroupFooter},
+                     AccountFooter(),
+                     Footer(),
+                     Totals()}};
+    return layout;
+}
+
+}  // namespace varnel::reports
