@@ -91,6 +91,30 @@ std::string TrialBalanceDetail(const std::string&) {
            "GLAcct.GLAcctId, SubQuery.DetDate, SubQuery.SeqNo";
 }
 
+/// The lines of every entry in the order of the entries.
+std::string GeneralLedger(const std::string&) {
+    return "SELECT GLDet.InGLDetId, GLDet.ExCurrencyId, GLDet.SeqNo, GLDet.DetAmnt, "
+           "GLDet.ForeignAmnt, GLDet.DetDate, GLDet.DetDesc, GLDet.DetRef, GLDet.Source, "
+           "GLDet.ExSrcKeyVal, GLDet.Remarks, GLDet.ExProjId, GLAcct.GLAcctId, GLAcct.Descr, "
+           "ProjInfo.ProjId, WorldCurrency.InCurrencyId, WorldCurrency.CurrencyCode, "
+           "WorldCurrency.CurrencyCode || ' - ' || WorldCurrency.Descr As CurrencyFullDescr FROM "
+           "(((GLDet GLDet LEFT OUTER JOIN GJTrxHdr GJTrxHdr ON GLDet.ExSrcKeyVal = "
+           "GJTrxHdr.InTrxId) LEFT OUTER JOIN ProjInfo ProjInfo ON GLDet.ExProjId = "
+           "ProjInfo.InProjId) LEFT OUTER JOIN GLAcct GLAcct ON GLDet.ExAcctId = "
+           "GLAcct.InGLAcctId) LEFT JOIN WorldCurrency ON WorldCurrency.InCurrencyId = "
+           "GLDet.ExCurrencyId WHERE GLDet.DetDate BETWEEN '2024-11-01' AND '2026-10-31'  ORDER BY "
+           "GLDet.SeqNo, GLDet.InGLDetId";
+}
+
+std::string GeneralLedgerByAccount(const std::string&) {
+    return "SELECT GLDet.*, GLAcct.AcctType, GLAcct.InGLAcctId, GLAcct.GLAcctId, "
+           "GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType FROM GLAcct LEFT JOIN (SELECT "
+           "InGLDetId, DetDate, SeqNo, Source, ExSrcKeyVal, DetRef, DetDesc, Remarks, DetAmnt, "
+           "ForeignAmnt, GLDet.ExCurrencyId AS GLDetExCurrencyId, ExAcctId FROM GLDet WHERE "
+           "GLDet.DetDate BETWEEN '2024-11-01' AND '2026-10-31') AS GLDet ON GLAcct.InGLAcctId = "
+           "GLDet.ExAcctId ORDER BY GLAcct.GLAcctId, GLDet.DetDate, GLDet.SeqNo, GLDet.InGLDetId";
+}
+
 std::string SumsBetween(const std::string& from, const std::string& to) {
     return "SELECT ExAcctId, SUM(DetAmnt), SUM(ForeignAmnt) FROM GLDet WHERE GLDet.DetDate BETWEEN "
            "'" +
@@ -152,6 +176,8 @@ constexpr ReportCase kCases[] = {
     {"trial-balance-summary", NoOptions, SumsByAccount, true},
     {"trial-balance-detail", WholeYears, TrialBalanceDetail, true},
     {"gifi", NoOptions, SumsByAccount, true},
+    {"general-ledger", WholeYears, GeneralLedger, true},
+    {"general-ledger-by-account", WholeYears, GeneralLedgerByAccount, true},
     {"income-statement", LastQuarter, IncomeStatement, true},
     {"balance-sheet", AtYearEnd, BalanceSheet, true},
     {"comparative-income-statement", LastQuarter, ComparativeIncomeStatement, true},

@@ -18,7 +18,9 @@ using Arguments = std::vector<Variant>;
 
 Arguments None(const RunSettings&, Application&) { return {}; }
 Arguments ActiveAndInactive(const RunSettings&, Application&) { return {Variant(false)}; }
-Arguments LedgerOfAll(const RunSettings&, Application&) { return {Variant(std::int16_t{0})}; }
+Arguments AccountType(const RunSettings& settings, Application&) {
+    return {Variant(settings.account_type)};
+}
 
 /// Projects, and the cumulative period: its last day first.
 Arguments ProjectsAndPeriod(const RunSettings& settings, Application& application) {
@@ -29,7 +31,11 @@ Arguments ProjectsAndPeriod(const RunSettings& settings, Application& applicatio
 
 constexpr ReportEntry kReports[] = {
     {"general-journal", "GeneralJournal", "dsrGeneralJournal", None},
-    {"general-ledger", "GeneralLedger", "dsrGeneralLedger", LedgerOfAll},
+    {.name = "general-ledger",
+     .method = "GeneralLedger",
+     .class_name = "dsrGeneralLedger",
+     .arguments = AccountType,
+     .by_account_type = true},
     {"general-ledger-by-account", "GeneralLedgerByAccount", "dsrGeneralLedgerByAccount", None},
     {"trial-balance-summary", "TrialBalanceSummary", "dsrTrialBalanceSummary", None},
     {"trial-balance-detail", "TrialBalanceDetail", "dsrTrialBalanceDetail", ActiveAndInactive},

@@ -25,6 +25,8 @@ struct ReportEntry {
     /// is about; empty for reports that are about all.
     std::string_view account_property = {};
     std::string_view currency_property = {};
+    /// Whether the report can be about the accounts of one type; the factory is given it.
+    bool by_account_type = false;
     /// Property that holds the ids of the projects that the report is about; the factory is given
     /// them. Empty for reports that are about all.
     std::string_view projects_property = {};

@@ -23,6 +23,8 @@ bool HasAccount(const ReportEntry& entry, IReport&) { return !entry.account_prop
 
 bool HasCurrency(const ReportEntry& entry, IReport&) { return !entry.currency_property.empty(); }
 
+bool HasAccountType(const ReportEntry& entry, IReport&) { return entry.by_account_type; }
+
 bool HasProjects(const ReportEntry& entry, IReport&) { return !entry.projects_property.empty(); }
 
 bool HasHistory(const ReportEntry& entry, IReport&) { return !entry.history_property.empty(); }
@@ -49,6 +51,8 @@ constexpr RunOption kOptions[] = {
      HasLastDay},
     {"--account", "NUMBER", &RunRequest::account, "The account, by its number", HasAccount},
     {"--currency", "CODE", &RunRequest::currency, "The foreign currency, as USD", HasCurrency},
+    {"--account-type", "NUMBER", &RunRequest::account_type,
+     "Only lines of accounts of this type, as 4", HasAccountType},
     {"--projects", "IDS", &RunRequest::projects, "The projects, by id: 3,7", HasProjects},
     {"--history", "ID", &RunRequest::history, "The saved bank reconciliation, by id", HasHistory},
     {"--statement-date", "DATE", &RunRequest::statement_date, "The date of the bank's statement",

@@ -13,6 +13,7 @@ struct RunRequest {
     std::string to;
     std::string account;   // Its number.
     std::string currency;  // Its code.
+    std::string account_type;  // Its number.
     std::string projects;
     std::string history;  // The id of a saved bank reconciliation.
     std::string statement_date;

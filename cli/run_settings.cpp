@@ -139,6 +139,7 @@ RunSettings ReadSettings(const RunRequest& request) {
     settings.statement = {.history = ReadGivenId("--history", request.history),
                           .date = ReadDate("--statement-date", request.statement_date, Date()),
                           .ending_balance = ReadAmount("--ending-balance", request.ending_balance)};
+    settings.account_type = ReadGivenId("--account-type", request.account_type).value_or(0);
     settings.projects = ReadIds("--projects", request.projects);
     settings.segments = ReadIds("--segments", request.segments);
     settings.session_date = ReadGivenDate("--session-date", request.session_date);

@@ -34,6 +34,7 @@ struct RunSettings {
         Date date;
         Currency ending_balance;
     } statement;
+    std::int32_t account_type = 0;  // 0 is all.
     std::vector<std::int32_t> projects;
     std::vector<std::int32_t> segments;
     std::optional<Date> session_date;

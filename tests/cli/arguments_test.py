@@ -52,6 +52,8 @@ REFUSED = [
     ([*JOURNAL, "--account", "1030"], "general-journal takes no --account"),
     ([*JOURNAL, "--currency", "USD"], "general-journal takes no --currency"),
     ([*JOURNAL, "--projects", "3"], "general-journal takes no --projects"),
+    ([*JOURNAL, "--account-type", "4"], "general-journal takes no --account-type"),
+    (["run", "general-ledger", "--account-type", "x"], '--account-type: "x" is no id'),
     ([*JOURNAL, "--cumulative-to", "2025-03-31"], "general-journal takes no --cumulative-to"),
     ([*DETAIL, "--currency", "USD"], "is about one account: add --account NUMBER"),
     ([*DETAIL, "--account", "1030"], "is about one currency: add --currency CODE"),
