@@ -35,6 +35,7 @@ target_sources(varnel_render PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_
 )
 target_sources(varnel_drivers PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
     drivers/memory_recordset.h
+    drivers/odbc/odbc_database.h
     drivers/sqlite/sqlite_database.h
 )
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "drivers/sqlite/sql_tokens.h"
+#include "drivers/sql_tokens.h"
 
 namespace varnel::company {
 

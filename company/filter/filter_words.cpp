@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "company/texts/captions.h"
-#include "drivers/sqlite/sql_tokens.h"
+#include "drivers/sql_tokens.h"
 #include "host/object.h"
 
 namespace varnel::company {

@@ -4,46 +4,46 @@
 --   amounts       RealAmount / RealRate: in PostgreSQL domains over numeric (declared beforehand); SQLite reads any type
 --                 name with REAL in it as REAL affinity (no integer division, amounts kept as 8-byte doubles)
 --   dates         DATE: PostgreSQL date; in SQLite ISO text 'YYYY-MM-DD' (NUMERIC affinity keeps text with dashes)
---   text          TEXT (not CHAR(n): padding; VARCHAR(n) is equally good)
+--   text          PlainText (not CHAR(n): padding; VARCHAR(n) is equally good)
 -- Column placement matters: the reports use these names unqualified, so they must exist in ONE of the joined
 -- tables only: Inactive, GIFIAcctId, AcctType, InGLAcctId, GLAcctId, ChqAcct (GLAcct only), DetAmnt,
 -- ForeignAmnt, DetDate, SeqNo, ExProjId (GLDet only).  WorldCurrency must never get Inactive or GIFIAcctId.
 CREATE TABLE WorldCurrency (
   InCurrencyId   INTEGER NOT NULL PRIMARY KEY,
-  CurrencyCode   TEXT NOT NULL,
-  Descr          TEXT,
-  Symbol         TEXT,
+  CurrencyCode   PlainText NOT NULL,
+  Descr          PlainText,
+  Symbol         PlainText,
   Decimals       SMALLINT NOT NULL DEFAULT 2,
   ARGLAccountId  INTEGER,
   APGLAccountId  INTEGER
 );
 CREATE TABLE GLAcct (
   InGLAcctId     INTEGER NOT NULL PRIMARY KEY,
-  GLAcctId       TEXT NOT NULL,
-  Descr          TEXT,
+  GLAcctId       PlainText NOT NULL,
+  Descr          PlainText,
   AcctType       INTEGER NOT NULL,
   GroupType      INTEGER NOT NULL,
   Inactive       SMALLINT,
   ChqAcct        SMALLINT,
-  Note           TEXT,
-  GIFIAcctId     TEXT,
+  Note           PlainText,
+  GIFIAcctId     PlainText,
   ExCurrencyId   INTEGER
 );
 CREATE TABLE ProjInfo (
   InProjId       INTEGER NOT NULL PRIMARY KEY,
-  ProjId         TEXT NOT NULL,
-  Descr          TEXT
+  ProjId         PlainText NOT NULL,
+  Descr          PlainText
 );
 CREATE TABLE GJTrxHdr (
   InTrxId        INTEGER NOT NULL PRIMARY KEY,
   TrxDate        DATE,
-  TrxDesc        TEXT,
-  TrxRef         TEXT
+  TrxDesc        PlainText,
+  TrxRef         PlainText
 );
 CREATE TABLE Segment (
   InSegmentId    INTEGER NOT NULL PRIMARY KEY,
-  SegmentCode    TEXT NOT NULL,
-  Descr          TEXT
+  SegmentCode    PlainText NOT NULL,
+  Descr          PlainText
 );
 CREATE TABLE GLDet (
   InGLDetId            INTEGER NOT NULL PRIMARY KEY,
@@ -54,11 +54,11 @@ CREATE TABLE GLDet (
   DetAmnt              RealAmount,
   ForeignAmnt          RealAmount,
   ExChangeRate         RealRate,
-  DetDesc              TEXT,
-  DetRef               TEXT NOT NULL DEFAULT '',  -- sort keys are never null: PostgreSQL sorts nulls last, the others first
-  Source               TEXT,
+  DetDesc              PlainText,
+  DetRef               PlainText NOT NULL DEFAULT '',  -- sort keys are never null: PostgreSQL sorts nulls last, the others first
+  Source               PlainText,
   ExSrcKeyVal          INTEGER,     -- INTEGER, not text: joined to GJTrxHdr.InTrxId and listed unquoted in IN (...)
-  Remarks              TEXT,
+  Remarks              PlainText,
   ExProjId             INTEGER,
   ExSegmentId          INTEGER,
   Conciliated          SMALLINT,
@@ -66,7 +66,7 @@ CREATE TABLE GLDet (
 );
 CREATE TABLE FiscalYear (
   InFiscalYearId INTEGER NOT NULL PRIMARY KEY,
-  Descr          TEXT,
+  Descr          PlainText,
   BegDate        DATE NOT NULL,
   EndDate        DATE NOT NULL
 );
@@ -112,24 +112,24 @@ CREATE TABLE ExchangeRate (
 CREATE TABLE AcctTypeInfo (          -- account-type captions and class (2 = income-statement account)
   AcctType       INTEGER NOT NULL PRIMARY KEY,
   TypeClass      INTEGER NOT NULL,
-  Descr          TEXT NOT NULL,
+  Descr          PlainText NOT NULL,
   AdditionalIncome SMALLINT NOT NULL DEFAULT 0
 );
 CREATE TABLE CompanySetting (
-  SettingName    TEXT NOT NULL PRIMARY KEY,
-  SettingValue   TEXT
+  SettingName    PlainText NOT NULL PRIMARY KEY,
+  SettingValue   PlainText
 );
 CREATE TABLE GLAccountParam (         -- GetGLAccountParam("GLRtainEarn") etc., section "Cie"
-  Section        TEXT NOT NULL,
-  ParamName      TEXT NOT NULL,
+  Section        PlainText NOT NULL,
+  ParamName      PlainText NOT NULL,
   ExAcctId       INTEGER NOT NULL,
   PRIMARY KEY (Section, ParamName)
 );
 CREATE TABLE Invoice (
   InInvoiId      INTEGER NOT NULL PRIMARY KEY,
-  InvoiId        TEXT NOT NULL,
-  Source         TEXT NOT NULL,
-  Name           TEXT,
+  InvoiId        PlainText NOT NULL,
+  Source         PlainText NOT NULL,
+  Name           PlainText,
   ExCurrencyId   INTEGER NOT NULL,
   ExchangeRate   RealRate,
   ExSegmentId    INTEGER
@@ -138,7 +138,7 @@ CREATE TABLE Pmt (
   InPmtId        INTEGER NOT NULL PRIMARY KEY,
   CurrPmtType    INTEGER NOT NULL,
   PmtDate        DATE NOT NULL,
-  ChqNo          TEXT NOT NULL DEFAULT '',
+  ChqNo          PlainText NOT NULL DEFAULT '',
   PmtRate        RealRate,
   ExGLAcctId     INTEGER
 );

@@ -1,5 +1,6 @@
 #include "drivers/sqlite/sqlite_command.h"
 
+#include "drivers/query_faults.h"
 #include "drivers/sqlite/sqlite_error.h"
 #include "drivers/sqlite/sqlite_recordset.h"
 #include "host/error.h"
@@ -18,8 +19,7 @@ void SqliteCommand::SetActiveConnection(const std::string& connection_string) {
 }
 
 std::shared_ptr<Recordset> SqliteCommand::Execute(int /*options*/) {
-    if (connection_ == nullptr)
-        RaiseSqlite("The command has no active connection: set it before executing.", text_);
+    if (connection_ == nullptr) RaiseSqlite(kNoConnection, text_);
     return std::make_shared<SqliteRecordset>(SqliteStatement(
         connection_, {.text = text_, .parameters = parameters_, .timeout = timeout_}));
 }

@@ -5,8 +5,9 @@
 #include <algorithm>
 #include <chrono>
 
+#include "drivers/query_faults.h"
+#include "drivers/sql_tokens.h"
 #include "drivers/sqlite/sql_concatenation.h"
-#include "drivers/sqlite/sql_tokens.h"
 #include "drivers/sqlite/sqlite_error.h"
 #include "host/error.h"
 
@@ -47,10 +48,6 @@ class Watch {
     Clock::time_point deadline_;
 };
 
-std::string Count(std::size_t count, const std::string& noun) {
-    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
-}
-
 bool IsNothingOrSemicolon(const SqlToken& token) {
     return token.kind == SqlTokenKind::kEndOfText || token.text == ";";
 }
@@ -77,7 +74,7 @@ void SqliteStatement::Prepare() {
                                         static_cast<int>(rewritten.size()), &statement, &rest);
     handle_.reset(statement);
     if (code != SQLITE_OK) RaiseSqlite(connection_->LastError(), text_);
-    if (statement == nullptr) RaiseSqlite("The command text holds no statement.", text_);
+    if (statement == nullptr) RaiseSqlite(kNoStatement, text_);
     CheckRest(rest, rewritten.data() + rewritten.size());
 }
 
@@ -85,17 +82,13 @@ void SqliteStatement::CheckRest(const char* rest, const char* end) const {
     const auto tokens = TokenizeSql({rest, static_cast<std::size_t>(end - rest)});
     const auto found = std::find_if_not(tokens.begin(), tokens.end(), IsNothingOrSemicolon);
     if (found == tokens.end()) return;
-    RaiseSqlite(
-        "A command is one statement; another one begins at \"" + std::string(found->text) + "\".",
-        text_);
+    RaiseSqlite(MoreThanOneStatement(found->text), text_);
 }
 
 void SqliteStatement::Bind(std::span<const Variant> parameters) {
     const auto wanted = static_cast<std::size_t>(sqlite3_bind_parameter_count(handle_.get()));
     if (wanted != parameters.size())
-        RaiseSqlite("The statement has " + Count(wanted, "parameter") + "; " +
-                        Count(parameters.size(), "value") + " came with it.",
-                    text_);
+        RaiseSqlite(WrongParameterCount(wanted, parameters.size()), text_);
     int number = 0;
     for (const auto& value : parameters)
         if (BindOne(++number, value) != SQLITE_OK) RaiseSqlite(connection_->LastError(), text_);
@@ -134,13 +127,8 @@ bool SqliteStatement::Step() {
 }
 
 void SqliteStatement::FailStep(int code) const {
-    if (code == SQLITE_INTERRUPT && connection_->Cancelled())
-        RaiseSqlite("The query was cancelled.", text_);
-    if (code == SQLITE_INTERRUPT)
-        RaiseSqlite("The query was stopped after " +
-                        Count(static_cast<std::size_t>(timeout_), "second") +
-                        ", its time limit: narrow it or raise the limit.",
-                    text_);
+    if (code == SQLITE_INTERRUPT && connection_->Cancelled()) RaiseSqlite(kCancelled, text_);
+    if (code == SQLITE_INTERRUPT) RaiseSqlite(TimeLimitReached(timeout_), text_);
     RaiseSqlite(connection_->LastError(), text_);
 }
 

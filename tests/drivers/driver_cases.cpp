@@ -111,7 +111,7 @@ void NamesIgnoreCase(DriverFixture& database) {
 }
 
 void AnUnknownColumnIsNamed(DriverFixture& database) {
-    const auto rows = database.Query("SELECT 1 AS One, 2 AS Two");
+    const auto rows = database.Query("SELECT 1 AS \"One\", 2 AS \"Two\"");
     try {
         rows->GetColumns().At("Three");
         FAIL() << "found";
@@ -198,6 +198,13 @@ std::vector<DriverCase> RowCases() {
         {"a_row_set_outlives_its_command", ARowSetOutlivesItsCommand},
         {"reading_many_rows_takes_no_memory", ReadingManyRowsTakesNoMemory},
     };
+}
+
+std::vector<DriverCase> EveryDriverCase() {
+    std::vector<DriverCase> all;
+    for (const auto& cases : {RowCases(), TextCases(), SumCases(), ErrorCases()})
+        all.insert(all.end(), cases.begin(), cases.end());
+    return all;
 }
 
 }  // namespace varnel::drivers

@@ -40,6 +40,11 @@ std::vector<DriverCase> RowCases();
 std::vector<DriverCase> TextCases();
 std::vector<DriverCase> SumCases();
 std::vector<DriverCase> ErrorCases();
+/// All of these.
+std::vector<DriverCase> EveryDriverCase();
+
+/// What the driver of a desktop database adds.
+std::vector<DriverCase> MixedTextCases();
 
 /// "WITH RECURSIVE n(i) …": a table `n` whose column `i` counts from 1 to `count`.
 std::string CountTo(int count);

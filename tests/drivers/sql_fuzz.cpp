@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "drivers/sql_tokens.h"
 #include "drivers/sqlite/sql_concatenation.h"
-#include "drivers/sqlite/sql_tokens.h"
 
 namespace {
 

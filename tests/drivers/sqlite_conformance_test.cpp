@@ -6,13 +6,6 @@ namespace varnel::drivers {
 
 namespace {
 
-std::vector<DriverCase> AllCases() {
-    std::vector<DriverCase> all;
-    for (const auto& cases : {RowCases(), TextCases(), SumCases(), ErrorCases()})
-        all.insert(all.end(), cases.begin(), cases.end());
-    return all;
-}
-
 class SqliteConforms : public testing::TestWithParam<DriverCase> {};
 
 TEST_P(SqliteConforms, Case) {
@@ -20,7 +13,9 @@ TEST_P(SqliteConforms, Case) {
     GetParam().run(fixture);
 }
 
-INSTANTIATE_TEST_SUITE_P(Driver, SqliteConforms, testing::ValuesIn(AllCases()),
+INSTANTIATE_TEST_SUITE_P(Driver, SqliteConforms, testing::ValuesIn(EveryDriverCase()),
+                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(DesktopDriver, SqliteConforms, testing::ValuesIn(MixedTextCases()),
                          [](const auto& test) { return std::string(test.param.name); });
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "drivers/sqlite/sql_tokens.h"
+#include "drivers/sql_tokens.h"
 
 #include <algorithm>
 

@@ -1,0 +1,27 @@
+-- For PostgreSQL: takes away what server_prelude.sql and schema.sql make, and nothing else.
+DROP VIEW IF EXISTS CurrPmtDet_View;
+DROP TABLE IF EXISTS PmtDet;
+DROP TABLE IF EXISTS Pmt;
+DROP TABLE IF EXISTS Invoice;
+DROP TABLE IF EXISTS GLAccountParam;
+DROP TABLE IF EXISTS CompanySetting;
+DROP TABLE IF EXISTS AcctTypeInfo;
+DROP TABLE IF EXISTS ExchangeRate;
+DROP TABLE IF EXISTS AcctBudget;
+DROP TABLE IF EXISTS BankStatement;
+DROP TABLE IF EXISTS BankConcilHistory;
+DROP TABLE IF EXISTS FiscalYearDet;
+DROP TABLE IF EXISTS FiscalYear;
+DROP TABLE IF EXISTS GLDet;
+DROP TABLE IF EXISTS Segment;
+DROP TABLE IF EXISTS GJTrxHdr;
+DROP TABLE IF EXISTS ProjInfo;
+DROP TABLE IF EXISTS GLAcct;
+DROP TABLE IF EXISTS WorldCurrency;
+DROP FUNCTION IF EXISTS iif(boolean, integer, integer);
+DROP OPERATOR IF EXISTS & (text, text);
+DROP FUNCTION IF EXISTS concat_null_as_empty(text, text);
+DROP OPERATOR IF EXISTS + (text, text);
+DROP DOMAIN IF EXISTS PlainText;
+DROP DOMAIN IF EXISTS RealRate;
+DROP DOMAIN IF EXISTS RealAmount;

@@ -1,0 +1,179 @@
+#include "drivers/odbc/odbc_column.h"
+
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlucode.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string_view>
+
+#include "drivers/odbc/odbc_error.h"
+#include "drivers/odbc/utf16.h"
+#include "host/decimal.h"
+
+namespace varnel::drivers {
+
+namespace {
+
+// Longer texts are rare, and read a second time.
+constexpr std::size_t kTextWidth = 256;
+constexpr std::size_t kDecimalWidth = 64;
+constexpr std::size_t kPiece = 16 * 1024;
+
+template <class Value>
+Value Load(const char* bytes) {
+    Value value;
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
+}
+
+Date DateOf(const SQL_DATE_STRUCT& date) {
+    return Date::FromYearMonthDay(date.year, date.month, date.day);
+}
+
+/// Zeros after the fourth decimal say nothing.
+std::string_view WithoutZeros(std::string_view text) {
+    const auto mark = text.find_first_of(".,");
+    if (mark == std::string_view::npos) return text;
+    const auto least = mark + 1 + Currency::kDecimals;
+    while (text.size() > least && text.back() == '0') text.remove_suffix(1);
+    return text;
+}
+
+/// Exactly: as an amount when four decimals are enough, otherwise as the text itself, which
+/// amounts and rates are read from as well. Some drivers write the decimal mark of the process.
+void AddDecimal(std::string_view given, Row& row) {
+    std::array<char, kDecimalWidth> buffer{};
+    std::string_view text = WithoutZeros(given);
+    const auto mark = text.find_first_of(".,");
+    if (mark != std::string_view::npos && text[mark] == ',') {
+        std::ranges::copy(text, buffer.begin());
+        buffer[mark] = '.';
+        text = {buffer.data(), text.size()};
+    }
+    std::int64_t scaled = 0;
+    const bool four =
+        mark == std::string_view::npos || text.size() - mark - 1 <= Currency::kDecimals;
+    if (four && decimal::Parse(text, Currency::kDecimals, scaled))
+        row.AddAmount(Currency::FromScaled(scaled));
+    else
+        row.AddText(text);
+}
+
+}  // namespace
+
+OdbcColumn::Kind OdbcColumn::KindOf(short sql_type) {
+    switch (sql_type) {
+        case SQL_BIT:
+        case SQL_TINYINT:
+        case SQL_SMALLINT:
+        case SQL_INTEGER:
+        case SQL_BIGINT:
+            return Kind::kInteger;
+        case SQL_REAL:
+        case SQL_FLOAT:
+        case SQL_DOUBLE:
+            return Kind::kReal;
+        case SQL_NUMERIC:
+        case SQL_DECIMAL:
+            return Kind::kDecimal;
+        case SQL_TYPE_DATE:
+            return Kind::kDate;
+        case SQL_BINARY:
+        case SQL_VARBINARY:
+        case SQL_LONGVARBINARY:
+            return Kind::kBinary;
+        default:
+            return Kind::kText;
+    }
+}
+
+OdbcColumn::OdbcColumn(void* statement, unsigned short number) : number_(number) {
+    std::array<SQLWCHAR, 256> name{};
+    SQLSMALLINT length = 0, type = 0, decimals = 0, nullable = 0;
+    SQLULEN size = 0;
+    const auto result = SQLDescribeColW(statement, number, name.data(), name.size(), &length, &type,
+                                        &size, &decimals, &nullable);
+    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement).Describe());
+    name_ = ToUtf8(name.data());
+    kind_ = KindOf(type);
+}
+
+short OdbcColumn::CType() const {
+    switch (kind_) {
+        case Kind::kInteger:
+            return SQL_C_SBIGINT;
+        case Kind::kReal:
+            return SQL_C_DOUBLE;
+        case Kind::kDate:
+            return SQL_C_TYPE_DATE;
+        default:
+            return SQL_C_CHAR;
+    }
+}
+
+std::size_t OdbcColumn::Width() const {
+    switch (kind_) {
+        case Kind::kInteger:
+            return sizeof(SQLBIGINT);
+        case Kind::kReal:
+            return sizeof(SQLDOUBLE);
+        case Kind::kDate:
+            return sizeof(SQL_DATE_STRUCT);
+        case Kind::kDecimal:
+            return kDecimalWidth;
+        default:
+            return kTextWidth;
+    }
+}
+
+bool OdbcColumn::Bind(void* statement, std::size_t rows) {
+    values_.resize(rows * Width());
+    lengths_.resize(rows);
+    return SQL_SUCCEEDED(SQLBindCol(statement, number_, CType(), values_.data(),
+                                    static_cast<SQLLEN>(Width()), lengths_.data()));
+}
+
+bool OdbcColumn::IsCut(std::size_t row) const {
+    if (CType() != SQL_C_CHAR) return false;
+    const SQLLEN length = lengths_[row];
+    return length == SQL_NO_TOTAL || length >= static_cast<SQLLEN>(Width());
+}
+
+void OdbcColumn::Read(std::size_t row, Row& out) const {
+    if (lengths_[row] == SQL_NULL_DATA) return out.AddNull();
+    const char* const value = At(row);
+    const auto text = [&] {
+        return std::string_view(value, static_cast<std::size_t>(lengths_[row]));
+    };
+    switch (kind_) {
+        case Kind::kInteger:
+            return out.AddInteger(Load<SQLBIGINT>(value));
+        case Kind::kReal:
+            return out.AddReal(Load<SQLDOUBLE>(value));
+        case Kind::kDate:
+            return out.AddDate(DateOf(Load<SQL_DATE_STRUCT>(value)));
+        case Kind::kDecimal:
+            return AddDecimal(text(), out);
+        default:
+            return out.AddText(text());
+    }
+}
+
+bool OdbcColumn::ReadLong(void* statement, std::string& text) const {
+    text.clear();
+    std::vector<char> piece(kPiece);
+    for (;;) {
+        SQLLEN left = 0;
+        const auto result = SQLGetData(statement, number_, SQL_C_CHAR, piece.data(),
+                                       static_cast<SQLLEN>(piece.size()), &left);
+        if (result == SQL_NO_DATA) return true;
+        if (!SQL_SUCCEEDED(result)) return false;
+        text += piece.data();
+        if (result == SQL_SUCCESS) return true;
+    }
+}
+
+}  // namespace varnel::drivers

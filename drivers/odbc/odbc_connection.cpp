@@ -1,0 +1,88 @@
+#include "drivers/odbc/odbc_connection.h"
+
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlucode.h>
+
+#include "drivers/odbc/odbc_error.h"
+#include "drivers/odbc/utf16.h"
+
+namespace varnel::drivers {
+
+namespace {
+
+/// Numbers that ODBC passes as pointers.
+SQLPOINTER AsPointer(SQLULEN value) {
+    return reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
+}
+
+}  // namespace
+
+void OdbcConnection::Free::operator()(void* handle) const { SQLFreeHandle(type, handle); }
+void FreeStatement::operator()(void* handle) const { SQLFreeHandle(SQL_HANDLE_STMT, handle); }
+
+OdbcConnection::Handle OdbcConnection::NewHandle(short type, void* parent) {
+    SQLHANDLE handle = nullptr;
+    if (!SQL_SUCCEEDED(SQLAllocHandle(type, parent, &handle)))
+        RaiseOdbc("There is not enough memory for a database connection.");
+    return {handle, Free{type}};
+}
+
+OdbcConnection::OdbcConnection(const std::string& connection_string, OdbcAccess access)
+    : environment_(NewHandle(SQL_HANDLE_ENV, nullptr)), connection_(nullptr, Free{}) {
+    SQLSetEnvAttr(environment_.get(), SQL_ATTR_ODBC_VERSION, AsPointer(SQL_OV_ODBC3), 0);
+    connection_ = NewHandle(SQL_HANDLE_DBC, environment_.get());
+    auto text = ToUtf16(connection_string);
+    const auto result = SQLDriverConnectW(connection_.get(), nullptr, text.data(), SQL_NTS, nullptr,
+                                          0, nullptr, SQL_DRIVER_NOPROMPT);
+    if (!SQL_SUCCEEDED(result))
+        RaiseOdbc("The database cannot be opened: " +
+                  Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
+    connected_ = true;
+    if (access == OdbcAccess::kRead)
+        Execute("SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY");
+    SwitchAutocommit(false);
+}
+
+OdbcConnection::~OdbcConnection() {
+    if (!connected_) return;
+    Rollback();
+    SQLDisconnect(connection_.get());
+}
+
+void OdbcConnection::SwitchAutocommit(bool on) const {
+    const auto value = AsPointer(on ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF);
+    if (!SQL_SUCCEEDED(
+            SQLSetConnectAttrW(connection_.get(), SQL_ATTR_AUTOCOMMIT, value, SQL_IS_UINTEGER)))
+        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
+}
+
+void* OdbcConnection::NewStatement() const {
+    SQLHANDLE handle = nullptr;
+    if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_STMT, connection_.get(), &handle)))
+        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
+    return handle;
+}
+
+void OdbcConnection::Execute(std::string_view sql) const {
+    const OdbcStatementHandle statement(NewStatement());
+    auto text = ToUtf16(sql);
+    const auto result = SQLExecDirectW(statement.get(), text.data(), SQL_NTS);
+    if (SQL_SUCCEEDED(result) || result == SQL_NO_DATA) return;
+    constexpr std::size_t kShown = 300;
+    RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), sql.substr(0, kShown));
+}
+
+void OdbcConnection::Commit() const {
+    if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_COMMIT)))
+        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
+}
+
+bool OdbcConnection::Rollback() const noexcept {
+    if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_ROLLBACK))) return false;
+    SQLUINTEGER dead = SQL_CD_FALSE;
+    SQLGetConnectAttrW(connection_.get(), SQL_ATTR_CONNECTION_DEAD, &dead, sizeof dead, nullptr);
+    return dead == SQL_CD_FALSE;
+}
+
+}  // namespace varnel::drivers

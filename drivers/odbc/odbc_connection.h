@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace varnel::drivers {
+
+/// What a session may do.
+enum class OdbcAccess { kRead, kWrite };
+
+/// An open connection. Everything runs in a transaction, which `EndTransaction` closes. For one
+/// thread at a time.
+class OdbcConnection {
+  public:
+    /// Raises error 3709 when there is no driver, no server or no right to enter. Messages show
+    /// nothing of the string.
+    OdbcConnection(const std::string& connection_string, OdbcAccess access);
+    ~OdbcConnection();
+    OdbcConnection(const OdbcConnection&) = delete;
+    OdbcConnection& operator=(const OdbcConnection&) = delete;
+
+    /// A new statement handle, to be freed by who asked for it.
+    void* NewStatement() const;
+    /// Runs a statement without rows; raises error 3709 when it fails.
+    void Execute(std::string_view sql) const;
+    void Commit() const;
+    /// False when the connection is of no use any more.
+    bool Rollback() const noexcept;
+
+  private:
+    struct Free {
+        short type;
+        void operator()(void* handle) const;
+    };
+    using Handle = std::unique_ptr<void, Free>;
+
+    static Handle NewHandle(short type, void* parent);
+    void SwitchAutocommit(bool on) const;
+
+    Handle environment_, connection_;
+    bool connected_ = false;
+};
+
+/// Frees a statement handle.
+struct FreeStatement {
+    void operator()(void* handle) const;
+};
+using OdbcStatementHandle = std::unique_ptr<void, FreeStatement>;
+
+}  // namespace varnel::drivers

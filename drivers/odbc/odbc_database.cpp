@@ -1,0 +1,15 @@
+#include "drivers/odbc/odbc_database.h"
+
+#include "drivers/odbc/odbc_command.h"
+#include "drivers/odbc/odbc_pool.h"
+
+namespace varnel::drivers {
+
+OdbcConnections::OdbcConnections(std::function<bool()> cancelled)
+    : pool_(std::make_shared<OdbcPool>(std::move(cancelled))) {}
+
+std::shared_ptr<Command> NewOdbcCommand(OdbcConnections& connections) {
+    return std::make_shared<OdbcCommand>(connections.Pool());
+}
+
+}  // namespace varnel::drivers

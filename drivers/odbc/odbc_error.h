@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace varnel::drivers {
+
+/// Raises error 3709 of source "ODBC".
+[[noreturn]] void RaiseOdbc(const std::string& description);
+
+/// The same for a statement, which ends the description on a line of its own.
+[[noreturn]] void RaiseOdbc(const std::string& description, std::string_view statement);
+
+/// What the driver says about the last failure at a handle.
+struct OdbcDiagnosis {
+    std::string state;    ///< SQLSTATE, five characters.
+    std::string message;  ///< Of the database, on one line, without a full stop.
+
+    /// The message with its SQLSTATE as a sentence, and what to do about it where that is known.
+    std::string Describe() const;
+};
+
+/// `type` and `handle` as the driver manager knows them.
+OdbcDiagnosis Diagnose(short type, void* handle);
+
+}  // namespace varnel::drivers

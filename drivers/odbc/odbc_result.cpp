@@ -1,0 +1,118 @@
+#include "drivers/odbc/odbc_result.h"
+
+#include <sql.h>
+#include <sqlext.h>
+#include <sqlucode.h>
+
+#include "drivers/odbc/odbc_error.h"
+#include "drivers/odbc/odbc_parameters.h"
+#include "drivers/odbc/one_query.h"
+#include "drivers/odbc/utf16.h"
+#include "drivers/query_faults.h"
+
+namespace varnel::drivers {
+
+namespace {
+
+/// A divisor of the rows that the driver asks the server for at a time.
+constexpr SQLULEN kBlockRows = 250;
+
+void SetAttribute(void* statement, SQLINTEGER attribute, SQLULEN value) {
+    const auto pointer = reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
+    SQLSetStmtAttrW(statement, attribute, pointer, SQL_IS_UINTEGER);
+}
+
+std::string CheckedText(const OdbcQuery& query) {
+    OneQuery found = FindQuery(query.text);
+    if (found.parameters != query.parameters.size())
+        RaiseOdbc(WrongParameterCount(found.parameters, query.parameters.size()), query.text);
+    return std::move(found.text);
+}
+
+}  // namespace
+
+OdbcResult::OdbcResult(const OdbcQuery& query) : query_(query) {
+    const std::string text = CheckedText(query);
+    connection_ = query.pool->Take(query.connection_string);
+    statement_.reset(connection_->NewStatement());
+    SetAttribute(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, static_cast<SQLULEN>(query.timeout));
+    SetAttribute(statement_.get(), SQL_ATTR_ROW_ARRAY_SIZE, kBlockRows);
+    SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROWS_FETCHED_PTR, &rows_, 0);
+    Execute(text);
+    Describe();
+}
+
+OdbcResult::~OdbcResult() {
+    statement_.reset();
+    if (connection_ != nullptr) query_.pool->Give(query_.connection_string, std::move(connection_));
+}
+
+void OdbcResult::Execute(const std::string& text) {
+    const OdbcParameters parameters(statement_.get(), query_.text, query_.parameters);
+    auto wide_text = ToUtf16(text);
+    const OdbcWatch::Guard guard(query_.pool->Watch(), statement_.get());
+    if (!SQL_SUCCEEDED(SQLExecDirectW(statement_.get(), wide_text.data(), SQL_NTS))) Fail();
+}
+
+void OdbcResult::Describe() {
+    SQLSMALLINT count = 0;
+    SQLNumResultCols(statement_.get(), &count);
+    if (count == 0) RaiseOdbc("The statement gives no rows: a query was expected.", query_.text);
+    columns_.reserve(static_cast<std::size_t>(count));
+    for (SQLUSMALLINT number = 1; number <= count; ++number) {
+        auto& column = columns_.emplace_back(statement_.get(), number);
+        if (column.IsBinary())
+            RaiseOdbc("Column \"" + column.Name() +
+                          "\" holds binary data, which reports cannot read: leave it out.",
+                      query_.text);
+        if (!column.Bind(statement_.get(), kBlockRows)) Fail();
+    }
+}
+
+Columns OdbcResult::ReadColumns() const {
+    Columns columns;
+    for (const auto& column : columns_) columns.Add(column.Name());
+    return columns;
+}
+
+bool OdbcResult::FetchBlock() {
+    next_ = 0;
+    rows_ = 0;
+    const OdbcWatch::Guard guard(query_.pool->Watch(), statement_.get());
+    const auto result = SQLFetch(statement_.get());
+    if (!SQL_SUCCEEDED(result) && result != SQL_NO_DATA) Fail();
+    return result != SQL_NO_DATA && rows_ > 0;
+}
+
+bool OdbcResult::Read(Row& row) {
+    if (next_ == rows_ && !FetchBlock()) return false;
+    row.Start(columns_.size());
+    for (const auto& column : columns_) ReadCell(column, row);
+    ++next_;
+    return true;
+}
+
+void OdbcResult::ReadCell(const OdbcColumn& column, Row& row) {
+    if (!column.IsCut(next_)) return column.Read(next_, row);
+    const auto position = static_cast<SQLSETPOSIROW>(next_ + 1);
+    const auto moved = SQLSetPos(statement_.get(), position, SQL_POSITION, SQL_LOCK_NO_CHANGE);
+    if (!SQL_SUCCEEDED(moved) || !column.ReadLong(statement_.get(), long_text_)) Fail();
+    row.AddText(long_text_);
+}
+
+void OdbcResult::Fail() {
+    const auto diagnosis = Diagnose(SQL_HANDLE_STMT, statement_.get());
+    const bool stopped =
+        diagnosis.state == "57014" || diagnosis.state == "HYT00" || diagnosis.state == "HY008";
+    if (stopped && query_.pool->Watch().Cancelled()) Fail(kCancelled);
+    if (stopped && query_.timeout > 0) Fail(TimeLimitReached(query_.timeout));
+    Fail(diagnosis.Describe());
+}
+
+void OdbcResult::Fail(const std::string& description) {
+    statement_.reset();
+    connection_.reset();
+    RaiseOdbc(description, query_.text);
+}
+
+}  // namespace varnel::drivers

@@ -1,0 +1,37 @@
+#include "tests/drivers/odbc_fixture.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "company/schema/schema.h"
+#include "drivers/odbc/odbc_connection.h"
+
+namespace varnel::drivers {
+
+std::string ServerFolder() {
+    const char* folder = std::getenv("VARNEL_POSTGRES");
+    return folder != nullptr && std::filesystem::exists(folder) ? folder : "";
+}
+
+OdbcFixture::OdbcFixture() {
+    static int count = 0;
+    schema_ = "case_" + std::to_string(getpid()) + "_" + std::to_string(++count);
+    Prepare("CREATE SCHEMA " + schema_ + ";" + company::kServerPreludeSql);
+}
+
+OdbcFixture::~OdbcFixture() { Prepare("DROP SCHEMA " + schema_ + " CASCADE"); }
+
+void OdbcFixture::Prepare(const std::string& script) {
+    const OdbcConnection connection(ConnectionString(), OdbcAccess::kWrite);
+    connection.Execute(script);
+    connection.Commit();
+}
+
+std::string OdbcFixture::ConnectionString() {
+    return "Driver={PostgreSQL Unicode};Server=" + ServerFolder() +
+           ";Database=postgres;UID=varnel;ConnSettings={SET search_path TO " + schema_ + "};";
+}
+
+}  // namespace varnel::drivers
