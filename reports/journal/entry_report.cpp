@@ -57,6 +57,7 @@ EntryReport::EntryReport(const Layout& layout, std::int16_t title_text)
 }
 
 void EntryReport::LineColumns::Resolve(const Columns& columns) {
+    id = columns.At("InGLDetId");
     currency_id = columns.At("ExCurrencyId");
     seq_no = columns.At("SeqNo");
     amount = columns.At("DetAmnt");
@@ -230,6 +231,7 @@ void EntryReport::Detail_Format() {
     txtForeign.SetVisible(false);
     txtForeignCode.SetVisible(false);
     const Currency amount = AddLine();
+    LineAdded(amount);
     if (!amount.IsZero()) {
         txtDebit.Clear();
         txtCredit.Clear();

@@ -31,13 +31,17 @@ class EntryReport : public framework::ReportBase,
     /// Says on the page what was selected besides the period.
     virtual void ShowSelection() {}
 
-  private:
     struct LineColumns {
-        Column currency_id, seq_no, amount, foreign_amount, date, description, reference, source,
-            source_key, remarks, project_id, account_number, account_description, project;
+        Column id, currency_id, seq_no, amount, foreign_amount, date, description, reference,
+            source, source_key, remarks, project_id, account_number, account_description, project;
         void Resolve(const Columns& columns);
     };
+    /// Of the rows of the run.
+    const LineColumns& LineAt() const { return columns_; }
+    /// After the line was added up, with its amount, debit positive.
+    virtual void LineAdded(Currency) {}
 
+  private:
     std::string BuildStatement();
     void MoveAmountColumns();
     bool ShowsForeignAmount() const;

@@ -41,9 +41,13 @@ std::int32_t NumberIn(std::string_view text) {
 
 }  // namespace
 
-dsrGeneralLedger::dsrGeneralLedger() : EntryReport(LedgerLayout(), kTitle) {}
+dsrGeneralLedger::dsrGeneralLedger()
+    : EntryReport(LedgerLayout(), kTitle), ComparableReport(Members(), ObjectName()) {}
 
-void dsrGeneralLedger::BeginRun() { account_type_ = NumberIn(At("lblType").Text()); }
+void dsrGeneralLedger::BeginRun() {
+    account_type_ = NumberIn(At("lblType").Text());
+    Mark(), StartComparing(App());
+}
 
 // The line that says whose lines they are takes its room in the page header only when it is there.
 void dsrGeneralLedger::ShowSelection() {
@@ -62,6 +66,25 @@ std::string dsrGeneralLedger::Condition() {
     if (account_type_ != 0)
         condition += " AND GLAcct.AcctType = " + std::to_string(account_type_) + " ";
     return condition;
+}
+
+void dsrGeneralLedger::LineAdded(Currency amount) {
+    if (Compares()) Guard("IComparableReportActions", [&] { AddComparableLine(amount); });
+}
+
+void dsrGeneralLedger::AddComparableLine(Currency amount) {
+    const Row& row = CurrentRow();
+    const LineColumns& at = LineAt();
+    const auto text = [&row](Column column) {
+        std::string value;
+        row.AppendText(column, value);
+        return value;
+    };
+    auto& values = NewComparableRow().Add("entry", row.Integer(at.seq_no));
+    if (!row.IsNull(at.date)) values.Add("date", row.Day(at.date));
+    values.Add("account", text(at.account_number)).Add("description", text(at.description));
+    values.Add("reference", text(at.reference)).Add("amount", amount);
+    Mark(), AddComparableRow(text(at.id));
 }
 
 std::string_view dsrGeneralLedger::DefaultOrder() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/comparable_report.h"
 #include "reports/journal/entry_report.h"
 
 namespace varnel::reports {
@@ -9,7 +10,7 @@ namespace varnel::reports {
 /// The caption of its hidden label `lblType`, read at the start of a run, says whose: "0" takes the
 /// lines of all accounts, any other number those of accounts of that type. A caption that is not a
 /// number counts as 0.
-class dsrGeneralLedger final : public EntryReport {
+class dsrGeneralLedger final : public EntryReport, public framework::ComparableReport {
   public:
     dsrGeneralLedger();
 
@@ -18,8 +19,11 @@ class dsrGeneralLedger final : public EntryReport {
     std::string_view DefaultOrder() const override;
     void BeginRun() override;
     void ShowSelection() override;
+    void LineAdded(Currency amount) override;
 
   private:
+    void AddComparableLine(Currency amount);
+
     std::int32_t account_type_ = 0;
 };
 
