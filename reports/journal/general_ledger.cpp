@@ -44,13 +44,11 @@ std::int32_t NumberIn(std::string_view text) {
 dsrGeneralLedger::dsrGeneralLedger()
     : EntryReport(LedgerLayout(), kTitle), ComparableReport(Members(), ObjectName()) {}
 
-void dsrGeneralLedger::BeginRun() {
-    account_type_ = NumberIn(At("lblType").Text());
-    Mark(), StartComparing(App());
-}
+void dsrGeneralLedger::BeginRun() { account_type_ = NumberIn(At("lblType").Text()); }
 
 // The line that says whose lines they are takes its room in the page header only when it is there.
 void dsrGeneralLedger::ShowSelection() {
+    Mark(), StartComparing(App());
     const bool one_type = account_type_ != 0;
     Control& types = At("lblAcctType");
     types.SetVisible(one_type);
