@@ -33,6 +33,12 @@ ComparableRow& ComparableRow::Add(std::string_view name, const KnownSum& sum) {
     return Add(name, sum.Known() ? Variant(sum.Value()) : Variant(Variant::Null{}));
 }
 
+ComparableRow& ComparableRow::AddOnItsSide(Currency amount) {
+    const Currency zero;
+    Add("debit", amount > zero ? Variant(amount) : Variant());
+    return Add("credit", amount < zero ? Variant(-amount) : Variant());
+}
+
 ComparableReport::ComparableReport(MemberParts& members, std::string_view class_name)
     : class_name_(class_name) {
     members.Add<ComparableReport>(*this, kMembers);

@@ -18,6 +18,7 @@ class dsrBalanceSheet : public StatementReport {
   public:
     dsrBalanceSheet();
 
+    std::string IExcelAddInExport_ExcelAddInTemplate() override { return "BalanceSheet"; }
     void ActiveReport_ReportStart() override;
     void ActiveReport_Terminate() override { control_accounts_.reset(); }
 

@@ -10,6 +10,10 @@ class dsrComparativeBalanceSheet final : public dsrBalanceSheet {
   public:
     dsrComparativeBalanceSheet();
 
+    std::string IExcelAddInExport_ExcelAddInTemplate() override {
+        return "ComparativeBalanceSheet";
+    }
+
   protected:
     std::vector<std::optional<Date>> ClosingDates() override;
     void SetColumnCaptions() override;

@@ -34,7 +34,7 @@ constexpr Member<dsrComparativeIncomeStatement> kMembers[] = {
 }  // namespace
 
 dsrComparativeIncomeStatement::dsrComparativeIncomeStatement()
-    : dsrIncomeStatement(ComparativeIncomeStatementLayout(), kTitle, ", ExCurrencyId") {
+    : IncomeStatementReport(ComparativeIncomeStatementLayout(), kTitle, ", ExCurrencyId") {
     Members().Add<dsrComparativeIncomeStatement>(*this, kMembers);
     SetLines(
         {.row =
@@ -66,7 +66,7 @@ void dsrComparativeIncomeStatement::IsBudgetComparative(bool is_budget) {
 }
 
 void dsrComparativeIncomeStatement::SetPeriods() {
-    dsrIncomeStatement::SetPeriods();
+    IncomeStatementReport::SetPeriods();
     comparison_.reset();
     if (is_budget_)
         comparison_ = ReportPeriod();
@@ -85,7 +85,7 @@ void dsrComparativeIncomeStatement::SetComparativeDateFromDateTo() {
 }
 
 void dsrComparativeIncomeStatement::SetPageHeader() {
-    dsrIncomeStatement::SetPageHeader();
+    IncomeStatementReport::SetPageHeader();
     AlignPageHeaderControls();
     Control& dates = At("lblDatePeriodComp");
     dates.Clear();
@@ -110,12 +110,12 @@ void dsrComparativeIncomeStatement::AlignPageHeaderControls() {
 
 // The budget has no lines to go to.
 std::string dsrComparativeIncomeStatement::ComparisonKey(std::int32_t account_id) const {
-    return is_budget_ ? std::string() : dsrIncomeStatement::ComparisonKey(account_id);
+    return is_budget_ ? std::string() : IncomeStatementReport::ComparisonKey(account_id);
 }
 
 // A comparison that cannot be worked out leaves the amounts of the period alone.
 Sides dsrComparativeIncomeStatement::AmountsOf(const StatementRow& row) {
-    Sides amounts = dsrIncomeStatement::AmountsOf(row);
+    Sides amounts = IncomeStatementReport::AmountsOf(row);
     KnownSum comparison = KnownSum::Unknown();
     if (comparison_)
         Guard("AmountsOf", [&] { Mark(), comparison = KnownSum(Comparison(*row.account_id)); });

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "reports/statements/comparison_period.h"
-#include "reports/statements/income_statement.h"
+#include "reports/statements/income_statement_report.h"
 
 namespace varnel::reports {
 
@@ -14,10 +14,13 @@ namespace varnel::reports {
 /// Late-bound it has, besides those of the income statement, the properties `IsBudgetComparative`,
 /// `NoHeaders` (hides the column captions), and `CumulativeDateFrom` and `CumulativeDateTo`, other
 /// names of the cumulative period.
-class dsrComparativeIncomeStatement final : public dsrIncomeStatement {
+class dsrComparativeIncomeStatement final : public IncomeStatementReport {
   public:
     dsrComparativeIncomeStatement();
 
+    std::string IExcelAddInExport_ExcelAddInTemplate() override {
+        return is_budget_ ? "ComparativeIncomeStatementBudget" : "ComparativeIncomeStatement";
+    }
     bool IReport_NoHeaders() override { return no_headers_; }
 
     bool IsBudgetComparative() const { return is_budget_; }

@@ -30,7 +30,8 @@ StatementReport::StatementReport(const Layout& layout, const Facts& facts)
     : ReportBase(layout, facts),
       SegmentFilter(Members()),
       FilterableReport(Members()),
-      RevaluedReport(Members()) {
+      RevaluedReport(Members()),
+      ExcelAddInExport(Members()) {
     Handle("Detail_Format", &StatementReport::Detail_Format);
 }
 
@@ -39,6 +40,17 @@ void StatementReport::IReport_Initialize() {
         ReadHomeCurrency();
         Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
     });
+}
+
+void StatementReport::PrepareLike(StatementReport& other) {
+    IReport_Application(other.AppRef());
+    IReport_DateFrom(other.DateFrom());
+    IReport_DateTo(other.DateTo());
+    IReport_DisplayForeignCurrency(other.DisplayForeignCurrency());
+    SegmentFilter::operator=(other);
+    FilterableReport::operator=(other);
+    RevaluedReport::operator=(other);
+    include_zero_balances_ = other.include_zero_balances_;
 }
 
 void StatementReport::IReportConfig_ShowConfigurationScreen() {
@@ -132,6 +144,7 @@ void StatementReport::ShowAccount() {
     ShowKey();
     const auto amounts = (Mark(), CountAccount());
     if (!amounts) return Detail.Skip();
+    if (row_.account_id) OnAccount(*row_.account_id, *amounts);
     Mark(), Show(line_, *amounts, SenseOf(row_.type));
 }
 

@@ -6,6 +6,7 @@
 
 #include "framework/custom_criteria.h"
 #include "framework/earnings_accounts.h"
+#include "framework/excel_add_in_export.h"
 #include "framework/report_base.h"
 #include "framework/revalued_report.h"
 #include "framework/segment_filter.h"
@@ -33,6 +34,7 @@ class StatementReport : public framework::ReportBase,
                         public framework::SegmentFilter,
                         public framework::FilterableReport,
                         public framework::RevaluedReport,
+                        public framework::ExcelAddInExport,
                         public IReportConfig {
   public:
     void IReport_Initialize() override;
@@ -55,6 +57,12 @@ class StatementReport : public framework::ReportBase,
     virtual std::string ComparisonKey(std::int32_t account_id) const {
         return std::to_string(account_id) + "|LastYear";
     }
+
+    /// An account is about to print with these amounts, which have the sign they print with.
+    virtual void OnAccount(std::int32_t, const Sides&) {}
+
+    /// Sets all that a host can have set on `other`, whose rates and filter tool are then shared.
+    void PrepareLike(StatementReport& other);
 
     /// Hands the rows of the query to the run and begins its totals.
     void StartRows(const std::string& statement);

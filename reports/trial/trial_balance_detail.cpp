@@ -70,7 +70,8 @@ constexpr Member<dsrTrialBalanceDetail> kMembers[] = {
 dsrTrialBalanceDetail::dsrTrialBalanceDetail()
     : TrialReport(
           TrialBalanceDetailLayout(),
-          {.title_text = 30002, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}) {
+          {.title_text = 30002, .date_display = DateDisplay::kFromTo, .by_fiscal_year = true}),
+      ComparableReport(Members(), ObjectName()) {
     Members().Add<dsrTrialBalanceDetail>(*this, kMembers);
     Handle("PageHeader_Format", &dsrTrialBalanceDetail::PageHeader_Format);
     Handle("ghAccount_Format", &dsrTrialBalanceDetail::ghAccount_Format);
@@ -97,6 +98,7 @@ void dsrTrialBalanceDetail::IReportConfig_ShowConfigurationScreen() {
 
 // A report that could not start knows no total.
 void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
+    Guard("SetComparableAccoutGroup", [&] { Mark(), StartComparing(App()); });
     Guard("ActiveReport_ReportStart", [&] {
         totals_.Lose();
         balance_total_.Lose();
@@ -216,9 +218,51 @@ void dsrTrialBalanceDetail::ghAccount_Format() {
     const bool left_out = !include_zero_balances_ && !IsLine() && forward.balance.IsZero() &&
                           forward.unrealized.IsZero() && Amounts().Difference().IsZero();
     if (left_out) return ghAccount.Skip();
+    if (Compares()) SetComparableAccoutGroup(forward);
     ShowAccountKey();
     ShowUnrealized(forward.unrealized);
     Mark(), ShowBalance(forward_, KnownSum(forward.balance));
+}
+
+void dsrTrialBalanceDetail::SetComparableAccoutGroup(const Forward& forward) {
+    Guard("SetComparableAccoutGroup", [&] {
+        AddComparableAccoutGroup();
+        AddComparableBalanceForward(forward);
+    });
+}
+
+void dsrTrialBalanceDetail::AddComparableAccoutGroup() {
+    const std::string caption = txtGLAcctId.Text() + ' ' + txtDescr.Text();
+    Mark(), BeginComparableGroup(std::to_string(current_.account.id), caption);
+}
+
+void dsrTrialBalanceDetail::AddComparableBalanceForward(const Forward& forward) {
+    auto& row = NewComparableRow().Add("forward", forward.balance);
+    if (!forward.unrealized.IsZero()) row.Add("unrealized", forward.unrealized);
+    Mark(), AddComparableRow("forward");
+}
+
+// The running balance is left out: it follows from the rest, and one line that changed would be a
+// change of all after it.
+void dsrTrialBalanceDetail::AddComparableAccountRow(Currency amount) {
+    Guard("AddComparableAccountRow", [&] {
+        if (!InComparableGroup()) AddComparableAccoutGroup();
+        const Row& line = CurrentRow();
+        auto& row =
+            NewComparableRow().Add("entry", txtSeqNo.Text()).Add("source", txtSource.Text());
+        Mark(), row.Add("date", line.Day(columns_.date));
+        row.Add("description", txtDetDesc.Text());
+        if (IsInForeignCurrency(LineCurrency())) {
+            Mark(), row.Add("foreign", line.Amount(columns_.foreign));
+            Mark(), row.Add("currency", CurrencyCode(LineCurrency()));
+        }
+        row.AddOnItsSide(amount);
+        Mark(), AddComparableRow(std::to_string(line.Integer(columns_.id)));
+    });
+}
+
+void dsrTrialBalanceDetail::EndComparableAccount() {
+    Guard("SetComparableAccoutGroup", [&] { Mark(), EndComparableGroup(); });
 }
 
 std::int32_t dsrTrialBalanceDetail::LineCurrency() const {
@@ -261,11 +305,19 @@ void dsrTrialBalanceDetail::LoseLine() {
     LoseBalance();
 }
 
+bool dsrTrialBalanceDetail::IsInForeignCurrency(std::int32_t currency_id) const {
+    return DisplayForeignCurrency() && currency_id != Amounts().HomeCurrencyId();
+}
+
+const std::string& dsrTrialBalanceDetail::CurrencyCode(std::int32_t currency_id) {
+    return GetCurrencyInfo().GetCurrencies().Item(currency_id).code;
+}
+
 void dsrTrialBalanceDetail::ShowForeignAmount() {
     const std::int32_t currency_id = LineCurrency();
-    if (!DisplayForeignCurrency() || currency_id == Amounts().HomeCurrencyId()) return;
+    if (!IsInForeignCurrency(currency_id)) return;
     const Currency foreign = (Mark(), CurrentRow().Amount(columns_.foreign));
-    const std::string& code = (Mark(), GetCurrencyInfo().GetCurrencies().Item(currency_id).code);
+    const std::string& code = (Mark(), CurrencyCode(currency_id));
     text_.clear();
     Mark(), App().GetFormats().AppendAmount(foreign, text_);
     text_ += ' ';
@@ -298,6 +350,7 @@ void dsrTrialBalanceDetail::Detail_Format() {
     ShowKey();
     const auto amount = AddLine();
     if (!amount) return;
+    if (Compares()) AddComparableAccountRow(*amount);
     Mark(), ShowBalance(running_, current_.balance);
     Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, *amount, text_);
     ShowForeignAmount();
@@ -306,6 +359,7 @@ void dsrTrialBalanceDetail::Detail_Format() {
 }
 
 void dsrTrialBalanceDetail::gfAccount_Format() {
+    if (InComparableGroup()) EndComparableAccount();
     for (Control* control : {&txtDebitTotal, &txtCreditTotal}) control->Clear();
     account_balance_.Clear();
     const bool all_zero =

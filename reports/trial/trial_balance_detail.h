@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "framework/comparable_report.h"
 #include "framework/debit_credit.h"
 #include "reports/trial/balance_controls.h"
 #include "reports/trial/trial_report.h"
@@ -15,7 +16,9 @@ namespace varnel::reports {
 /// Late-bound it has the properties `HideInactiveAccounts`, `ProjIds` (comma-separated project
 /// ids), `AccountIds` (comma-separated internal account ids) and `SingleAcctId`; empty and 0 take
 /// all.
-class dsrTrialBalanceDetail final : public TrialReport, public IReportConfig {
+class dsrTrialBalanceDetail final : public TrialReport,
+                                    public framework::ComparableReport,
+                                    public IReportConfig {
   public:
     dsrTrialBalanceDetail();
 
@@ -60,10 +63,17 @@ class dsrTrialBalanceDetail final : public TrialReport, public IReportConfig {
     bool IsLine() const { return !CurrentRow().IsNull(columns_.id); }
     std::int32_t LineCurrency() const;
     Currency LineAmount(std::int32_t currency_id);
+    bool IsInForeignCurrency(std::int32_t currency_id) const;
+    const std::string& CurrencyCode(std::int32_t currency_id);
     std::optional<Currency> AddLine();
     void LoseLine();
     void ShowForeignAmount();
     void ShowKey();
+    void SetComparableAccoutGroup(const Forward& forward);
+    void AddComparableAccoutGroup();
+    void AddComparableBalanceForward(const Forward& forward);
+    void AddComparableAccountRow(Currency amount);
+    void EndComparableAccount();
     void ShowBalance(const BalanceControls& controls, const framework::KnownSum& balance);
     void SetAdjControlsPosition(bool visible);
     void SetAdjControlsValue();

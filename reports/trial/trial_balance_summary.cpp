@@ -33,7 +33,9 @@ dsrTrialBalanceSummary::dsrTrialBalanceSummary()
     : TrialReport(TrialBalanceSummaryLayout(), {.title_text = 30001,
                                                 .date_display = DateDisplay::kFromTo,
                                                 .by_account_number = true,
-                                                .by_fiscal_year = true}) {
+                                                .by_fiscal_year = true}),
+      ComparableReport(Members(), ObjectName()),
+      ExcelAddInExport(Members()) {
     Handle("PageHeader_Format", &dsrTrialBalanceSummary::PageHeader_Format);
     Handle("Detail_Format", &dsrTrialBalanceSummary::Detail_Format);
     Handle("ReportFooter_Format", &dsrTrialBalanceSummary::ReportFooter_Format);
@@ -47,6 +49,7 @@ void dsrTrialBalanceSummary::IReportConfig_ShowConfigurationScreen() {
 
 // A report that could not start knows no total.
 void dsrTrialBalanceSummary::ActiveReport_ReportStart() {
+    Guard("IComparableReportActions", [&] { Mark(), StartComparing(App()); });
     Guard("ActiveReport_ReportStart", [&] {
         totals_.Lose();
         foreign_used_ = false;
@@ -105,8 +108,13 @@ void dsrTrialBalanceSummary::ShowKey(const std::string& key) {
     for (Control* control : {&txtDebit, &txtCredit, &txtAcctId, &txtDescr}) control->SetTag(key);
 }
 
+bool dsrTrialBalanceSummary::IsInForeignCurrency(const TrialAccount& account) const {
+    return DisplayForeignCurrency() && account.currency_id != Amounts().HomeCurrencyId() &&
+           !Amounts().IsRetainedEarnings(account);
+}
+
 void dsrTrialBalanceSummary::ShowForeignBalance(const TrialAccount& account) {
-    if (!DisplayForeignCurrency() || account.currency_id == Amounts().HomeCurrencyId()) return;
+    if (!IsInForeignCurrency(account)) return;
     const Currency foreign = (Mark(), Amounts().ForeignBalance(account));
     if (foreign.IsZero()) return;
     text_.clear();
@@ -120,6 +128,21 @@ void dsrTrialBalanceSummary::ShowForeignBalance(const TrialAccount& account) {
 
 bool dsrTrialBalanceSummary::IsLeftOut(Currency amount) const {
     return amount.IsZero() && (!include_zero_balances_ || CurrentRow().Truth(inactive_));
+}
+
+void dsrTrialBalanceSummary::IComparableReportActions(const TrialAccount& account,
+                                                      Currency amount) {
+    Guard("IComparableReportActions", [&] {
+        auto& row = NewComparableRow();
+        row.Add("account", txtAcctId.Text()).Add("description", txtDescr.Text());
+        if (IsInForeignCurrency(account)) {
+            const Currency foreign = (Mark(), Amounts().ForeignBalance(account));
+            if (!foreign.IsZero())
+                row.Add("foreign", foreign).Add("currency", txtCurrencyCode.Text());
+        }
+        row.AddOnItsSide(amount);
+        Mark(), AddComparableRow(std::to_string(account.id));
+    });
 }
 
 // The amount and its total come before anything is formatted.
@@ -142,8 +165,9 @@ void dsrTrialBalanceSummary::Detail_Format() {
         throw;
     }
     if (IsLeftOut(amount)) return Detail.Skip();
+    if (Compares()) IComparableReportActions(account, amount);
     Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
-    if (!Amounts().IsRetainedEarnings(account)) ShowForeignBalance(account);
+    ShowForeignBalance(account);
 }
 
 void dsrTrialBalanceSummary::PageHeader_Format() {

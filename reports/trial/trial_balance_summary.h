@@ -2,17 +2,23 @@
 
 #include <string>
 
+#include "framework/comparable_report.h"
 #include "framework/debit_credit.h"
+#include "framework/excel_add_in_export.h"
 #include "reports/trial/trial_report.h"
 
 namespace varnel::reports {
 
 /// Trial balance summary: one line an account with its balance at the end of the period, in a debit
 /// or a credit column.
-class dsrTrialBalanceSummary final : public TrialReport, public IReportConfig {
+class dsrTrialBalanceSummary final : public TrialReport,
+                                     public framework::ComparableReport,
+                                     public framework::ExcelAddInExport,
+                                     public IReportConfig {
   public:
     dsrTrialBalanceSummary();
 
+    std::string IExcelAddInExport_ExcelAddInTemplate() override { return "TrialBalance"; }
     void IReportConfig_ShowConfigurationScreen() override;
     void ActiveReport_ReportStart() override;
 
@@ -22,8 +28,10 @@ class dsrTrialBalanceSummary final : public TrialReport, public IReportConfig {
     void PlaceColumns();
     void ResolveColumns(const Columns& columns);
     void ShowKey(const std::string& key);
+    bool IsInForeignCurrency(const TrialAccount& account) const;
     void ShowForeignBalance(const TrialAccount& account);
     bool IsLeftOut(Currency amount) const;
+    void IComparableReportActions(const TrialAccount& account, Currency amount);
     void SeAdjControlsPosition(bool visible);
     void SetAdjControlsValue();
 
