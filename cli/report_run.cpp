@@ -90,6 +90,16 @@ std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
     return host;
 }
 
+OutputLayout LayoutOf(const RunRequest& request, const RunSettings& settings) {
+    OutputLayout layout{.page = settings.page};
+    if (!IsShownOnTerminal(request)) return layout;
+    layout.columns = TerminalColumns();
+    layout.bold = UsesTerminalStyles();
+    return layout;
+}
+
+}  // namespace
+
 engine::DocumentInfo InfoOf(IReport& report, company::CompanyHost& host,
                             const std::string& language) {
     const bool french = host.Language() == company::Language::kFrench;
@@ -102,15 +112,6 @@ engine::DocumentInfo InfoOf(IReport& report, company::CompanyHost& host,
             .date = host.SessionDate().ToIso()};
 }
 
-OutputLayout LayoutOf(const RunRequest& request, const RunSettings& settings) {
-    OutputLayout layout{.page = settings.page};
-    if (!IsShownOnTerminal(request)) return layout;
-    layout.columns = TerminalColumns();
-    layout.bold = UsesTerminalStyles();
-    return layout;
-}
-
-/// Tells of the messages that were shown, last of all.
 int Conclude(const MessageLog& log, bool written, Console& console) {
     if (!written) ThrowIfInterrupted();
     if (log.Count() == 0) return kDone;
@@ -121,38 +122,48 @@ int Conclude(const MessageLog& log, bool written, Console& console) {
     return kMessagesShown;
 }
 
-/// A statement that a filter spoils is long: what to look at in it is what the user wrote.
-void PointAtFilter(const std::string& filter, Console& console) {
-    if (filter.empty() || StopSignal() != 0) return;
+void PointAtFilter(const ReportEntry& entry, const std::string& filter, Console& console) {
+    if (filter.empty() || entry.filter_gives_rates || StopSignal() != 0) return;
     console.Say("in --filter \"" + filter +
                 "\", look at the names of columns, the operators and the quotes");
 }
 
-}  // namespace
-
-int RunReport(const RunRequest& request, Console& console) {
-    const ReportEntry& entry = FindReport(request.report);
-    const RunSettings settings = ReadSettings(request);
-    const OutputFormat& format = ChooseFormat(request);
+void CheckRequest(const ReportEntry& entry, const RunRequest& request, const RunSettings& settings,
+                  const OutputFormat& format) {
     RefuseOtherOptions(entry, request);
     RequireSubject(entry, request);
     RefuseFigures(entry, settings);
     CheckFiles(request, format);
     CheckTerminal(request);
-    if (IsShownOnTerminal(request)) console.SwitchProgressOff();
+}
 
-    MessageLog log(console);
+PreparedReport PrepareReport(const ReportEntry& entry, const RunRequest& request,
+                             const RunSettings& settings, MessageLog& log) {
+    const auto told_before = log.Count();
     const auto dialogs = std::make_shared<RunDialogs>();
     const auto host = OpenHost(request, settings, log, dialogs);
     const auto report = MakeReport(entry, entry.arguments(settings, *host));
-    if (report == nullptr) return Conclude(log, false, console);
+    if (report == nullptr) return {host, nullptr};
     PutSubject(*report, entry, *host, request);
     PutCumulativePeriod(*report, entry, host->CurrentCompany(), settings);
     ConfigureReport(*report, host, request, settings);
     PutReconciliation(*report, entry, *host, request, settings);
-    if (auto* config = dynamic_cast<IReportConfig*>(report.get()); config && log.Count() == 0)
+    auto* const config = dynamic_cast<IReportConfig*>(report.get());
+    if (config != nullptr && log.Count() == told_before)
         ConfigureOptions(*config, *dialogs, settings.options, request.configure);
-    if (log.Count() > 0) return Conclude(log, false, console);
+    return {host, log.Count() == told_before ? report : nullptr};
+}
+
+int RunReport(const RunRequest& request, Console& console) {
+    const ReportEntry& entry = FindReport(request.report);
+    const RunSettings settings = ReadSettings(request);
+    const OutputFormat& format = ChooseFormat(request);
+    CheckRequest(entry, request, settings, format);
+    if (IsShownOnTerminal(request)) console.SwitchProgressOff();
+
+    MessageLog log(console);
+    const auto [host, report] = PrepareReport(entry, request, settings, log);
+    if (report == nullptr) return Conclude(log, false, console);
 
     OutputFile output(request.output.empty() ? "-" : request.output);
     RunMonitor monitor(console, host->Messages());
@@ -164,7 +175,7 @@ int RunReport(const RunRequest& request, Console& console) {
     if (written)
         output.Commit();
     else
-        PointAtFilter(entry.filter_gives_rates ? "" : request.filter, console);
+        PointAtFilter(entry, request.filter, console);
     return Conclude(log, written, console);
 }
 

@@ -21,7 +21,7 @@ class ComparableRow {
     ComparableRow& Add(std::string_view name, Variant value);
     /// Null when the sum is not known.
     ComparableRow& Add(std::string_view name, const KnownSum& sum);
-    /// A debit-positive amount as "debit" and "credit", the other one empty; zero leaves both empty.
+    /// A debit-positive amount as "debit" or "credit", the other one empty; zero leaves both so.
     ComparableRow& AddOnItsSide(Currency amount);
     std::span<const ComparableReportSink::NamedValue> Columns() const {
         return {columns_.data(), count_};

@@ -8,6 +8,7 @@ constexpr Command kCommands[] = {
     {"demo", "Make the database of a demo company", DescribeDemo},
     {"reports", "List the reports, with the options each takes", DescribeReports},
     {"run", "Run a report", DescribeRun},
+    {"compare", "Run a report twice and list what changed", DescribeCompare},
     {"completion", "Print a script that completes commands and options", DescribeCompletion},
 };
 

@@ -28,6 +28,7 @@ std::span<const Command> Commands();
 Command::Action DescribeDemo(CLI::App& app);
 Command::Action DescribeReports(CLI::App& app);
 Command::Action DescribeRun(CLI::App& app);
+Command::Action DescribeCompare(CLI::App& app);
 Command::Action DescribeCompletion(CLI::App& app);
 
 }  // namespace varnel::cli

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "cli/commands/command.h"
+#include "cli/compare_run.h"
 #include "cli/errors.h"
 #include "cli/report_table.h"
 
@@ -62,6 +63,7 @@ std::string BuiltReports() {
 /// The words that a command takes by itself: reports, shells; a file's name is left to the shell.
 std::string PlainWords(const std::string& command) {
     if (command == "run") return BuiltReports();
+    if (command == "compare") return ComparableReports();
     return command == "completion" ? "bash" : "";
 }
 

@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
-#include "cli/commands/arguments.h"
+#include "cli/commands/run_arguments.h"
 #include "cli/report_run.h"
 #include "cli/run_options.h"
 
@@ -20,28 +20,12 @@ constexpr const char* kFooter =
     "  varnel run general-journal --company shop.db --segments 3,7 -o journal.pdf\n"
     "  varnel run general-journal --company shop.db -O csv -o - | head";
 
-void AddOption(CLI::App& app, const RunOption& option, RunRequest& request) {
-    const Argument argument{std::string(option.names), std::string(option.value),
-                            std::string(option.help)};
-    if (const auto* flag = std::get_if<bool RunRequest::*>(&option.target)) {
-        AddFlag(app, argument, request.**flag);
-    } else if (const auto* text = std::get_if<std::string RunRequest::*>(&option.target)) {
-        AddText(app, argument, request.**text);
-    } else {
-        auto& list = request.*std::get<std::vector<std::string> RunRequest::*>(option.target);
-        app.add_option(argument.names, list, argument.help)
-            ->type_name(argument.value)
-            ->expected(1)
-            ->take_all();
-    }
-}
-
 }  // namespace
 
 Command::Action DescribeRun(CLI::App& app) {
     auto request = std::make_shared<RunRequest>();
     app.add_option("REPORT", request->report, "The report")->type_name("");
-    for (const auto& option : RunOptions()) AddOption(app, option, *request);
+    for (const auto& option : RunOptions()) AddRunOption(app, option, *request);
     app.footer(kFooter);
     return [request](Console& console) { return RunReport(*request, console); };
 }
