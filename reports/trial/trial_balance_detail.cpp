@@ -82,6 +82,7 @@ dsrTrialBalanceDetail::dsrTrialBalanceDetail()
 
 void dsrTrialBalanceDetail::LineColumns::Resolve(const Columns& columns) {
     id = columns.At("InGLDetId");
+    number = columns.At("SeqNo");
     date = columns.At("DetDate");
     amount = columns.At("DetAmnt");
     foreign = columns.At("ForeignAmnt");
@@ -248,8 +249,9 @@ void dsrTrialBalanceDetail::AddComparableAccountRow(Currency amount) {
     Guard("AddComparableAccountRow", [&] {
         if (!InComparableGroup()) AddComparableAccoutGroup();
         const Row& line = CurrentRow();
-        auto& row =
-            NewComparableRow().Add("entry", txtSeqNo.Text()).Add("source", txtSource.Text());
+        auto& row = NewComparableRow();
+        Mark(), row.Add("entry", line.Integer(columns_.number));
+        row.Add("source", txtSource.Text());
         Mark(), row.Add("date", line.Day(columns_.date));
         row.Add("description", txtDetDesc.Text());
         if (IsInForeignCurrency(LineCurrency())) {

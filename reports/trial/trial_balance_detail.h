@@ -36,7 +36,7 @@ class dsrTrialBalanceDetail final : public TrialReport,
 
   private:
     struct LineColumns {
-        Column id, date, amount, foreign, currency_id, source, source_key;
+        Column id, number, date, amount, foreign, currency_id, source, source_key;
         void Resolve(const Columns& columns);
     };
     struct AccountState {
