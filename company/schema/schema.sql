@@ -4,46 +4,47 @@
 --   amounts       RealAmount / RealRate: in PostgreSQL domains over numeric (declared beforehand); SQLite reads any type
 --                 name with REAL in it as REAL affinity (no integer division, amounts kept as 8-byte doubles)
 --   dates         DATE: PostgreSQL date; in SQLite ISO text 'YYYY-MM-DD' (NUMERIC affinity keeps text with dashes)
---   text          PlainText (not CHAR(n): padding; VARCHAR(n) is equally good)
+--   text          BookText (not CHAR(n): padding; VARCHAR(n) is equally good; a name of a type that
+--                 holds "INT" anywhere makes SQLite store numbers)
 -- Column placement matters: the reports use these names unqualified, so they must exist in ONE of the joined
 -- tables only: Inactive, GIFIAcctId, AcctType, InGLAcctId, GLAcctId, ChqAcct (GLAcct only), DetAmnt,
 -- ForeignAmnt, DetDate, SeqNo, ExProjId (GLDet only).  WorldCurrency must never get Inactive or GIFIAcctId.
 CREATE TABLE WorldCurrency (
   InCurrencyId   INTEGER NOT NULL PRIMARY KEY,
-  CurrencyCode   PlainText NOT NULL,
-  Descr          PlainText,
-  Symbol         PlainText,
+  CurrencyCode   BookText NOT NULL,
+  Descr          BookText,
+  Symbol         BookText,
   Decimals       SMALLINT NOT NULL DEFAULT 2,
   ARGLAccountId  INTEGER,
   APGLAccountId  INTEGER
 );
 CREATE TABLE GLAcct (
   InGLAcctId     INTEGER NOT NULL PRIMARY KEY,
-  GLAcctId       PlainText NOT NULL,
-  Descr          PlainText,
+  GLAcctId       BookText NOT NULL,
+  Descr          BookText,
   AcctType       INTEGER NOT NULL,
   GroupType      INTEGER NOT NULL,
   Inactive       SMALLINT,
   ChqAcct        SMALLINT,
-  Note           PlainText,
-  GIFIAcctId     PlainText,
+  Note           BookText,
+  GIFIAcctId     BookText,
   ExCurrencyId   INTEGER
 );
 CREATE TABLE ProjInfo (
   InProjId       INTEGER NOT NULL PRIMARY KEY,
-  ProjId         PlainText NOT NULL,
-  Descr          PlainText
+  ProjId         BookText NOT NULL,
+  Descr          BookText
 );
 CREATE TABLE GJTrxHdr (
   InTrxId        INTEGER NOT NULL PRIMARY KEY,
   TrxDate        DATE,
-  TrxDesc        PlainText,
-  TrxRef         PlainText
+  TrxDesc        BookText,
+  TrxRef         BookText
 );
 CREATE TABLE Segment (
   InSegmentId    INTEGER NOT NULL PRIMARY KEY,
-  SegmentCode    PlainText NOT NULL,
-  Descr          PlainText
+  SegmentCode    BookText NOT NULL,
+  Descr          BookText
 );
 CREATE TABLE GLDet (
   InGLDetId            INTEGER NOT NULL PRIMARY KEY,
@@ -54,11 +55,11 @@ CREATE TABLE GLDet (
   DetAmnt              RealAmount,
   ForeignAmnt          RealAmount,
   ExChangeRate         RealRate,
-  DetDesc              PlainText,
-  DetRef               PlainText NOT NULL DEFAULT '',  -- sort keys are never null: PostgreSQL sorts nulls last, the others first
-  Source               PlainText,
+  DetDesc              BookText,
+  DetRef               BookText NOT NULL DEFAULT '',  -- sort keys are never null: PostgreSQL sorts nulls last, the others first
+  Source               BookText,
   ExSrcKeyVal          INTEGER,     -- INTEGER, not text: joined to GJTrxHdr.InTrxId and listed unquoted in IN (...)
-  Remarks              PlainText,
+  Remarks              BookText,
   ExProjId             INTEGER,
   ExSegmentId          INTEGER,
   Conciliated          SMALLINT,
@@ -66,7 +67,7 @@ CREATE TABLE GLDet (
 );
 CREATE TABLE FiscalYear (
   InFiscalYearId INTEGER NOT NULL PRIMARY KEY,
-  Descr          PlainText,
+  Descr          BookText,
   BegDate        DATE NOT NULL,
   EndDate        DATE NOT NULL
 );
@@ -112,24 +113,24 @@ CREATE TABLE ExchangeRate (
 CREATE TABLE AcctTypeInfo (          -- account-type captions and class (2 = income-statement account)
   AcctType       INTEGER NOT NULL PRIMARY KEY,
   TypeClass      INTEGER NOT NULL,
-  Descr          PlainText NOT NULL,
+  Descr          BookText NOT NULL,
   AdditionalIncome SMALLINT NOT NULL DEFAULT 0
 );
 CREATE TABLE CompanySetting (
-  SettingName    PlainText NOT NULL PRIMARY KEY,
-  SettingValue   PlainText
+  SettingName    BookText NOT NULL PRIMARY KEY,
+  SettingValue   BookText
 );
 CREATE TABLE GLAccountParam (         -- GetGLAccountParam("GLRtainEarn") etc., section "Cie"
-  Section        PlainText NOT NULL,
-  ParamName      PlainText NOT NULL,
+  Section        BookText NOT NULL,
+  ParamName      BookText NOT NULL,
   ExAcctId       INTEGER NOT NULL,
   PRIMARY KEY (Section, ParamName)
 );
 CREATE TABLE Invoice (
   InInvoiId      INTEGER NOT NULL PRIMARY KEY,
-  InvoiId        PlainText NOT NULL,
-  Source         PlainText NOT NULL,
-  Name           PlainText,
+  InvoiId        BookText NOT NULL,
+  Source         BookText NOT NULL,
+  Name           BookText,
   ExCurrencyId   INTEGER NOT NULL,
   ExchangeRate   RealRate,
   ExSegmentId    INTEGER
@@ -138,7 +139,7 @@ CREATE TABLE Pmt (
   InPmtId        INTEGER NOT NULL PRIMARY KEY,
   CurrPmtType    INTEGER NOT NULL,
   PmtDate        DATE NOT NULL,
-  ChqNo          PlainText NOT NULL DEFAULT '',
+  ChqNo          BookText NOT NULL DEFAULT '',
   PmtRate        RealRate,
   ExGLAcctId     INTEGER
 );

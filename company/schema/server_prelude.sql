@@ -3,7 +3,7 @@
 -- The names that schema.sql gives its types. Sums of amounts stay numeric and exact.
 CREATE DOMAIN RealAmount AS numeric(19,4);
 CREATE DOMAIN RealRate   AS numeric(18,8);
-CREATE DOMAIN PlainText  AS text COLLATE "C";
+CREATE DOMAIN BookText  AS text COLLATE "C";
 -- What the reports write beyond standard SQL: "+" between texts is null when one is, "&" reads null as the empty text.
 CREATE OPERATOR + (FUNCTION = pg_catalog.textcat, LEFTARG = text, RIGHTARG = text);
 CREATE FUNCTION concat_null_as_empty(text, text) RETURNS text LANGUAGE sql IMMUTABLE PARALLEL SAFE
