@@ -22,6 +22,8 @@ class ReportData {
     /// Adds an unbound field. It stays over later runs; its value is cleared at the start of each.
     Column AddField(std::string name);
     void SetField(Column field, const Variant& value) { fields_.Set(field, value); }
+    /// To what stands in a row, as it is.
+    void SetField(Column field, const Row& row, Column cell) { fields_.Copy(field, row, cell); }
     const Columns& FieldNames() const { return field_names_; }
 
     bool EndOfData() const { return row_ == nullptr; }

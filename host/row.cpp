@@ -53,6 +53,19 @@ void Row::Add(const Variant& value) {
 
 void Row::Set(Column column, const Variant& value) {
     Add(value);
+    MoveLastTo(column);
+}
+
+void Row::Copy(Column column, const Row& from, Column cell) {
+    const Cell& copied = from.At(cell);
+    if (copied.kind == Kind::kText)
+        AddText(from.TextOf(copied));
+    else
+        cells_.push_back(copied);
+    MoveLastTo(column);
+}
+
+void Row::MoveLastTo(Column column) {
     RemoveText(cells_[column.index]);
     cells_[column.index] = cells_.back();
     cells_.pop_back();

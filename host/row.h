@@ -62,6 +62,8 @@ class Row {
     void Add(const Variant& value);
     /// Replaces one cell; for row sets that are kept in memory and for unbound fields.
     void Set(Column column, const Variant& value);
+    /// Replaces one cell by a cell of another row, as it is.
+    void Copy(Column column, const Row& from, Column cell);
 
     std::size_t Size() const { return cells_.size(); }
     bool IsNull(Column column) const { return At(column).kind == Kind::kNull; }
@@ -109,6 +111,7 @@ class Row {
     std::string_view TextOf(const Cell& cell) const {
         return std::string_view(texts_).substr(static_cast<std::size_t>(cell.integer), cell.length);
     }
+    void MoveLastTo(Column column);
     void RemoveText(const Cell& cell);
     [[noreturn]] static void RaiseNoColumn();
     [[noreturn]] void Mismatch(Column column, const char* wanted) const;

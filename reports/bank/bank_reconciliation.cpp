@@ -30,7 +30,6 @@ constexpr Member<dsrBankReconciliation> kMembers[] = {
 dsrBankReconciliation::dsrBankReconciliation()
     : ReconciliationReport(BankReconciliationLayout(), 30008) {
     Members().Add<dsrBankReconciliation>(*this, kMembers);
-    Handle("Detail_Format", &dsrBankReconciliation::Detail_Format);
 }
 
 Date dsrBankReconciliation::EffectiveDate() {
@@ -50,18 +49,11 @@ ReconciliationScope dsrBankReconciliation::Scope() {
             .statement_date = EffectiveDate()};
 }
 
-void dsrBankReconciliation::ActiveReport_ReportStart() {
-    Guard("ActiveReport_ReportStart", [&] {
-        ForgetItems();
-        const ReconciliationScope scope = Scope();
-        const int database_type = (Mark(), App().CurrentContext().Database().DatabaseType());
-        const auto query = ItemsQuery(database_type, scope, IncludesReconciled());
-        auto rows = (Mark(), RunQuery(App(), query.text, query.parameters));
-        Mark(), columns_.Resolve(rows->GetColumns());
-        Mark(), GroupBy(rows->GetColumns().At("TransactionType"));
-        Data().Attach(std::move(rows));
-        StartItems();
-    });
+std::shared_ptr<Recordset> dsrBankReconciliation::OpenItems() {
+    const ReconciliationScope scope = Scope();
+    const int database_type = (Mark(), App().CurrentContext().Database().DatabaseType());
+    const auto query = ItemsQuery(database_type, scope, IncludesReconciled());
+    return (Mark(), RunQuery(App(), query.text, query.parameters));
 }
 
 // No rows add up to null, which is 0.
@@ -73,22 +65,20 @@ Currency dsrBankReconciliation::SumOf(const ParameterQuery& query) {
 // A saved reconciliation balanced by definition.
 void dsrBankReconciliation::RefreshTotalsWithBankConcilHistory() {
     Guard("RefreshTotalsWithBankConcilHistory", [&] {
+        GetFigures() = {};
         const ReconciliationScope scope = Scope();
         auto& accounts = (Mark(), CurrentCompany().Accounts());
         const std::int32_t currency_id = (Mark(), accounts.CurrencyOf(scope.account_id));
-        const std::string amount = IsForeign(currency_id) ? "ForeignAmnt" : "DetAmnt";
-        ReconciliationFigures figures;
-        figures.outstanding_withdrawals = -SumOf(OutstandingWithdrawalsQuery(amount, scope));
-        figures.outstanding_deposits = SumOf(OutstandingDepositsQuery(amount, scope));
-        figures.ledger_balance = SumOf(LedgerBalanceQuery(amount, scope));
-        figures.ending_balance =
-            figures.ledger_balance - figures.outstanding_deposits + figures.outstanding_withdrawals;
-        GetFigures() = figures;
+        const std::string amount = AmountColumn(IsForeign(currency_id));
+        const Currency withdrawals = -SumOf(OutstandingWithdrawalsQuery(amount, scope));
+        const Currency deposits = SumOf(OutstandingDepositsQuery(amount, scope));
+        const Currency balance = SumOf(LedgerBalanceQuery(amount, scope));
+        GetFigures() = {.ending_balance = balance - deposits + withdrawals,
+                        .outstanding_deposits = deposits,
+                        .outstanding_withdrawals = withdrawals,
+                        .ledger_balance = balance,
+                        .difference = Currency()};
     });
-}
-
-void dsrBankReconciliation::Detail_Format() {
-    if (!EndOfData()) ShowItem(CurrentRow(), columns_);
 }
 
 }  // namespace varnel::reports

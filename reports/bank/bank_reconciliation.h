@@ -15,14 +15,15 @@ class dsrBankReconciliation final : public ReconciliationReport {
   public:
     dsrBankReconciliation();
 
-    void ActiveReport_ReportStart() override;
-
     std::int32_t ExBankConcilHistoryId() const { return history_id_; }
     void ExBankConcilHistoryId(std::int32_t id) { history_id_ = id; }
     /// Works the five amounts out from the ledger, as they were at the statement's date: call it
-    /// before the run, once account and reconciliation are set. When it fails they stay as they
-    /// were.
+    /// before the run, once account and reconciliation are set. When it fails all five are unknown,
+    /// and print blank, until the host sets them or a refresh succeeds.
     void RefreshTotalsWithBankConcilHistory();
+
+  protected:
+    std::shared_ptr<Recordset> OpenItems() override;
 
   private:
     /// The saved reconciliation's date, the zero date when there is no such record.
@@ -30,10 +31,7 @@ class dsrBankReconciliation final : public ReconciliationReport {
     ReconciliationScope Scope();
     Currency SumOf(const ParameterQuery& query);
 
-    void Detail_Format();
-
     std::int32_t history_id_ = 0;
-    ItemColumns columns_;
 };
 
 }  // namespace varnel::reports

@@ -14,13 +14,19 @@ const Layout& CurrentBankReconciliationLayout() {
 }
 
 constexpr Member<dsrCurrentBankReconciliation> kMembers[] = {
-    {"ConcilDataSet", nullptr,
+    {"ConcilDataSet",
+     [](dsrCurrentBankReconciliation&) -> Variant {
+         throw Error(error_number::kUnknownMember, "dsrCurrentBankReconciliation",
+                     "ConcilDataSet can only be set: the report keeps a copy of the rows");
+     },
      [](dsrCurrentBankReconciliation& r, const Variant& v) {
          r.ConcilDataSet(ObjectAs<Recordset>(v));
      }},
 };
 
 constexpr const char* kReconciled = "Conciliated";
+constexpr std::array kCopied{"DetDate",     "DetRef", "DetDesc",    "DetAmnt",
+                             "ForeignAmnt", "Source", "ExSrcKeyVal"};
 
 std::int32_t TransactionType(bool reconciled, Currency amount) {
     const bool deposit = amount > Currency();
@@ -34,83 +40,59 @@ dsrCurrentBankReconciliation::dsrCurrentBankReconciliation()
     : ReconciliationReport(CurrentBankReconciliationLayout(), 30009) {
     Members().Add<dsrCurrentBankReconciliation>(*this, kMembers);
     Handle("Detail_Format", &dsrCurrentBankReconciliation::Detail_Format);
+    for (std::size_t i = 0; i < kCopied.size(); ++i) fields_[i] = Data().AddField(kCopied[i]);
+    type_ = Data().AddField("TransactionType");
 }
 
 void dsrCurrentBankReconciliation::ConcilDataSet(const std::shared_ptr<Recordset>& rows) {
     Guard("ConcilDataSet", [&] {
         items_.reset();
         if (rows == nullptr) return;
-        const auto stream = (Mark(), RecordStream::Save(*rows));
-        auto copy = std::make_shared<RecordCopy>(stream);
-        Mark(), copy->SetBoolean(kReconciled);
+        auto copy = (Mark(), std::make_shared<RecordCopy>(*rows, kReconciled));
+        const Columns& columns = copy->GetColumns();
+        decltype(columns_) found;
+        for (std::size_t i = 0; i < kCopied.size(); ++i) Mark(), found[i] = columns.At(kCopied[i]);
+        amount_ = columns.At("DetAmnt");
+        reconciled_ = columns.At(kReconciled);
+        columns_ = found;
         items_ = std::move(copy);
     });
 }
 
-void dsrCurrentBankReconciliation::ActiveReport_ReportStart() {
-    Guard("ActiveReport_ReportStart", [&] {
-        ForgetItems();
-        if (items_ != nullptr) {
-            Mark(), columns_.Resolve(items_->GetColumns());
-            Mark(), reconciled_ = items_->GetColumns().At(kReconciled);
-            Mark(), items_->SetFilter(IncludesReconciled() ? "" : "Conciliated = 0");
-            Mark(), items_->SetSort("Conciliated DESC, DetAmnt ASC ");
-        }
-        StartItems();
-    });
+std::shared_ptr<Recordset> dsrCurrentBankReconciliation::OpenItems() {
+    if (items_ != nullptr)
+        items_->Arrange(IncludesReconciled() ? "" : "Conciliated = 0",
+                        "Conciliated DESC, DetAmnt ASC ");
+    return nullptr;
 }
 
-// Fields stay over later runs.
-void dsrCurrentBankReconciliation::ActiveReport_DataInitialize() {
-    Guard("ActiveReport_DataInitialize", [&] {
-        if (fields_created_) return;
-        fields_ = {.date = Data().AddField("DetDate"),
-                   .reference = Data().AddField("DetRef"),
-                   .description = Data().AddField("DetDesc"),
-                   .amount = Data().AddField("DetAmnt"),
-                   .type = Data().AddField("TransactionType")};
-        fields_created_ = true;
-        GroupBy(fields_.type);
-    });
-}
-
+// An amount that cannot be read leaves the row in the group before it. The detail, which reads it
+// again, tells of it.
 void dsrCurrentBankReconciliation::FillFields(const Row& item) {
-    const auto text = [&item](Column column) {
-        std::string plain;
-        item.AppendText(column, plain);
-        return plain;
-    };
-    Mark(), Data().SetField(fields_.date, text(columns_.date));
-    Mark(), Data().SetField(fields_.reference, text(columns_.reference));
-    Mark(), Data().SetField(fields_.description, text(columns_.description));
-    const Currency amount = (Mark(), item.Amount(columns_.amount));
-    Data().SetField(fields_.amount, amount);
-    Mark(), Data().SetField(fields_.type, TransactionType(item.Truth(reconciled_), amount));
+    for (std::size_t i = 0; i < kCopied.size(); ++i) Data().SetField(fields_[i], item, columns_[i]);
+    Currency amount;
+    try {
+        amount = item.Amount(amount_);
+    } catch (const Error&) {
+        return;
+    }
+    Data().SetField(type_, TransactionType(item.Truth(reconciled_), amount));
 }
 
-// The row is fed even when a field of it could not be read, and then stays in the group before it:
-// the detail moves on.
 void dsrCurrentBankReconciliation::ActiveReport_FetchData(bool& end_of_data) {
-    end_of_data = items_ == nullptr || items_->AtEnd();
+    end_of_data = items_ == nullptr || !HasBegun() || items_->AtEnd();
     if (end_of_data) return;
-    Guard("ActiveReport_FetchData", [&] {
-        try {
-            FillFields(items_->Current());
-        } catch (...) {
-            LoseTotal();
-            throw;
-        }
-    });
+    Guard("ActiveReport_FetchData", [&] { FillFields(items_->Current()); });
 }
 
 // The last step is always reached, so that the feed goes on after a row that fails.
 void dsrCurrentBankReconciliation::Detail_Format() {
-    if (items_ == nullptr || items_->AtEnd()) return;
+    if (EndOfData()) return;
     struct Advance {
         RecordCopy& items;
         ~Advance() { items.MoveNext(); }
     } const advance{*items_};
-    ShowItem(items_->Current(), columns_);
+    ReconciliationReport::Detail_Format();
 }
 
 }  // namespace varnel::reports

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <array>
 #include <memory>
 
-#include "framework/record_stream.h"
+#include "framework/record_copy.h"
 #include "reports/bank/reconciliation_report.h"
 
 namespace varnel::reports {
@@ -13,31 +14,29 @@ namespace varnel::reports {
 /// Late-bound it has, besides the properties that both reconciliations have, `ConcilDataSet` (set
 /// only): a `Recordset` with at least the columns `DetDate`, `DetRef`, `DetDesc`, `Conciliated`,
 /// `DetAmnt`, `ForeignAmnt`, `Source` and `ExSrcKeyVal`. The report takes a copy of its own; the
-/// host's stands on its first row afterwards. An empty reference takes the copy away.
+/// host's stands on its first row afterwards. An empty reference takes the copy away, and so do
+/// rows that lack a column, which is told at once.
 class dsrCurrentBankReconciliation final : public ReconciliationReport {
   public:
     dsrCurrentBankReconciliation();
 
     void ConcilDataSet(const std::shared_ptr<Recordset>& rows);
 
-    void ActiveReport_ReportStart() override;
-    void ActiveReport_DataInitialize() override;
     void ActiveReport_FetchData(bool& end_of_data) override;
 
+  protected:
+    std::shared_ptr<Recordset> OpenItems() override;
+
   private:
-    /// Columns of the report itself.
-    struct Fields {
-        Column date, reference, description, amount, type;
-    };
     void FillFields(const Row& item);
 
     void Detail_Format();
 
     std::shared_ptr<framework::RecordCopy> items_;  // Null without a data set.
-    ItemColumns columns_;
-    Column reconciled_;
-    bool fields_created_ = false;
-    Fields fields_;
+    std::array<Column, 7> columns_;                 // Of it, that are shown.
+    std::array<Column, 7> fields_;                  // Of the report, one for each of those.
+    Column amount_, reconciled_;
+    Column type_;  // The field that groups.
 };
 
 }  // namespace varnel::reports

@@ -19,8 +19,11 @@ constexpr auto kGroup = ColumnPlace::Left(0, 8'700, Stretch::kWiden);
 constexpr Twips kSubjectTop = 640;
 constexpr auto kAccountCaption = ColumnPlace::Left(0, 900);
 constexpr auto kAccount = ColumnPlace::Left(960, 1'700);
-constexpr auto kStatementCaption = ColumnPlace::Left(2'760, 1'700);
-constexpr auto kStatementDate = ColumnPlace::Left(4'520, 1'800);
+constexpr auto kCurrency = ColumnPlace::Left(2'700, 560);
+constexpr auto kStatementCaption = ColumnPlace::Left(3'360, 1'900);
+constexpr auto kStatementDate = ColumnPlace::Left(5'320, 1'800);
+// As large as the values, so that they stand on one line.
+constexpr TextStyle kSubjectCaption = {.size = kPeriod.size, .ink = Ink::kMuted};
 
 // Of the summary.
 constexpr Twips kSummaryTop = 240;
@@ -33,9 +36,10 @@ ControlLayout Label(ControlLayout text) {
 }
 
 std::vector<ControlLayout> HeaderControls() {
-    return {Label(ColumnText("lblConcilAcct", kAccountCaption, kSubjectTop, kQuiet)),
+    return {Label(ColumnText("lblConcilAcct", kAccountCaption, kSubjectTop, kSubjectCaption)),
             ColumnText("txtConcilAcctId", kAccount, kSubjectTop, kPeriod),
-            Label(ColumnText("lblConcDate", kStatementCaption, kSubjectTop, kQuiet)),
+            ColumnText("txtCurrency", kCurrency, kSubjectTop, kPeriod),
+            Label(ColumnText("lblConcDate", kStatementCaption, kSubjectTop, kSubjectCaption)),
             ColumnText("txtConcDate", kStatementDate, kSubjectTop, kPeriod),
             ColumnCaption("lblDateCap", kDate, 1912),
             ColumnCaption("lblDescriptionCap", kDescription, 1789),

@@ -67,9 +67,9 @@ ParameterQuery OutstandingQuery(const std::string& amount_column, const char* na
                                 const char* sign, const ReconciliationScope& scope) {
     const std::string amount = "GLDet." + amount_column;
     return {"SELECT SUM(" + amount + ") AS " + name + " FROM GLDet WHERE " + amount + sign +
-                "   AND ((GLDet.Conciliated = 0 OR GLDet.Conciliated is null) OR "
-                "GLDet.ExBankConcilHistoryId >?)    AND GLDet.ExAcctId = ?    AND GLDet.DetDate <= "
-                "?",
+                "   AND (" + kNotReconciled +
+                " OR GLDet.ExBankConcilHistoryId >?)    AND GLDet.ExAcctId = ?    "
+                "AND GLDet.DetDate <= ?",
             {scope.history_id, scope.account_id, scope.statement_date}};
 }
 

@@ -15,6 +15,13 @@ struct ReconciliationScope {
     Date statement_date;
 };
 
+/// The column that holds the amounts of an account: in a currency of its own its foreign ones.
+inline const char* AmountColumn(bool foreign) { return foreign ? "ForeignAmnt" : "DetAmnt"; }
+
+/// A line that no reconciliation holds: what is outstanding today.
+inline constexpr const char* kNotReconciled =
+    "(GLDet.Conciliated = 0 OR GLDet.Conciliated is null)";
+
 /// A statement with the values of its markers, in order.
 struct ParameterQuery {
     std::string text;

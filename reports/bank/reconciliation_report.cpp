@@ -19,21 +19,22 @@ constexpr std::int16_t kWithdrawals = 3046;
 /// Captions of the groups 1 to 4.
 constexpr std::int16_t kGroupTexts[] = {3044, 3043, 3046, 3045};
 
+using Subject = ReconciliationReport::Subject;
+using Figures = ReconciliationFigures;
+
 template <auto member>
 Variant GetSubjectValue(ReconciliationReport& report) {
     return report.GetSubject().*member;
 }
-template <Currency ReconciliationFigures::*figure>
+template <Figures::Figure Figures::*figure>
 Variant GetFigure(ReconciliationReport& report) {
-    return report.GetFigures().*figure;
+    const auto& known = report.GetFigures().*figure;
+    return known ? Variant(*known) : Variant::Null{};
 }
-template <Currency ReconciliationFigures::*figure>
+template <Figures::Figure Figures::*figure>
 void PutFigure(ReconciliationReport& report, const Variant& value) {
     report.GetFigures().*figure = value.ToCurrency();
 }
-
-using Subject = ReconciliationReport::Subject;
-using Figures = ReconciliationFigures;
 
 constexpr Member<ReconciliationReport> kMembers[] = {
     {"ExConcilAcctId", GetSubjectValue<&Subject::account_id>,
@@ -59,6 +60,7 @@ ReconciliationReport::ReconciliationReport(const Layout& layout, std::int16_t ti
     : ReportBase(layout, {.title_text = title_text, .date_display = DateDisplay::kNone}),
       FilterableReport(Members()) {
     Members().Add<ReconciliationReport>(*this, kMembers);
+    Handle("Detail_Format", &ReconciliationReport::Detail_Format);
     Handle("PageHeader_Format", &ReconciliationReport::PageHeader_Format);
     Handle("ghTransactionType_Format", &ReconciliationReport::ghTransactionType_Format);
     Handle("gfTransactionType_Format", &ReconciliationReport::gfTransactionType_Format);
@@ -79,23 +81,34 @@ void ReconciliationReport::ItemColumns::Resolve(const Columns& columns) {
     foreign = columns.At("ForeignAmnt");
     source = columns.At("Source");
     source_key = columns.At("ExSrcKeyVal");
+    type = columns.At("TransactionType");
 }
 
 bool ReconciliationReport::IsForeign(std::int32_t currency_id) {
     return currency_id != (Mark(), GetCurrencyInfo().CieHomeCurrencyId());
 }
 
-void ReconciliationReport::ForgetItems() {
-    currency_id_.reset();
-    LoseTotal();
+// The code comes last: without it the run is not spoiled.
+void ReconciliationReport::ActiveReport_ReportStart() {
+    Guard("ActiveReport_ReportStart", [&] {
+        currency_id_.reset();
+        currency_code_.clear();
+        group_total_ = {};
+        auto& accounts = (Mark(), CurrentCompany().Accounts());
+        const std::int32_t currency_id = (Mark(), accounts.CurrencyOf(subject_.account_id));
+        foreign_ = IsForeign(currency_id);
+        auto rows = (Mark(), OpenItems());
+        Mark(), columns_.Resolve(rows ? rows->GetColumns() : Data().FieldNames());
+        Data().Attach(std::move(rows));
+        currency_id_ = currency_id;
+        currency_code_ = CurrencyCode(currency_id);
+    });
 }
 
-void ReconciliationReport::StartItems() {
-    auto& accounts = (Mark(), CurrentCompany().Accounts());
-    const std::int32_t currency_id = (Mark(), accounts.CurrencyOf(subject_.account_id));
-    foreign_ = IsForeign(currency_id);
-    currency_id_ = currency_id;
-    group_total_ = {};
+std::string ReconciliationReport::CurrencyCode(std::int32_t currency_id) {
+    CurrencyInfo& info = (Mark(), GetCurrencyInfo());
+    if (!(Mark(), info.CieIsForeignCurrencyUsed())) return {};
+    return (Mark(), info.GetCurrencies().Item(currency_id).code);
 }
 
 // Without a currency the amount stays blank: why was told when the run began.
@@ -106,6 +119,7 @@ void ReconciliationReport::PutInAccountCurrency(Control& control, Currency amoun
 void ReconciliationReport::PageHeader_Format() {
     Mark(), At("lblConcilAcct").SetText(PlainText(App(), kAccount));
     At("txtConcilAcctId").SetText(subject_.account_number);
+    At("txtCurrency").SetText(currency_code_);
     Mark(), At("lblConcDate").SetText(PlainText(App(), kStatementDate));
     Mark(), PutDate(App().GetFormats(), At("txtConcDate"), subject_.statement_date, text_);
     ReplacePageHeaderControls(SectionAt("PageHeader"));
@@ -114,14 +128,16 @@ void ReconciliationReport::PageHeader_Format() {
 // Another value leaves the caption as it is.
 void ReconciliationReport::ghTransactionType_Format() {
     if (EndOfData()) return;
-    const std::int32_t type = (Mark(), CurrentRow().Integer(transaction_type_));
+    const std::int32_t type = (Mark(), CurrentRow().Integer(columns_.type));
     if (type < 1 || type > 4) return;
     lblTransactionType.SetText({});
     Mark(), lblTransactionType.SetText(PlainText(App(), kGroupTexts[type - 1]));
 }
 
-Currency ReconciliationReport::ReadAmount(const Row& item, const ItemColumns& columns) try {
-    const Currency amount = item.Amount(foreign_ ? columns.foreign : columns.amount).Abs();
+// The home amount says to which group an item belongs, so it must be readable in any account.
+Currency ReconciliationReport::ReadAmount(const Row& item) try {
+    const Currency home = item.Amount(columns_.amount);
+    const Currency amount = (foreign_ ? item.Amount(columns_.foreign) : home).Abs();
     group_total_.Add(amount);
     return amount;
 } catch (...) {
@@ -129,20 +145,28 @@ Currency ReconciliationReport::ReadAmount(const Row& item, const ItemColumns& co
     throw;
 }
 
-void ReconciliationReport::ShowItem(const Row& item, const ItemColumns& columns) {
+void ReconciliationReport::PutText(Control& control, const Row& item, Column column) {
+    text_.clear();
+    item.AppendText(column, text_);
+    control.SetText(text_);
+}
+
+void ReconciliationReport::Detail_Format() {
+    if (EndOfData()) return;
+    const Row& item = CurrentRow();
     for (Control* control : {&txtDetDate, &txtDetRef, &txtDetDesc, &txtAmount}) {
         control->Clear();
         control->SetTag({});
     }
-    const Currency amount = (Mark(), ReadAmount(item, columns));
-    Mark(), ReadDocumentKey(item, columns.source, columns.source_key, text_);
+    const Currency amount = (Mark(), ReadAmount(item));
+    Mark(), ReadDocumentKey(item, columns_.source, columns_.source_key, text_);
     for (Control* control : {&txtDetDate, &txtDetRef, &txtDetDesc, &txtAmount})
         control->SetTag(text_);
+    PutText(txtDetRef, item, columns_.reference);
+    PutText(txtDetDesc, item, columns_.description);
     if (!amount.IsZero()) Mark(), PutInAccountCurrency(txtAmount, amount);
-    if (!item.IsNull(columns.date))
-        Mark(), PutDate(App().GetFormats(), txtDetDate, item.Day(columns.date), text_);
-    Mark(), txtDetRef.SetText(item.Text(columns.reference));
-    Mark(), txtDetDesc.SetText(item.Text(columns.description));
+    if (!item.IsNull(columns_.date))
+        Mark(), PutDate(App().GetFormats(), txtDetDate, item.Day(columns_.date), text_);
 }
 
 void ReconciliationReport::gfTransactionType_Format() {
@@ -152,15 +176,19 @@ void ReconciliationReport::gfTransactionType_Format() {
 }
 
 void ReconciliationReport::ReportFooter_Format() {
+    for (const char* name :
+         {"txtEndBal", "txtDepCirc", "txtChqCirc", "txtAdjustedBal", "txtGLBal", "txtDif"})
+        At(name).Clear();
     const auto& [ending, deposits, withdrawals, ledger, difference] = figures_;
-    const std::pair<const char*, Currency> amounts[] = {
-        {"txtEndBal", ending},       {"txtDepCirc", deposits},
-        {"txtChqCirc", withdrawals}, {"txtAdjustedBal", ending + deposits - withdrawals},
-        {"txtGLBal", ledger},        {"txtDif", difference}};
-    for (const auto& [name, amount] : amounts) At(name).Clear();
+    Figures::Figure adjusted;
+    if (ending && deposits && withdrawals) adjusted = *ending + *deposits - *withdrawals;
+    const std::pair<const char*, Figures::Figure> figures[] = {
+        {"txtEndBal", ending},        {"txtDepCirc", deposits}, {"txtChqCirc", withdrawals},
+        {"txtAdjustedBal", adjusted}, {"txtGLBal", ledger},     {"txtDif", difference}};
     Mark(), At("lblDepCirc").SetText(PlainText(App(), kDeposits) + ": ");
     Mark(), At("lblChqCirc").SetText(PlainText(App(), kWithdrawals) + ": ");
-    for (const auto& [name, amount] : amounts) Mark(), PutInAccountCurrency(At(name), amount);
+    for (const auto& [name, figure] : figures)
+        if (figure) Mark(), PutInAccountCurrency(At(name), *figure);
 }
 
 }  // namespace varnel::reports

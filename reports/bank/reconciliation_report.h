@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -10,13 +11,15 @@
 
 namespace varnel::reports {
 
-/// What a reconciliation comes to, in the currency of its account.
+/// What a reconciliation comes to, in the currency of its account; nothing for a figure that could
+/// not be worked out.
 struct ReconciliationFigures {
-    Currency ending_balance;  // Of the bank's statement.
-    Currency outstanding_deposits;
-    Currency outstanding_withdrawals;  // Positive.
-    Currency ledger_balance;           // At the statement's date.
-    Currency difference;               // Not explained.
+    using Figure = std::optional<Currency>;
+    Figure ending_balance;  // Of the bank's statement.
+    Figure outstanding_deposits;
+    Figure outstanding_withdrawals;  // Positive.
+    Figure ledger_balance;           // At the statement's date.
+    Figure difference;               // Not explained.
 };
 
 /// What the two bank reconciliations share: what the host sets, the groups of reconciled and
@@ -25,8 +28,8 @@ struct ReconciliationFigures {
 ///
 /// Late-bound it has the properties `ExConcilAcctId` (internal id of the account), `ConcilAcctId`
 /// (its number, printed), `ConcDate` (date of the statement), `EndBalAmnt`, `DepAmntCirc`,
-/// `ChqAmntCirc`, `GLBalAmnt` and `DifAmnt`. The custom filter is stored and makes no difference: a
-/// filtered list would contradict the totals.
+/// `ChqAmntCirc`, `GLBalAmnt` and `DifAmnt`, null when unknown. The custom filter is stored and
+/// makes no difference: a filtered list would contradict the totals.
 class ReconciliationReport : public framework::ReportBase,
                              public framework::FilterableReport,
                              public IReportConfig {
@@ -39,47 +42,50 @@ class ReconciliationReport : public framework::ReportBase,
     Subject& GetSubject() { return subject_; }
     ReconciliationFigures& GetFigures() { return figures_; }
 
+    /// Takes the items and begins the group total. Without the account's currency or the items the
+    /// run has no rows and no amounts.
+    void ActiveReport_ReportStart() final;
     /// Whether reconciled items are listed too.
     void IReportConfig_ShowConfigurationScreen() override;
 
   protected:
     ReconciliationReport(const Layout& layout, std::int16_t title_text);
 
-    /// Columns of an item, found once a run.
-    struct ItemColumns {
-        Column date, reference, description, amount, foreign, source, source_key;
-        void Resolve(const Columns& columns);
-    };
+    /// The rows of a run; null when the report feeds them through its fields.
+    virtual std::shared_ptr<Recordset> OpenItems() = 0;
 
     bool IncludesReconciled() const { return include_reconciled_; }
-    /// Before the run has its rows: in which currency they are is not known, nor any total.
-    void ForgetItems();
-    /// When an item cannot be told to belong to the group.
-    void LoseTotal() { group_total_.Lose(); }
-    /// Reads the account's currency and begins the group total.
-    void StartItems();
+    /// Whether the run has its items.
+    bool HasBegun() const { return currency_id_.has_value(); }
     /// Whether items are in a currency of the account's own, and so by their foreign amounts.
     bool IsForeign(std::int32_t currency_id);
-    /// The field that groups; in the rows or a field of the report.
-    void GroupBy(Column transaction_type) { transaction_type_ = transaction_type; }
-    void ShowItem(const Row& item, const ItemColumns& columns);
 
+    void Detail_Format();
     void PageHeader_Format();
     void ghTransactionType_Format();
     void gfTransactionType_Format();
     void ReportFooter_Format();
 
   private:
-    Currency ReadAmount(const Row& item, const ItemColumns& columns);
+    /// Columns of an item, found once a run.
+    struct ItemColumns {
+        Column date, reference, description, amount, foreign, source, source_key, type;
+        void Resolve(const Columns& columns);
+    };
+
+    Currency ReadAmount(const Row& item);
+    void PutText(Control& control, const Row& item, Column column);
     void PutInAccountCurrency(Control& control, Currency amount);
+    std::string CurrencyCode(std::int32_t currency_id);
 
     Subject subject_;
-    ReconciliationFigures figures_;
+    ReconciliationFigures figures_{Currency(), Currency(), Currency(), Currency(), Currency()};
     bool include_reconciled_ = false;
     std::optional<std::int32_t> currency_id_;  // Nothing in a run that could not begin.
     bool foreign_ = false;
+    std::string currency_code_;  // Empty where the company has one currency alone.
     framework::KnownSum group_total_;
-    Column transaction_type_;
+    ItemColumns columns_;
     std::string text_;  // Scratch for texts built row by row.
 
     Control& txtDetDate = At("txtDetDate");

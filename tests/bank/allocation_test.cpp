@@ -6,9 +6,10 @@
 namespace varnel {
 namespace {
 
-long AllocationsOf(int items) {
-    test::BankRun run = test::SavedRun();
+long AllocationsOf(int items, bool current) {
+    test::BankRun run(current);
     run.items.assign(static_cast<std::size_t>(items), {3, test::Money("-1000.5")});
+    run.note = "a description that is too long to be kept without memory of its own";
     run.host->calls.StopCounting();
     run.Prepare();
     const long count = test::AllocationsBetween("ghTransactionType", "gfTransactionType",
@@ -18,7 +19,8 @@ long AllocationsOf(int items) {
 }
 
 TEST(ReconciliationAllocationTest, AnItemAllocatesNothing) {
-    EXPECT_EQ(AllocationsOf(10), AllocationsOf(900));
+    for (const bool current : {false, true})
+        EXPECT_EQ(AllocationsOf(10, current), AllocationsOf(900, current)) << current;
 }
 
 }  // namespace

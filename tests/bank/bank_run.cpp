@@ -29,8 +29,10 @@ void BankRun::SetFigures(const std::vector<const char*>& amounts) {
 
 std::string BankRun::Figures() {
     std::string figures;
-    for (const char* name : kFigures)
-        figures += Properties().Get(name).ToCurrency().ToText(2) + "|";
+    for (const char* name : kFigures) {
+        const Variant figure = Properties().Get(name);
+        figures += (figure.IsNull() ? "" : figure.ToCurrency().ToText(2)) + "|";
+    }
     return figures;
 }
 
@@ -48,8 +50,9 @@ RowSet BankRun::Rows() const {
                 {}};
     for (const auto& item : items) {
         const auto number = static_cast<std::int32_t>(rows.rows.size() + 1);
-        rows.rows.push_back({item.date, "R" + std::to_string(number),
-                             "Item " + std::to_string(number), item.foreign, item.amount, "INV",
+        const std::string no = std::to_string(number);
+        rows.rows.push_back({item.date, note.IsEmpty() ? "R" + no : note,
+                             note.IsEmpty() ? "Item " + no : note, item.foreign, item.amount, "INV",
                              number, current ? Variant(item.type <= 2) : Variant(item.type)});
     }
     return rows;

@@ -33,7 +33,7 @@ class BankRun : public ReportRun {
     Object& Properties() { return dynamic_cast<Object&>(*report); }
     /// In the order of the summary, without the adjusted balance.
     void SetFigures(const std::vector<const char*>& amounts);
-    /// The five of them, "1.00|2.00|".
+    /// The five of them, "1.00|2.00|"; blank when unknown.
     std::string Figures();
     /// Answers the options dialog.
     void IncludeReconciled(bool include = true);
@@ -45,6 +45,7 @@ class BankRun : public ReportRun {
     CollectedBands operator()();
 
     std::vector<BankItem> items;
+    Variant note;  // Of all items, instead of reference and description.
     bool current;
 };
 

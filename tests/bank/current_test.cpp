@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/bank/bank_run.h"
+#include "tests/support/error_of.h"
 
 namespace varnel {
 namespace {
@@ -13,7 +14,6 @@ using test::CurrentRun;
 using test::kYenBank;
 using test::Money;
 using test::Shown;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -93,25 +93,36 @@ TEST(CurrentReconciliationTest, AnEmptyReferenceTakesTheRowsAway) {
     EXPECT_TRUE(run.host->message_boxes.empty());
 }
 
-TEST(CurrentReconciliationTest, RowsWithoutAColumnAreToldAndNotTaken) {
-    BankRun run = CurrentRun();
-    run.items = {{3, Money("-1")}};
-    run();
-    run.Properties().Put("ConcilDataSet", ObjectRef(std::make_shared<MemoryRecordset>(
-                                              std::vector<std::string>{"DetDate"},
-                                              std::vector<MemoryRecordset::Values>{})));
-    EXPECT_THAT(run.host->message_boxes,
-                ElementsAre(testing::ContainsRegex("no column \"Conciliated\".*\r\nin "
-                                                   "Varnel.dsrCurrentBankReconciliation."
-                                                   "ConcilDataSet at line [1-9]")));
-    EXPECT_TRUE(Listed(RunAsItIs(run)).empty());
+TEST(CurrentReconciliationTest, RowsWithoutAColumnAreToldAtOnceAndNotTaken) {
+    for (std::size_t missing = 0; missing < 8; ++missing) {
+        BankRun run = CurrentRun();
+        run.items = {{3, Money("-1")}, {4, Money("2")}};
+        run();
+        auto columns = run.Rows().columns;
+        const std::string name = std::exchange(columns[missing], "Other");
+        run.Properties().Put("ConcilDataSet", ObjectRef(std::make_shared<MemoryRecordset>(
+                                                  columns, run.Rows().rows)));
+        EXPECT_TRUE(Listed(RunAsItIs(run)).empty());
+        EXPECT_THAT(
+            run.host->message_boxes,
+            ElementsAre(testing::ContainsRegex(
+                "no column \"" + name +
+                "\".*\r\nin Varnel.dsrCurrentBankReconciliation.ConcilDataSet at line [1-9]")));
+    }
+}
+
+TEST(CurrentReconciliationTest, TheRowsCanBeSetAndNotRead) {
+    std::string description;
+    EXPECT_EQ(test::ErrorOf([] { CurrentRun().Properties().Get("ConcilDataSet"); }, &description),
+              438);
+    EXPECT_THAT(description, HasSubstr("only be set"));
 }
 
 TEST(CurrentReconciliationTest, ADateThatCannotBeReadIsToldAndTheFeedGoesOn) {
     BankRun run = CurrentRun();
     run.items = {{3, Money("-2"), Variant::Null{}, "yesterday"}, {3, Money("-1")}, {4, Money("4")}};
     const auto bands = run();
-    EXPECT_THAT(Listed(bands), ElementsAre("3046", " 2.00", "R2 1.00", "3045", "R3 4.00"));
+    EXPECT_THAT(Listed(bands), ElementsAre("3046", "R1 2.00", "R2 1.00", "3045", "R3 4.00"));
     EXPECT_THAT(bands.Texts("gfTransactionType", "txtGroupTotal"), ElementsAre("3.00", "4.00"));
     EXPECT_THAT(run.host->message_boxes, ElementsAre(HasSubstr("yesterday")));
 }
@@ -131,7 +142,7 @@ TEST(CurrentReconciliationTest, AnAmountThatCannotBeReadBlanksTheTotalItIsListed
         EXPECT_EQ(bands.Of("Detail").size(), 4u);
         EXPECT_THAT(bands.Texts("gfTransactionType", "txtGroupTotal"),
                     ElementsAre(account == kYenBank ? "9" : "9.00", ""));
-        EXPECT_THAT(run.host->message_boxes, Contains(HasSubstr("12,50")));
+        EXPECT_THAT(run.host->message_boxes, ElementsAre(HasSubstr("12,50")));
     }
 }
 

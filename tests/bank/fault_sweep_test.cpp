@@ -33,6 +33,7 @@ const std::vector<std::string> kSummary{"txtEndBal",      "txtDepCirc", "txtChqC
 Swept SweptIn(const char* object) {
     Swept swept{object,
                 {{"PageHeader", {"txtConcDate"}},
+                 {"PageHeader", {"txtCurrency"}},
                  {"ghTransactionType", {"lblTransactionType"}},
                  {"Detail", {"txtDetDate"}},
                  {"Detail", {"txtAmount"}},

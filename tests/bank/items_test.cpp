@@ -39,6 +39,17 @@ TEST_P(ReconciliationTest, AnItemShowsItsAbsoluteAmountAndTheKeyOfItsDocument) {
     EXPECT_EQ(first["txtDetDate"].value, ControlValue(Date::ParseIso("2025-02-17")));
 }
 
+TEST_P(ReconciliationTest, ReferenceAndDescriptionMayBeNumbersAndDates) {
+    run.items = {{3, Money("-1")}};
+    const std::pair<Variant, const char*> kNotes[] = {
+        {5195, "5195"}, {Money("12.5"), "12.5"}, {Day("2025-01-31"), "2025-01-31"}, {kNull, ""}};
+    for (const auto& [note, shown] : kNotes) {
+        run.note = note;
+        EXPECT_THAT(Shown(run(), "Detail", {"txtDetRef", "txtDetDesc"}),
+                    ElementsAre(std::string(shown) + "|" + shown));
+    }
+}
+
 TEST_P(ReconciliationTest, AForeignAccountShowsForeignAmountsInItsOwnCurrency) {
     run.Properties().Put("ExConcilAcctId", kYenBank);
     run.items = {{3, Money("-12.34"), Money("-1200")},
@@ -48,6 +59,7 @@ TEST_P(ReconciliationTest, AForeignAccountShowsForeignAmountsInItsOwnCurrency) {
     EXPECT_THAT(bands.Texts("Detail", "txtAmount"), ElementsAre("1,200", "34", "777"));
     EXPECT_THAT(bands.Texts("gfTransactionType", "txtGroupTotal"), ElementsAre("1,234", "777"));
     EXPECT_THAT(bands.Texts("ReportFooter", "txtDif"), ElementsAre("0"));
+    EXPECT_THAT(bands.Texts("PageHeader", "txtCurrency"), ElementsAre("JPY"));
 }
 
 TEST_P(ReconciliationTest, AnAmountOfNothingIsBlankAndWhatTheRowBeforeShowedIsGone) {
@@ -106,6 +118,9 @@ TEST_P(ReconciliationTest, TheHeaderShowsTitleAccountAndDateAsTheHostSetThem) {
               {"hdrTitle", "lblConcilAcct", "txtConcilAcctId", "lblConcDate", "txtConcDate"}),
         ElementsAre(run.report->IReport_ReportTitle() + "|30025|1010-00|30024|2025-02-28"));
     EXPECT_EQ(run.Properties().Get("ConcilAcctId").ToText(), "1010-00");
+    EXPECT_THAT(run().Texts("PageHeader", "txtCurrency"), ElementsAre("CAD"));
+    run.host->company.currency_info.records.resize(1);
+    EXPECT_THAT(run().Texts("PageHeader", "txtCurrency"), ElementsAre(""));
     EXPECT_EQ(run.Properties().Get("ExConcilAcctId").ToInteger32(), test::kBank);
     EXPECT_EQ(run.Properties().Get("ConcDate").ToDate(), Date::ParseIso("2025-02-28"));
 }
@@ -126,15 +141,14 @@ TEST_P(ReconciliationTest, WithoutItemsThereAreHeadersAndTheSummary) {
         EXPECT_TRUE(bands.Of(section).empty()) << section;
 }
 
-TEST_P(ReconciliationTest, AnUnknownAccountIsToldOnceAndNoAmountIsInTheCurrencyOfTheRunBefore) {
+TEST_P(ReconciliationTest, AnUnknownAccountIsToldOnceAndNothingIsListed) {
     run.Properties().Put("ExConcilAcctId", kYenBank);
     run.SetFigures({"5.5", "0", "0", "5.5", "0"});
     run.items = {{3, Money("-7"), Money("-700")}, {4, Money("8"), Money("800")}};
     run();
     run.Properties().Put("ExConcilAcctId", 77);
     const auto bands = run();
-    EXPECT_THAT(bands.Texts("Detail", "txtAmount"), ElementsAre("", ""));
-    EXPECT_THAT(bands.Texts("gfTransactionType", "txtGroupTotal"), ElementsAre("", ""));
+    EXPECT_TRUE(bands.Of("Detail").empty());
     EXPECT_THAT(Shown(bands, "ReportFooter", {"txtEndBal", "txtAdjustedBal"}), ElementsAre("|"));
     told = 1;
 }

@@ -1,12 +1,9 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "reports/bank/reconciliation_query.h"
 
 namespace varnel::reports {
 namespace {
-
-using testing::ElementsAre;
 
 const ReconciliationScope kScope{
     .account_id = 12, .history_id = 3, .statement_date = Date::ParseIso("2025-03-31")};
@@ -42,82 +39,45 @@ const std::string kDesktop =
 const std::string kDesktopOrder = Desktop("ORDER BY ", 11) + Blanks(19) + ")" + Blanks(16) + ")" +
                                   Blanks(11) + "), GLDet.DetDate, GLDet.DetRef ";
 
-struct Asked {
-    int type;
-    bool include;
-    std::string text;
-    std::vector<std::string> parameters;
-};
-
-const Asked kAsked[] = {
-    {0,
-     false,
-     kHead + kServer + kFrom + kEnd + kServerOrder,
-     {"3", "3", "3", "3", "12", "2025-03-31"}},
-    {0,
-     true,
-     kHead + kServer + kFrom + kOr + kEnd + kServerOrder,
-     {"3", "3", "3", "3", "3", "12", "2025-03-31"}},
-    {1,
-     false,
-     kHead + kDesktop + kFrom + kEnd + kDesktopOrder,
-     {"3", "3", "3", "3", "12", "2025-03-31", "3", "3", "3", "3"}},
-    {1,
-     true,
-     kHead + kDesktop + kFrom + kOr + kEnd + kDesktopOrder,
-     {"3", "3", "3", "3", "3", "12", "2025-03-31", "3", "3", "3", "3"}},
-    {7, false, kHead + kFrom + kEnd, {"3", "3", "3", "3", "12", "2025-03-31"}},
-};
-
-std::vector<std::string> Values(const ParameterQuery& query) {
-    std::vector<std::string> values;
-    for (const auto& parameter : query.parameters) values.push_back(parameter.ToText());
-    return values;
-}
-
-void ExpectTypes(const ParameterQuery& query) {
-    for (const auto& value : query.parameters)
+void ExpectValues(const ParameterQuery& query, const std::string& values) {
+    std::string bound;
+    for (const auto& value : query.parameters) {
         EXPECT_TRUE(value.Holds<std::int32_t>() || value.Holds<Date>()) << value.TypeName();
+        bound += value.ToText() + " ";
+    }
+    EXPECT_EQ(bound, values);
 }
 
 TEST(ReconciliationQueryTest, ItemsAreAskedForInTheDialectOfTheDatabase) {
-    for (const auto& asked : kAsked) {
-        const auto query = ItemsQuery(asked.type, kScope, asked.include);
-        EXPECT_EQ(query.text, asked.text) << asked.type;
-        EXPECT_EQ(Values(query), asked.parameters) << asked.type;
-        ExpectTypes(query);
-    }
-}
-
-TEST(ReconciliationQueryTest, OutstandingItemsAreAddedUpInTheAmountsOfTheAccount) {
-    const auto text = [](const char* amount, const char* name, const char* sign) {
-        return std::string("SELECT SUM(GLDet.") + amount + ") AS " + name +
-               " FROM GLDet WHERE GLDet." + amount + " " + sign +
-               " 0    AND ((GLDet.Conciliated = 0 OR GLDet.Conciliated is null) OR "
-               "GLDet.ExBankConcilHistoryId >?)    AND GLDet.ExAcctId = ?    "
-               "AND GLDet.DetDate <= ?";
+    const std::tuple<int, bool, std::string, const char*> kAsked[] = {
+        {0, false, kServer + kFrom + kEnd + kServerOrder, "3 3 3 3 12 2025-03-31 "},
+        {0, true, kServer + kFrom + kOr + kEnd + kServerOrder, "3 3 3 3 3 12 2025-03-31 "},
+        {1, false, kDesktop + kFrom + kEnd + kDesktopOrder, "3 3 3 3 12 2025-03-31 3 3 3 3 "},
+        {1, true, kDesktop + kFrom + kOr + kEnd + kDesktopOrder,
+         "3 3 3 3 3 12 2025-03-31 3 3 3 3 "},
+        {7, false, kFrom + kEnd, "3 3 3 3 12 2025-03-31 "},
     };
-    for (const char* amount : {"DetAmnt", "ForeignAmnt"}) {
-        const auto withdrawals = OutstandingWithdrawalsQuery(amount, kScope);
-        const auto deposits = OutstandingDepositsQuery(amount, kScope);
-        EXPECT_EQ(withdrawals.text, text(amount, "ChqAmntCirc", "<"));
-        EXPECT_EQ(deposits.text, text(amount, "DepAmntCirc", ">"));
-        for (const auto& query : {withdrawals, deposits}) {
-            EXPECT_THAT(Values(query), ElementsAre("3", "12", "2025-03-31"));
-            ExpectTypes(query);
-        }
+    for (const auto& [type, include, text, values] : kAsked) {
+        const auto query = ItemsQuery(type, kScope, include);
+        EXPECT_EQ(query.text, kHead + text) << type;
+        ExpectValues(query, values);
     }
 }
 
-TEST(ReconciliationQueryTest, TheLedgerBalanceIsTheSumOfAllLinesToTheDate) {
-    for (const std::string amount : {"DetAmnt", "ForeignAmnt"}) {
-        const auto query = LedgerBalanceQuery(amount, kScope);
-        EXPECT_EQ(query.text, "SELECT SUM(GLDet." + amount +
-                                  ") AS GLBalAmnt FROM GLDet WHERE GLDet.ExAcctId = ?    "
-                                  "AND GLDet.DetDate <= ?");
-        EXPECT_THAT(Values(query), ElementsAre("12", "2025-03-31"));
-        ExpectTypes(query);
-    }
+TEST(ReconciliationQueryTest, SumsAreOfTheAmountsOfTheAccount) {
+    const std::string sum = "SELECT SUM(GLDet.C) AS ", from = " FROM GLDet WHERE GLDet.";
+    const std::string account = "ExAcctId = ?    AND GLDet.DetDate <= ?";
+    const std::string open =
+        "   AND ((GLDet.Conciliated = 0 OR GLDet.Conciliated is null) OR "
+        "GLDet.ExBankConcilHistoryId >?)    AND GLDet.";
+    const auto withdrawals = OutstandingWithdrawalsQuery("C", kScope);
+    const auto deposits = OutstandingDepositsQuery("C", kScope);
+    const auto balance = LedgerBalanceQuery("C", kScope);
+    EXPECT_EQ(withdrawals.text, sum + "ChqAmntCirc" + from + "C < 0 " + open + account);
+    EXPECT_EQ(deposits.text, sum + "DepAmntCirc" + from + "C > 0 " + open + account);
+    EXPECT_EQ(balance.text, sum + "GLBalAmnt" + from + account);
+    for (const auto& query : {withdrawals, deposits}) ExpectValues(query, "3 12 2025-03-31 ");
+    ExpectValues(balance, "12 2025-03-31 ");
 }
 
 }  // namespace
