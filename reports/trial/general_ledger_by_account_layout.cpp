@@ -13,21 +13,21 @@ using namespace framework;
 constexpr std::int16_t kCarriedForward = 30053;
 constexpr std::int16_t kBroughtForward = 30054;
 
-constexpr auto kDate = ColumnPlace::Left(0, 880);
-constexpr auto kSeqNo = ColumnPlace::Left(920, 520);
-constexpr auto kSource = ColumnPlace::Left(1'480, 560);
-constexpr auto kReference = ColumnPlace::Left(2'080, 840);
-constexpr auto kDescription = ColumnPlace::Left(2'960, 1'720, Stretch::kWiden);
-constexpr auto kForeign = ColumnPlace::Amount(4'740, 1'440);
-constexpr auto kDebit = ColumnPlace::Amount(6'240, 1'320);
-constexpr auto kCredit = ColumnPlace::Amount(7'620, 1'320);
-constexpr auto kBalance = ColumnPlace::Amount(9'000, 1'440);
-constexpr ColumnPlace kType{10'480, 300, Align::kLeft, Stretch::kShift};
-constexpr auto kAccount = ColumnPlace::Left(0, 1'440);
-constexpr auto kAccountName = ColumnPlace::Left(1'480, 4'700, Stretch::kWiden);
+constexpr auto kDate = ColumnPlace::Left(0, 900);
+constexpr auto kSeqNo = ColumnPlace::Left(960, 580);
+constexpr auto kSource = ColumnPlace::Left(1'580, 500);
+constexpr auto kReference = ColumnPlace::Left(2'120, 960);
+constexpr auto kDescription = ColumnPlace::Left(3'140, 1'840, Stretch::kWiden);
+constexpr auto kForeign = ColumnPlace::Amount(5'040, 1'380);
+constexpr auto kDebit = ColumnPlace::Amount(6'480, 1'260);
+constexpr auto kCredit = ColumnPlace::Amount(7'800, 1'260);
+constexpr auto kBalance = ColumnPlace::Amount(9'120, 1'340);
+constexpr ColumnPlace kType{10'500, 300, Align::kLeft, Stretch::kShift};
+constexpr auto kAccount = ColumnPlace::Left(0, 1'520);
+constexpr auto kAccountName = ColumnPlace::Left(1'580, 4'840, Stretch::kWiden);
 /// What stands before an amount: it ends where the balance, or the debit, begins.
-constexpr ColumnPlace kBeforeBalance{6'240, 2'700, Align::kRight, Stretch::kShift};
-constexpr ColumnPlace kBeforeDebit{1'980, 4'200, Align::kRight, Stretch::kWiden};
+constexpr ColumnPlace kBeforeBalance{6'480, 2'580, Align::kRight, Stretch::kShift};
+constexpr ColumnPlace kBeforeDebit{2'120, 4'300, Align::kRight, Stretch::kWiden};
 constexpr Twips kHeaderTop = 70;
 
 ControlLayout OverBreak(ControlLayout control, Carry carry) {
