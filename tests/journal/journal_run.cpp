@@ -1,5 +1,7 @@
 #include "tests/journal/journal_run.h"
 
+#include <utility>
+
 namespace varnel::test {
 
 RowSet JournalRows(const std::vector<JournalLine>& lines) {
@@ -16,7 +18,7 @@ RowSet JournalRows(const std::vector<JournalLine>& lines) {
     return rows;
 }
 
-JournalRun::JournalRun() {
+JournalRun::JournalRun(std::shared_ptr<IReport> tried) : report(std::move(tried)) {
     host->texts[5860] = "entries";
     host->company.currency_info.records.push_back(
         {.id = 2, .code = "USD", .description = "US dollar"});

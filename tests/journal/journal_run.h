@@ -37,16 +37,16 @@ inline JournalLine Amount(const char* amount, std::int32_t entry = 1) {
     return line;
 }
 
-/// A journal of a host whose texts and currencies a test may change; home currency 1 is CAD, 2 is
-/// USD.
+/// A journal, or another report of entries, of a host whose texts and currencies a test may change;
+/// home currency 1 is CAD, 2 is USD.
 class JournalRun {
   public:
-    JournalRun();
+    explicit JournalRun(std::shared_ptr<IReport> tried = clsReport().GeneralJournal());
     /// Runs the same report object again with each call.
     CollectedBands operator()(const std::vector<JournalLine>& lines);
 
     std::shared_ptr<MemoryHost> host = std::make_shared<MemoryHost>();
-    std::shared_ptr<IReport> report = clsReport().GeneralJournal();
+    std::shared_ptr<IReport> report;
 };
 
 }  // namespace varnel::test
