@@ -120,7 +120,7 @@ void dsrGeneralLedgerByAccount::PlaceColumns() {
     const bool foreign = DisplayForeignCurrency() && foreign_used_;
     At("lblForeignCap").SetVisible(foreign);
     const Twips right = (foreign ? txtForeign : txtDebit).Place().left - kGap;
-    for (Control* control : {&txtDetDesc, &txtRemarks, &At("lblDescrCap")})
+    for (Control* control : {&txtDetDesc, &At("lblDescrCap")})
         control->SetWidth(right - control->Place().left);
 }
 

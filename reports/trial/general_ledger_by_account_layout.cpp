@@ -14,17 +14,18 @@ constexpr std::int16_t kCarriedForward = 30053;
 constexpr std::int16_t kBroughtForward = 30054;
 
 constexpr auto kDate = ColumnPlace::Left(0, 900);
-constexpr auto kSeqNo = ColumnPlace::Left(960, 580);
-constexpr auto kSource = ColumnPlace::Left(1'580, 500);
-constexpr auto kReference = ColumnPlace::Left(2'120, 960);
-constexpr auto kDescription = ColumnPlace::Left(3'140, 1'840, Stretch::kWiden);
-constexpr auto kForeign = ColumnPlace::Amount(5'040, 1'380);
+constexpr auto kSeqNo = ColumnPlace::Left(940, 570);
+constexpr auto kSource = ColumnPlace::Left(1'540, 560);
+constexpr auto kReference = ColumnPlace::Left(2'140, 1'020);
+constexpr auto kDescription = ColumnPlace::Left(3'220, 1'820, Stretch::kWiden);
+constexpr auto kRemarks = ColumnPlace::Left(3'220, 7'580, Stretch::kWiden);
+constexpr auto kForeign = ColumnPlace::Amount(5'100, 1'320);
 constexpr auto kDebit = ColumnPlace::Amount(6'480, 1'260);
 constexpr auto kCredit = ColumnPlace::Amount(7'800, 1'260);
 constexpr auto kBalance = ColumnPlace::Amount(9'120, 1'340);
 constexpr ColumnPlace kType{10'500, 300, Align::kLeft, Stretch::kShift};
-constexpr auto kAccount = ColumnPlace::Left(0, 1'520);
-constexpr auto kAccountName = ColumnPlace::Left(1'580, 4'840, Stretch::kWiden);
+constexpr auto kAccount = ColumnPlace::Left(0, 1'480);
+constexpr auto kAccountName = ColumnPlace::Left(1'540, 4'880, Stretch::kWiden);
 /// What stands before an amount: it ends where the balance, or the debit, begins.
 constexpr ColumnPlace kBeforeBalance{6'480, 2'580, Align::kRight, Stretch::kShift};
 constexpr ColumnPlace kBeforeDebit{2'120, 4'300, Align::kRight, Stretch::kWiden};
@@ -99,7 +100,7 @@ SectionLayout Lines() {
                 OverBreak(ColumnText("txtBalance", kBalance, 0, kBody, "balance"), Carry::kGives),
                 OverBreak(ColumnText("lblBalanceType", kType, 0, kQuiet, "balance_type"),
                           Carry::kGives),
-                Growing(ColumnText("txtRemarks", kDescription, kLineHeight, kRemark, "remarks"))}};
+                Growing(ColumnText("txtRemarks", kRemarks, kLineHeight, kRemark, "remarks"))}};
 }
 
 SectionLayout AccountFooter() {
