@@ -74,15 +74,16 @@ void Configure(IReport& report, const std::shared_ptr<Application>& host,
     auto& segments = dynamic_cast<ISegmentFilter&>(report);
     segments.ISegmentFilter_SegmentFilter(Listed(question.segments));
     segments.ISegmentFilter_SegmentNoneFilter(question.also_without_segment);
-    auto& rates = dynamic_cast<IExchangeRates&>(report);
-    const auto collection = std::make_shared<RateCollection>();
-    for (int currency = kHomeCurrency + 1; currency <= kCurrencies; ++currency)
-        collection->Set(currency, Rate::FromScaled(kRates[currency] * (Rate::kScale / 10'000)));
-    rates.IExchangeRates_ExchangeRates(collection);
-    rates.IExchangeRates_Reevaluate(question.revalue);
     auto* const options = dynamic_cast<IReportConfig*>(&report);
     if (options != nullptr && question.include_zero)
         options->IReportConfig_ShowConfigurationScreen();
+    auto* const rates = dynamic_cast<IExchangeRates*>(&report);
+    if (rates == nullptr) return;
+    const auto collection = std::make_shared<RateCollection>();
+    for (int currency = kHomeCurrency + 1; currency <= kCurrencies; ++currency)
+        collection->Set(currency, Rate::FromScaled(kRates[currency] * (Rate::kScale / 10'000)));
+    rates->IExchangeRates_ExchangeRates(collection);
+    rates->IExchangeRates_Reevaluate(question.revalue);
 }
 
 }  // namespace varnel::test

@@ -2,6 +2,7 @@
 // their number and VARNEL_SEED the first of them, to see one that failed again.
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <map>
 
@@ -75,13 +76,19 @@ TEST(TrialBalances, AdjustASegmentedLedgerUntilItBalances) {
     });
 }
 
-TEST(TrialDetail, ClosesEachAccountAtItsLineOfTheSummary) {
+/// What holds of the balances of both reports that show how they came about.
+class RunningBalances : public testing::TestWithParam<decltype(&RunDetail)> {};
+
+INSTANTIATE_TEST_SUITE_P(Both, RunningBalances, testing::Values(RunDetail, RunLedger));
+
+TEST_P(RunningBalances, CloseEachAccountAtItsLineOfTheSummary) {
     ForEveryCompany([](const Books& books, const auto& host, Random& random) {
         Question question = SomePeriod(books, random);
         if (random.Chance(700)) question = SomeSegments(question, random);
+        question.include_zero = random.Chance(300);
         SCOPED_TRACE(InWords(question));
         const Summary summary = RunSummary(host, question);
-        const Detail detail = RunDetail(host, question);
+        const Detail detail = GetParam()(host, question);
         for (const auto& account : books.accounts)
             EXPECT_EQ(detail.Of(account.number).closing, summary.Of(account.number))
                 << account.number;
@@ -89,7 +96,7 @@ TEST(TrialDetail, ClosesEachAccountAtItsLineOfTheSummary) {
 }
 
 // The last day of one period and the first of the next, both in the same fiscal year.
-TEST(TrialDetail, OpensEachPeriodAtTheCloseOfTheOneBefore) {
+TEST_P(RunningBalances, OpenEachPeriodAtTheCloseOfTheOneBefore) {
     ForEveryCompany([](const Books& books, const auto& host, Random& random) {
         Question whole = SomePeriod(books, random);
         whole.from = std::max(whole.from, books.YearStart(whole.to));
@@ -99,9 +106,9 @@ TEST(TrialDetail, OpensEachPeriodAtTheCloseOfTheOneBefore) {
         second.from = first.to + 1;
         if (second.from > second.to) return;
         SCOPED_TRACE(InWords(first) + "; " + InWords(second));
-        const Detail before = RunDetail(host, first);
-        const Detail after = RunDetail(host, second);
-        const Detail both = RunDetail(host, whole);
+        const Detail before = GetParam()(host, first);
+        const Detail after = GetParam()(host, second);
+        const Detail both = GetParam()(host, whole);
         for (const auto& account : books.accounts) {
             EXPECT_EQ(before.Of(account.number).closing, after.Of(account.number).forward);
             EXPECT_EQ(before.Of(account.number).forward, both.Of(account.number).forward);
@@ -111,7 +118,7 @@ TEST(TrialDetail, OpensEachPeriodAtTheCloseOfTheOneBefore) {
 }
 
 // A new fiscal year begins with nothing earned; what the old one earned is retained.
-TEST(TrialDetail, OpensAFiscalYearWithTheEarningsOfTheOneBeforeRetained) {
+TEST_P(RunningBalances, OpenAFiscalYearWithTheEarningsOfTheOneBeforeRetained) {
     ForEveryCompany([](const Books& books, const auto& host, Random& random) {
         for (std::size_t year = 1; year < books.years.size(); ++year) {
             Question old, next;
@@ -121,8 +128,8 @@ TEST(TrialDetail, OpensAFiscalYearWithTheEarningsOfTheOneBeforeRetained) {
             next.to = books.years[year].last;
             if (random.Chance(500)) old.segments = next.segments = SomeOf(3, random);
             SCOPED_TRACE(InWords(old) + "; " + InWords(next));
-            const Detail before = RunDetail(host, old);
-            const Detail after = RunDetail(host, next);
+            const Detail before = GetParam()(host, old);
+            const Detail after = GetParam()(host, next);
             Units earned = 0, retained = 0;
             for (const auto& account : books.accounts) {
                 const Units closing = before.Of(account.number).closing;
@@ -135,6 +142,29 @@ TEST(TrialDetail, OpensAFiscalYearWithTheEarningsOfTheOneBeforeRetained) {
             }
             EXPECT_EQ(retained, earned);
         }
+    });
+}
+
+TEST(Ledgers, AddUpToEveryLineOfThePeriodByAccountAndOverAllTypes) {
+    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
+        Question question = SomePeriod(books, random);
+        if (random.Chance(600)) question = SomeSegments(question, random);
+        SCOPED_TRACE(InWords(question));
+        Units debit = 0, credit = 0;
+        for (const auto& line : books.lines)
+            if (line.date >= question.from && line.date <= question.to && question.Takes(line))
+                (line.amount > 0 ? debit : credit) += std::abs(line.amount);
+        const Detail by_account = RunLedger(host, question);
+        const DebitAndCredit all = RunGeneralLedger(host, 0, question);
+        DebitAndCredit by_type;
+        for (int type = 1; type <= 7; ++type) {
+            const DebitAndCredit one = RunGeneralLedger(host, type, question);
+            by_type.debit += one.debit;
+            by_type.credit += one.credit;
+        }
+        for (const Units sum : {by_account.debit, all.debit, by_type.debit}) EXPECT_EQ(sum, debit);
+        for (const Units sum : {by_account.credit, all.credit, by_type.credit})
+            EXPECT_EQ(sum, credit);
     });
 }
 

@@ -33,10 +33,14 @@ auto Rank(const Detail::Line& line) {
     return std::tuple(line.date, line.entry, line.amount, line.foreign);
 }
 
+/// Of the trial balance's detail, or of the ledger by account.
 class DetailReader {
   public:
+    explicit DetailReader(bool ledger) : ledger_(ledger) {}
+
     void Read(const CollectedBand& band) {
         if (band.section == "ghAccount") BeginAccount(band);
+        if (band.section == (ledger_ ? "ghForward" : "ghAccount")) BringForward(band);
         if (band.section == "Detail") AddLine(band);
         if (band.section == "gfAccount") EndAccount(band);
         if (band.section == "ReportFooter") ReadTotals(band);
@@ -46,11 +50,14 @@ class DetailReader {
 
   private:
     void BeginAccount(const CollectedBand& band) {
-        auto& account = detail.accounts.emplace_back();
-        account.account = band.Text("txtGLAcctId");
+        detail.accounts.emplace_back().account = band.Text("txtGLAcctId");
+    }
+
+    void BringForward(const CollectedBand& band) {
+        auto& account = detail.accounts.back();
         account.key = band["txtBalanceForward"].tag;
         account.forward = Balance(band, "txtBalanceForward", "lblBalanceForwardType");
-        account.unrealized = Balance(band, "txtGPUnrealized", "lblGPUnrealizedType");
+        if (!ledger_) account.unrealized = Balance(band, "txtGPUnrealized", "lblGPUnrealizedType");
         running_ = account.forward + account.unrealized;
     }
 
@@ -58,11 +65,12 @@ class DetailReader {
         const Units amount = DebitLessCredit(band);
         running_ += amount;
         EXPECT_EQ(Balance(band, "txtBalance", "lblBalanceType"), running_);
-        detail.accounts.back().lines.push_back({.date = std::get<Date>(band["txtDetDate"].value),
-                                                .entry = std::stoi(band.Text("txtSeqNo")),
-                                                .amount = amount,
-                                                .key = band["txtDebit"].tag,
-                                                .foreign = Amount(band["txtCurrency"])});
+        detail.accounts.back().lines.push_back(
+            {.date = std::get<Date>(band["txtDetDate"].value),
+             .entry = std::stoi(band.Text("txtSeqNo")),
+             .amount = amount,
+             .key = band["txtDebit"].tag,
+             .foreign = Amount(band[ledger_ ? "txtForeign" : "txtCurrency"])});
     }
 
     void EndAccount(const CollectedBand& band) {
@@ -76,12 +84,13 @@ class DetailReader {
     }
 
     void ReadTotals(const CollectedBand& band) {
-        detail.adjustment = DebitLessCredit(band, "Adj");
+        if (!ledger_) detail.adjustment = DebitLessCredit(band, "Adj");
         detail.debit = Amount(band["txtDebitGrandTotal"]);
         detail.credit = Amount(band["txtCreditGrandTotal"]);
         detail.balance = Balance(band, "txtBalanceGrandTotal", "lblBalanceGrandTotalType");
     }
 
+    bool ledger_;
     Units running_ = 0;
 };
 
@@ -125,9 +134,25 @@ Detail RunDetail(const std::shared_ptr<Application>& host, const Question& quest
         selection.single_account = question.accounts.front();
     else
         selection.account_ids = Listed(question.accounts);
-    DetailReader reader;
+    DetailReader reader(false);
     for (const auto& band : Collect(*report->IReport_ReportDesigner()).bands) reader.Read(band);
     return reader.detail;
+}
+
+Detail RunLedger(const std::shared_ptr<Application>& host, const Question& question) {
+    const auto report = clsReport().GeneralLedgerByAccount();
+    Configure(*report, host, question);
+    DetailReader reader(true);
+    for (const auto& band : Collect(*report->IReport_ReportDesigner()).bands) reader.Read(band);
+    return reader.detail;
+}
+
+DebitAndCredit RunGeneralLedger(const std::shared_ptr<Application>& host, int type,
+                                const Question& question) {
+    const auto report = clsReport().GeneralLedger(static_cast<std::int16_t>(type));
+    Configure(*report, host, question);
+    const auto footer = Collect(*report->IReport_ReportDesigner()).Of("ReportFooter").at(0);
+    return {Amount(footer["txtDebitGrandTotal"]), Amount(footer["txtCreditGrandTotal"])};
 }
 
 Gifi RunGifi(const std::shared_ptr<Application>& host, const Question& question) {

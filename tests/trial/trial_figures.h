@@ -67,7 +67,17 @@ struct Gifi {
 /// test when a running balance is not the one before it and the line.
 Summary RunSummary(const std::shared_ptr<Application>& host, const Question& question);
 Detail RunDetail(const std::shared_ptr<Application>& host, const Question& question);
+/// The ledger by account, which neither revalues nor adjusts.
+Detail RunLedger(const std::shared_ptr<Application>& host, const Question& question);
 Gifi RunGifi(const std::shared_ptr<Application>& host, const Question& question);
+
+struct DebitAndCredit {
+    Units debit = 0, credit = 0;
+};
+
+/// The grand totals of the general ledger, of accounts of one type or of all (0).
+DebitAndCredit RunGeneralLedger(const std::shared_ptr<Application>& host, int type,
+                                const Question& question);
 
 /// The figures in words, one piece each, to compare and to print.
 std::vector<std::string> InWords(const Summary& summary);

@@ -32,17 +32,23 @@ void TrialRun::Post(std::int32_t account_id, const char* date, const char* home,
     line_currencies.push_back(currency_id);
 }
 
+Variant TrialRun::RemarkOf(std::int32_t line) const {
+    const auto found = remarks.find(line);
+    return found == remarks.end() ? Variant(Variant::Null{}) : Variant(found->second);
+}
+
 RowSet TrialRun::Accounts() const {
     RowSet rows{kAccountColumns, {}};
     for (const auto& account : chart) rows.rows.push_back(AccountValues(account));
     return rows;
 }
 
-// Joined as the statement of the detail joins them: an account without lines has one row.
+// Joined as the statements join them: an account without lines has one row.
 RowSet TrialRun::AccountsWithLines() const {
     RowSet rows{kAccountColumns, {}};
-    for (const char* name : {"InGLDetId", "DetDate", "DetAmnt", "ForeignAmnt", "GLDetExCurrencyId",
-                             "Source", "ExSrcKeyVal", "DetDesc", "SeqNo"})
+    for (const char* name :
+         {"InGLDetId", "DetDate", "DetAmnt", "ForeignAmnt", "GLDetExCurrencyId", "Source",
+          "ExSrcKeyVal", "DetDesc", "SeqNo", "DetRef", "Remarks", "GroupType"})
         rows.columns.push_back(name);
     for (const auto& account : chart) {
         const std::size_t before = rows.rows.size();
@@ -54,13 +60,15 @@ RowSet TrialRun::AccountsWithLines() const {
             for (const Variant& value :
                  {Variant(number), Variant(line.date), Variant(line.home), Variant(line.foreign),
                   Variant(line_currencies[i]), Variant("INV"), Variant(100 + number),
-                  Variant("Sale"), Variant(number)})
+                  Variant("Sale"), Variant(number), Variant("R-" + std::to_string(number)),
+                  RemarkOf(number), Variant(account.group_type)})
                 values.push_back(value);
             rows.rows.push_back(std::move(values));
         }
         if (rows.rows.size() > before) continue;
         auto values = AccountValues(account);
         values.resize(rows.columns.size(), Variant::Null{});
+        values.back() = account.group_type;
         rows.rows.push_back(std::move(values));
     }
     return rows;
@@ -69,7 +77,8 @@ RowSet TrialRun::AccountsWithLines() const {
 void TrialRun::Prepare() {
     for (const auto& account : chart) host->company.account_types[account.id] = account.type;
     host->database.Answer("FROM GLAcct LEFT JOIN", Accounts());
-    host->database.Answer("SubQuery", AccountsWithLines());
+    for (const char* joined : {"SubQuery", "AS GLDet ON"})
+        host->database.Answer(joined, AccountsWithLines());
 }
 
 CollectedBands TrialRun::operator()() {

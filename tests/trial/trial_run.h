@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -16,16 +17,17 @@ struct ChartAccount {
     std::int32_t currency_id = 0;
     bool inactive = false;
     const char* gifi = "100";
+    std::int32_t group_type = 2;
 };
 
-/// One of the three reports.
+/// One of the trial balances, or the ledger by account.
 class TrialRun : public ReportRun {
   public:
     using ReportRun::ReportRun;
 
     void Post(std::int32_t account_id, const char* date, const char* home,
               const char* foreign = "0", std::int32_t currency_id = 1);
-    /// The rows of the summary and of GIFI; those of the detail.
+    /// The rows of the summary and of GIFI; those of the detail and of the ledger.
     RowSet Accounts() const;
     RowSet AccountsWithLines() const;
     /// Gives the host its rows. Part of a run.
@@ -34,7 +36,11 @@ class TrialRun : public ReportRun {
     CollectedBands operator()();
 
     std::vector<ChartAccount> chart;
-    std::vector<std::int32_t> line_currencies;  // Of the host's ledger lines.
+    std::vector<std::int32_t> line_currencies;    // Of the host's ledger lines.
+    std::map<std::int32_t, const char*> remarks;  // Of lines, numbered from 1.
+
+  private:
+    Variant RemarkOf(std::int32_t line) const;
 };
 
 inline TrialRun SummaryRun() { return TrialRun(clsReport().TrialBalanceSummary()); }
@@ -42,5 +48,6 @@ inline TrialRun DetailRun(bool hide_inactive = false) {
     return TrialRun(clsReport().TrialBalanceDetail(hide_inactive));
 }
 inline TrialRun GifiRun() { return TrialRun(clsReport().GIFIReport()); }
+inline TrialRun LedgerRun() { return TrialRun(clsReport().GeneralLedgerByAccount()); }
 
 }  // namespace varnel::test
