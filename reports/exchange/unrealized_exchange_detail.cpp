@@ -213,7 +213,9 @@ void Report::Detail_Format() {
     if (before) Mark(), period_ = *before + Position::Of(line, worth);
 
     ShowKey();
-    Mark(), txtDetDesc.SetText(row.Text(columns_.description));
+    text_.clear();
+    row.AppendText(columns_.description, text_);
+    txtDetDesc.SetText(text_);
     if (!line.foreign.IsZero()) PutForeign(line_.foreign, line.foreign);
     if (!line.home.IsZero()) PutHome(line_.home, line.home);
     PutHome(line_.revalued, worth.revalued);

@@ -163,9 +163,11 @@ void EntryReport::ghSeqNo_Format() {
     row.AppendText(columns_.seq_no, text_);
     Mark(), txtSeqNo.SetValue(row.Integer(columns_.seq_no), text_);
 
-    Mark(), text_ = row.Text(columns_.description);
+    // References that a database keeps as numbers are texts here.
+    text_.clear();
+    row.AppendText(columns_.description, text_);
     text_ += "  #Ref: ";
-    Mark(), text_ += row.Text(columns_.reference);
+    row.AppendText(columns_.reference, text_);
     txtDescription.SetText(Trimmed(text_));
 
     Mark(), ReadDocumentKey(row, columns_.source, columns_.source_key, text_);
