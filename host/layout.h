@@ -45,7 +45,6 @@ enum class ControlKind : std::uint8_t {
 /// What a control does when the page is wider than the layout.
 enum class Stretch : std::uint8_t { kNone, kWiden, kShift };
 
-/// A control as designed. Texts and names are constants of the program: views stay valid for ever.
 /// What a control has to do with the figure that is carried from page to page while a group of rows
 /// goes on.
 enum class Carry : std::uint8_t {
@@ -59,6 +58,7 @@ enum class Carry : std::uint8_t {
     kWithIt,
 };
 
+/// A control as designed. Texts and names are constants of the program: views stay valid for ever.
 struct ControlLayout {
     std::string_view name;
     ControlKind kind = ControlKind::kText;
