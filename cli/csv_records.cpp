@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "cli/errors.h"
+#include "render/fonts/utf8.h"
 
 namespace varnel::cli {
 
@@ -10,6 +11,21 @@ namespace {
 
 constexpr int kEnd = std::istream::traits_type::eof();
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+constexpr const char* kNotUtf8 = "it is no text in UTF-8; save it as \"CSV UTF-8\"";
+
+bool IsUtf8(std::string_view text) {
+    if (render::IsAscii(text)) return true;
+    const char* const end = text.data() + text.size();
+    for (const char* at = text.data(); at != end;) {
+        const std::string_view rest(at, static_cast<std::size_t>(end - at));
+        if (render::DecodeUtf8(at, end) == render::kReplacementCharacter &&
+            !rest.starts_with(kReplacement))
+            return false;
+    }
+    return true;
+}
 
 bool EndsLine(int character) { return character == '\n' || character == '\r'; }
 
@@ -19,7 +35,7 @@ CsvRecords::CsvRecords(std::istream& input, std::string name)
     : input_(input), name_(std::move(name)) {
     if (Peek() != static_cast<unsigned char>(kByteOrderMark[0])) return;
     for (const char mark : kByteOrderMark)
-        if (Take() != mark) Refuse("it is no text in UTF-8; save it as \"CSV UTF-8\"");
+        if (Take() != mark) Refuse(kNotUtf8);
 }
 
 void CsvRecords::Refuse(const std::string& fault) const {
@@ -81,6 +97,8 @@ bool CsvRecords::Next() {
         Take();
         values_.push_back(ReadValue());
     }
+    for (const auto& value : values_)
+        if (!IsUtf8(value)) Refuse(kNotUtf8);
     if (columns_ == 0) columns_ = values_.size();
     if (values_.size() != columns_)
         Refuse("it has " + std::to_string(values_.size()) + " values and the header " +

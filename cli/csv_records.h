@@ -6,15 +6,16 @@
 
 namespace varnel::cli {
 
-/// Records of comma-separated values (RFC 4180), one by one: values between double quotes may hold
-/// commas, line ends and doubled quotes; empty lines and a byte order mark are passed over.
+/// Records of comma-separated values (RFC 4180) in UTF-8, one by one: values between double quotes
+/// may hold commas, line ends and doubled quotes; empty lines and a byte order mark are passed
+/// over.
 class CsvRecords {
   public:
     /// `name` is what messages call the input, which must outlive the records.
     CsvRecords(std::istream& input, std::string name);
 
-    /// False at the end. A UsageError for a record that is not well formed, or has another number
-    /// of values than the first one.
+    /// False at the end. A UsageError for a record that is not well formed or no UTF-8, or has
+    /// another number of values than the first one.
     bool Next();
     const std::vector<std::string>& Values() const { return values_; }
 

@@ -1,57 +1,71 @@
 #include "cli/reconciliation_figures.h"
 
+#include <set>
 #include <string>
 
 #include "cli/errors.h"
 #include "cli/names_by_id.h"
+#include "cli/reconciliation_properties.h"
 #include "cli/reconciliation_rows.h"
 #include "framework/query_runner.h"
+#include "reports/bank/reconciliation_query.h"
 
 namespace varnel::cli {
 
 namespace {
 
-constexpr const char* kSavedReconciliations =
-    "SELECT \"ID\", GLAcctId, \"BankConcilDate\" FROM BankConcilHistory LEFT JOIN GLAcct ON "
-    "InGLAcctId = ExAcctId";
-constexpr const char* kStatement =
-    "SELECT ExAcctId, \"BankConcilDate\" FROM BankConcilHistory WHERE \"ID\" = ?";
-constexpr const char* kNumber = "SELECT GLAcctId FROM GLAcct WHERE InGLAcctId = ?";
+namespace property = reconciliation;
 
-constexpr const char* kNumberProperty = "ConcilAcctId";
-constexpr const char* kDepositsProperty = "DepAmntCirc";
-constexpr const char* kWithdrawalsProperty = "ChqAmntCirc";
-constexpr const char* kLedgerProperty = "GLBalAmnt";
-constexpr const char* kDifferenceProperty = "DifAmnt";
-constexpr const char* kGiven[] = {kNumberProperty, kDepositsProperty, kWithdrawalsProperty,
-                                  kLedgerProperty, kDifferenceProperty};
+constexpr const char* kNumbers = "SELECT InGLAcctId, GLAcctId, NULL FROM GLAcct";
+constexpr const char* kBanks = "SELECT InGLAcctId, GLAcctId, NULL FROM GLAcct WHERE ChqAcct <> 0";
+
+constexpr std::string_view kGiven[] = {property::kAccountNumber, property::kDeposits,
+                                       property::kWithdrawals, property::kLedgerBalance,
+                                       property::kDifference};
 
 struct Account {
     std::int32_t id;
+    std::string number;
     bool foreign;  // In a currency of its own.
 };
 
-/// Puts the account, its number and the statement's date.
-void PutStatement(Object& report, const ReportEntry& entry, Application& application,
-                  std::int32_t account_id, Date date) {
-    const Variant account(account_id);
-    const auto number = framework::RunQuery(application, kNumber, {&account, 1});
-    std::string text;
-    if (!number->AtEnd()) number->Current().AppendText({0}, text);
-    report.Put(entry.account_property, account);
-    report.Put(kNumberProperty, text);
-    report.Put(entry.statement_date_property, date);
+struct Statement {
+    std::int32_t account_id = 0;
+    std::string account_number;
+    Date date;
+};
+
+void PutStatement(Object& report, const Statement& statement) {
+    report.Put(property::kAccount, statement.account_id);
+    report.Put(property::kAccountNumber, statement.account_number);
+    report.Put(property::kStatementDate, statement.date);
 }
 
-void PutSaved(Object& report, const ReportEntry& entry, Application& application,
-              std::int32_t history_id) {
-    NameOf(history_id, ReadNames(application, kSavedReconciliations), "saved reconciliation");
-    const Variant id(history_id);
-    const auto statement = framework::RunQuery(application, kStatement, {&id, 1});
-    const Row& row = statement->Current();
-    PutStatement(report, entry, application, row.Integer({0}), row.Day({1}));
-    report.Put(entry.history_property, id);
-    report.Call("RefreshTotalsWithBankConcilHistory", {});
+/// A UsageError for an id that no saved reconciliation has.
+Statement FindSaved(company::CompanyHost& host, std::int32_t history_id) {
+    NamesById numbers = ReadNames(host, kNumbers);
+    const auto records = host.CurrentCompany().Reconciliations().OpenRecords();
+    const Columns& columns = records->GetColumns();
+    const Column id = columns.At("ID");
+    const Column account = columns.At("ExAcctId");
+    const Column date = columns.At("BankConcilDate");
+    NamesById names;
+    Statement found;
+    for (; !records->AtEnd(); records->MoveNext()) {
+        const Row& record = records->Current();
+        const std::int32_t account_id = record.Integer(account);
+        const Statement statement{account_id, numbers[account_id], record.Day(date)};
+        names[record.Integer(id)] = statement.account_number + " - " + statement.date.ToIso();
+        if (record.Integer(id) == history_id) found = statement;
+    }
+    NameOf(history_id, names, "saved reconciliation");
+    return found;
+}
+
+void PutSaved(Object& report, company::CompanyHost& host, std::int32_t history_id) {
+    PutStatement(report, FindSaved(host, history_id));
+    report.Put(property::kHistory, history_id);
+    report.Call(property::kRefresh, {});
 }
 
 /// Sums of the account's lines up to the statement's date, in the account's currency.
@@ -60,13 +74,14 @@ struct LedgerSums {
     Currency balance;
 };
 
+/// Of what the report lists as outstanding.
 std::string OutstandingSum(const std::string& amount, const char* sign) {
-    return "SUM(CASE WHEN " + amount + sign +
-           " 0 AND (GLDet.Conciliated = 0 OR GLDet.Conciliated IS NULL) THEN " + amount + " END)";
+    return "SUM(CASE WHEN " + amount + sign + " 0 AND " + reports::kNotReconciled + " THEN " +
+           amount + " END)";
 }
 
 LedgerSums SumLedger(Application& application, const Account& account, Date date) {
-    const std::string amount = account.foreign ? "GLDet.ForeignAmnt" : "GLDet.DetAmnt";
+    const std::string amount = std::string("GLDet.") + reports::AmountColumn(account.foreign);
     const Variant parameters[] = {account.id, date};
     const auto sums = framework::RunQuery(
         application,
@@ -77,40 +92,53 @@ LedgerSums SumLedger(Application& application, const Account& account, Date date
     return {{.deposits = row.Amount({0}), .withdrawals = -row.Amount({1})}, row.Amount({2})};
 }
 
-Account AccountOf(Object& report, const ReportEntry& entry, company::CompanyHost& host) {
+[[noreturn]] void RefuseAccount(const std::string& number, const NamesById& banks) {
+    std::set<std::string> numbers;
+    for (const auto& [id, bank] : banks) numbers.insert(bank);
+    std::string list;
+    for (const auto& bank : numbers) list += (list.empty() ? "there are " : ", ") + bank;
+    throw UsageError("--account: " + number + " is no bank account; " +
+                     (list.empty() ? "the company has none" : list));
+}
+
+/// A UsageError for an account that is no bank account.
+Account AccountOf(Object& report, company::CompanyHost& host, const std::string& number) {
     auto& company = host.CurrentCompany();
-    const std::int32_t id = report.Get(entry.account_property).ToInteger32();
+    const std::int32_t id = report.Get(property::kAccount).ToInteger32();
+    const NamesById banks = ReadNames(host, kBanks);
+    const auto bank = banks.find(id);
+    if (bank == banks.end()) RefuseAccount(number, banks);
     const std::int32_t home = company.GetCurrencyInfo().CieHomeCurrencyId();
-    return {id, company.Accounts().CurrencyOf(id) != home};
+    return {id, bank->second, company.Accounts().CurrencyOf(id) != home};
 }
 
 void PutInProgress(Object& report, const ReportEntry& entry, company::CompanyHost& host,
                    const RunRequest& request, const RunSettings& settings) {
-    const Account account = AccountOf(report, entry, host);
+    const Account account = AccountOf(report, host, request.account);
     auto [outstanding, balance] = SumLedger(host, account, settings.statement.date);
     if (!entry.rows_property.empty()) {
         const auto rows = ReadReconciliationRows(request.rows_file);
         outstanding = SumOutstanding(*rows, account.foreign);
-        report.Put(entry.rows_property, ObjectRef(rows));
+        report.Put(property::kRows, ObjectRef(rows));
     }
     const auto& [deposits, withdrawals] = outstanding;
     const Currency ending = settings.statement.ending_balance;
-    PutStatement(report, entry, host, account.id, settings.statement.date);
-    report.Put(entry.ending_balance_property, ending);
-    report.Put(kDepositsProperty, deposits);
-    report.Put(kWithdrawalsProperty, withdrawals);
-    report.Put(kLedgerProperty, balance);
-    report.Put(kDifferenceProperty, balance - (ending + deposits - withdrawals));
+    PutStatement(report, {account.id, account.number, settings.statement.date});
+    report.Put(property::kEndingBalance, ending);
+    report.Put(property::kDeposits, deposits);
+    report.Put(property::kWithdrawals, withdrawals);
+    report.Put(property::kLedgerBalance, balance);
+    report.Put(property::kDifference, balance - (ending + deposits - withdrawals));
 }
 
 }  // namespace
 
 void RefuseFigures(const ReportEntry& entry, const RunSettings& settings) {
     if (entry.statement_date_property.empty()) return;
-    for (const auto& property : settings.properties)
-        for (const char* given : kGiven)
-            if (SameName(property.name, given))
-                throw UsageError("--property " + property.name +
+    for (const auto& set : settings.properties)
+        for (const auto given : kGiven)
+            if (SameName(set.name, given))
+                throw UsageError("--property " + set.name +
                                  ": leave it out; it follows from the account and its lines");
 }
 
@@ -119,7 +147,7 @@ void PutReconciliation(IReport& report, const ReportEntry& entry, company::Compa
     if (entry.statement_date_property.empty()) return;
     Object& designed = *report.IReport_ReportDesigner();
     if (settings.statement.history)
-        PutSaved(designed, entry, host, *settings.statement.history);
+        PutSaved(designed, host, *settings.statement.history);
     else
         PutInProgress(designed, entry, host, request, settings);
 }

@@ -10,9 +10,10 @@
 
 #include "cli/csv_records.h"
 #include "cli/errors.h"
+#include "cli/exact_amount.h"
 #include "drivers/memory_recordset.h"
-#include "host/error.h"
 #include "host/object.h"
+#include "reports/bank/reconciliation_query.h"
 
 namespace varnel::cli {
 
@@ -20,7 +21,7 @@ namespace {
 
 Variant ReadText(const std::string& text) { return text; }
 
-Variant ReadAmount(const std::string& text) { return Currency::Parse(text); }
+Variant ReadAmount(const std::string& text) { return ReadExactAmount(text); }
 
 Variant ReadDay(const std::string& text) {
     Date date;
@@ -82,8 +83,6 @@ Variant ReadValue(const CsvRecords& record, const RowColumn& column, const std::
         return column.read(text);
     } catch (const UsageError& error) {
         record.Refuse(std::string(column.name) + ": " + error.what());
-    } catch (const Error& error) {
-        record.Refuse(std::string(column.name) + ": " + error.Description());
     }
 }
 
@@ -123,7 +122,7 @@ std::shared_ptr<Recordset> ReadReconciliationRows(const std::string& file) {
 
 Outstanding SumOutstanding(Recordset& rows, bool foreign) {
     const Column ticked = rows.GetColumns().At("Conciliated");
-    const Column amount = rows.GetColumns().At(foreign ? "ForeignAmnt" : "DetAmnt");
+    const Column amount = rows.GetColumns().At(reports::AmountColumn(foreign));
     Outstanding sums;
     for (; !rows.AtEnd(); rows.MoveNext()) {
         const Row& row = rows.Current();

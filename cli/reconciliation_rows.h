@@ -21,7 +21,8 @@ struct Outstanding {
     Currency withdrawals;
 };
 
-/// Of the foreign amounts or the amounts at home; `rows` stands on its first one afterwards.
+/// What the report lists of them as outstanding. Of the foreign amounts or the amounts at home;
+/// `rows` stands on its first one afterwards.
 Outstanding SumOutstanding(Recordset& rows, bool foreign);
 
 }  // namespace varnel::cli

@@ -117,7 +117,7 @@ int Conclude(const MessageLog& log, bool written, Console& console) {
     if (log.Count() == 0) return kDone;
     std::string text = "the report showed " + GroupedCount(log.Count()) +
                        (log.Count() == 1 ? " message" : " messages");
-    if (!written) text += " and read no row; nothing was written";
+    if (!written) text += "; nothing was written";
     console.Say(text);
     return kMessagesShown;
 }

@@ -7,6 +7,7 @@
 #include "cli/errors.h"
 #include "cli/nearest_name.h"
 #include "cli/projects.h"
+#include "cli/reconciliation_properties.h"
 #include "framework/catalogue.h"
 #include "framework/create_object.h"
 
@@ -72,19 +73,19 @@ constexpr ReportEntry kReports[] = {
      .method = "BankReconciliation",
      .class_name = "dsrBankReconciliation",
      .arguments = None,
-     .account_property = "ExConcilAcctId",
-     .statement_date_property = "ConcDate",
-     .ending_balance_property = "EndBalAmnt",
-     .history_property = "ExBankConcilHistoryId",
+     .account_property = reconciliation::kAccount,
+     .statement_date_property = reconciliation::kStatementDate,
+     .ending_balance_property = reconciliation::kEndingBalance,
+     .history_property = reconciliation::kHistory,
      .ignores_filter = true},
     {.name = "current-bank-reconciliation",
      .method = "CurrentBankReconciliation",
      .class_name = "dsrCurrentBankReconciliation",
      .arguments = None,
-     .account_property = "ExConcilAcctId",
-     .statement_date_property = "ConcDate",
-     .ending_balance_property = "EndBalAmnt",
-     .rows_property = "ConcilDataSet",
+     .account_property = reconciliation::kAccount,
+     .statement_date_property = reconciliation::kStatementDate,
+     .ending_balance_property = reconciliation::kEndingBalance,
+     .rows_property = reconciliation::kRows,
      .ignores_filter = true},
     {.name = "unrealized-exchange",
      .method = "UnRealExchProfitLoss",

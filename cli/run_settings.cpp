@@ -3,9 +3,9 @@
 #include <charconv>
 
 #include "cli/errors.h"
+#include "cli/exact_amount.h"
 #include "cli/given_rates.h"
 #include "company/filter/filter_fault.h"
-#include "host/error.h"
 #include "host/object.h"
 
 namespace varnel::cli {
@@ -48,9 +48,9 @@ std::optional<std::int32_t> ReadGivenId(std::string_view option, const std::stri
 Currency ReadAmount(std::string_view option, const std::string& text) {
     if (text.empty()) return {};
     try {
-        return Currency::Parse(text);
-    } catch (const Error& error) {
-        throw UsageError(std::string(option) + ": " + error.Description());
+        return ReadExactAmount(text);
+    } catch (const UsageError& error) {
+        throw UsageError(std::string(option) + ": " + error.what());
     }
 }
 

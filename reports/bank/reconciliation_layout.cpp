@@ -18,10 +18,10 @@ constexpr auto kGroup = ColumnPlace::Left(0, 8'700, Stretch::kWiden);
 // In the block of the header, where other reports have their period.
 constexpr Twips kSubjectTop = 640;
 constexpr auto kAccountCaption = ColumnPlace::Left(0, 900);
-constexpr auto kAccount = ColumnPlace::Left(960, 1'700);
-constexpr auto kCurrency = ColumnPlace::Left(2'700, 560);
-constexpr auto kStatementCaption = ColumnPlace::Left(3'360, 1'900);
-constexpr auto kStatementDate = ColumnPlace::Left(5'320, 1'800);
+constexpr auto kAccount = ColumnPlace::Left(960, 1'300);
+constexpr auto kCurrency = ColumnPlace::Left(2'300, 560);
+constexpr auto kStatementCaption = ColumnPlace::Left(3'140, 1'500);
+constexpr auto kStatementDate = ColumnPlace::Left(4'700, 1'800);
 // As large as the values, so that they stand on one line.
 constexpr TextStyle kSubjectCaption = {.size = kPeriod.size, .ink = Ink::kMuted};
 

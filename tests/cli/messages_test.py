@@ -23,7 +23,7 @@ class Messages(VarnelTest):
     def test_the_count_is_said_last(self):
         _, _, errors = self.run_varnel(*JANUARY, "--filter", "Colour = 1")
         self.assertIn("\n  in Varnel.dsrGeneralJournal.ActiveReport_ReportStart at line ", errors)
-        self.assertEqual("varnel: the report showed 1 message and read no row; nothing was written",
+        self.assertEqual("varnel: the report showed 1 message; nothing was written",
                          errors.splitlines()[-1])
 
     def test_a_filter_that_cannot_run_is_pointed_at_in_one_line(self):

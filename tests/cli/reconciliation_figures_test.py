@@ -43,6 +43,8 @@ MALFORMED = (
     ("2026-09-31,1,A,0,1,,GJ,1", 'line 2: DetDate: "2026-09-31" is no date; write one'),
     ("2026-09-01,1,A,maybe,1,,GJ,1", 'line 2: Conciliated: "maybe" is neither yes nor no'),
     (',1,"A\n\nB",0,1,1,GJ,1\n\n,1,A,0,1,x,GJ,1', 'line 6: ForeignAmnt: "x" is not an amount'),
+    (",1,A,0,1,0.12345,GJ,1", 'line 2: ForeignAmnt: "0.12345" has more than four decimals'),
+    (",1,A,0,1,1,GJ,1\n,1,Ch\udce8que,0,1,1,GJ,1", "line 3: it is no text in UTF-8; save it as"),
     ("2026-09-01,1,A,0,12,50,1,GJ,1", "line 2: it has 9 values and the header 8; separate"),
     (',1,"A,0,1,1,GJ,1\n', "line 2: a quoted value begins and never ends"),
     (',1,"A"B,0,1,1,GJ,1', 'line 2: after the quoted value "A" comes more'),
@@ -162,6 +164,7 @@ class ReconciliationFigures(VarnelTest):
         (*_, ledger, _, _), = self.statements(lambda id: id == 5)
         bands = self.run_rows("screen.csv")
         self.assertEqual(("1030", "2026-08-31"), self.header(bands))
+        self.assertEqual("USD", bands[0][1]["txtCurrency"]["text"])
         self.assertEqual(OUTSTANDING, self.items(bands))
         # -50.40 + 200.10 - (73.00 + 1.00) = 75.70
         self.assertEqual(["-50.4000", "200.1000", "74.0000", "75.7000", in_words(ledger),
@@ -182,11 +185,19 @@ class ReconciliationFigures(VarnelTest):
         files = [(HEADER + "\n" + rows, message) for rows, message in MALFORMED]
         for text, message in [*files, *HEADERS]:
             with self.subTest(message):
-                (self.folder / "rows.csv").write_text(text)
+                (self.folder / "rows.csv").write_text(text, errors="surrogateescape")
                 self.assert_refused(USAGE, message, "run", "current-bank-reconciliation",
                                     "--company", "shop.db", "--rows", "rows.csv", "--account",
                                     "1020", "--statement-date", "2026-09-30", "--ending-balance",
                                     "0", "-o", "out.txt")
+
+    def test_only_a_bank_account_and_an_exact_ending_balance_are_taken(self):
+        for account, ending, message in (
+                ("4000", "0", "--account: 4000 is no bank account; there are 1020, 1030, 1040"),
+                ("1020", "1.00005", '--ending-balance: "1.00005" has more than four decimals')):
+            self.assert_refused(USAGE, message, "run", "bank-reconciliation", "--company",
+                                "shop.db", "--account", account, "--statement-date", "2026-09-30",
+                                "--ending-balance", ending)
 
     def test_a_file_that_is_not_there_or_is_a_folder_is_named(self):
         for rows, message in (("none.csv", "--rows: none.csv cannot be read: No such file"),
