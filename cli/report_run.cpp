@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "cli/company_argument.h"
 #include "cli/configure_options.h"
 #include "cli/configure_report.h"
 #include "cli/cumulative_period.h"
@@ -48,6 +49,7 @@ bool IsShownOnTerminal(const RunRequest& request) {
 void CheckFiles(const RunRequest& request, const OutputFormat& format) {
     if (request.company.empty())
         throw UsageError("say which company: --company FILE (\"varnel demo FILE\" makes one)");
+    CheckCompany("--company", request.company);
     if (!format.is_text && IsShownOnTerminal(request))
         throw UsageError("a terminal cannot show " + std::string(format.name) + ": add -o FILE." +
                          std::string(format.name));
@@ -77,6 +79,7 @@ std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
     company::HostOptions options;
     options.language = settings.language;
     options.session_date = settings.session_date;
+    options.database_type = settings.database_type;
     // After a signal queries end in errors that are no news.
     options.message_sink = [&log](const std::string& text) {
         if (StopSignal() == 0) log.Add(text);

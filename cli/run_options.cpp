@@ -44,7 +44,8 @@ bool HasCumulativePeriod(const ReportEntry& entry, IReport&) {
 }
 
 constexpr RunOption kOptions[] = {
-    {"--company", "FILE", &RunRequest::company, "The company database"},
+    {"--company", "FILE", &RunRequest::company,
+     "The company database: a file, or postgresql://user@host/database"},
     {"--from", "DATE", &RunRequest::from, "First day, as 2025-03-31; left out: no limit",
      HasFirstDay},
     {"--to", "DATE", &RunRequest::to, "Last day, or the closing date; left out: no limit",
@@ -89,6 +90,8 @@ constexpr RunOption kOptions[] = {
      Has<IReportConfig>},
     {"--session-date", "DATE", &RunRequest::session_date,
      "The date the company is worked at; left out: the company's, else today"},
+    {"--dialect", "server|desktop", &RunRequest::dialect,
+     "The SQL that the report writes; left out: that of the company's database"},
     {"--lang", "en-CA|fr-CA", &RunRequest::language, "Language; left out: the company's"},
     {"--paper", "letter|a4", &RunRequest::paper, "Paper of a PDF; left out: letter"},
     {"--landscape", "", &RunRequest::landscape, "Turn the paper of a PDF"},

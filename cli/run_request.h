@@ -32,6 +32,7 @@ struct RunRequest {
     std::vector<std::string> options;     // "name=value", of the report's dialog.
     bool configure = false;
     std::string session_date;
+    std::string dialect;
     std::string language;
     std::string paper;
     bool landscape = false;

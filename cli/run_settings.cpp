@@ -113,6 +113,12 @@ engine::PageSetup ReadPage(const std::string& paper, bool landscape) {
     return landscape ? page.Landscape() : page;
 }
 
+std::optional<int> ReadDialect(const std::string& dialect) {
+    static constexpr std::string_view kDialects[] = {"server", "desktop"};  // Types 0 and 1.
+    if (dialect.empty()) return {};
+    return ReadChoice("dialect", dialect, kDialects) == "server" ? 0 : 1;
+}
+
 /// Reports splice a filter into their statements as it stands, so it must be whole by itself.
 void CheckFilter(const std::string& filter) {
     const auto fault = company::FindFilterFault(filter);
@@ -148,6 +154,7 @@ RunSettings ReadSettings(const RunRequest& request) {
         settings.properties.push_back(ReadProperty(property));
     for (const auto& option : request.options) settings.options.push_back(ReadAnswer(option));
     CheckFilter(request.filter);
+    settings.database_type = ReadDialect(request.dialect);
     settings.language = ReadLanguage(request.language);
     settings.page = ReadPage(request.paper, request.landscape);
     return settings;

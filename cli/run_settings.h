@@ -38,6 +38,7 @@ struct RunSettings {
     std::vector<std::int32_t> projects;
     std::vector<std::int32_t> segments;
     std::optional<Date> session_date;
+    std::optional<int> database_type;  // What the report is told of the database: 0 or 1.
     std::vector<company::GivenRate> rates;
     std::vector<Property> properties;
     OptionAnswers options;

@@ -2,6 +2,8 @@
 
 #include <ctime>
 
+#include "company/company_address.h"
+#include "company/odbc_company_database.h"
 #include "company/required_tables.h"
 #include "company/scripted_dialogs.h"
 #include "company/services/setting_names.h"
@@ -44,6 +46,15 @@ void RequireHomeCurrency(CurrencyInfo& info, const std::string& database_name) {
     }
 }
 
+std::unique_ptr<CompanyDatabase> DatabaseAt(const CompanyAddress& address,
+                                            const HostOptions& options) {
+    if (address.IsServer())
+        return std::make_unique<OdbcCompanyDatabase>(address.odbc_connection, options.database_type,
+                                                     options.cancelled);
+    return std::make_unique<SqliteCompanyDatabase>(address.text, options.database_type,
+                                                   options.cancelled);
+}
+
 }  // namespace
 
 CompanyHost::CompanyHost(std::unique_ptr<CompanyDatabase> database, const HostOptions& options)
@@ -71,10 +82,8 @@ std::shared_ptr<CompanyHost> OpenCompany(std::unique_ptr<CompanyDatabase> databa
     return host;
 }
 
-std::shared_ptr<CompanyHost> OpenCompany(const std::string& path, const HostOptions& options) {
-    return OpenCompany(
-        std::make_unique<SqliteCompanyDatabase>(path, options.database_type, options.cancelled),
-        path, options);
+std::shared_ptr<CompanyHost> OpenCompany(const std::string& address, const HostOptions& options) {
+    return OpenCompany(DatabaseAt(ParseCompanyAddress(address), options), address, options);
 }
 
 }  // namespace varnel::company

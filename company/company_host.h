@@ -21,7 +21,7 @@ struct HostOptions {
     DateStyle date_style = DateStyle::kIso;
     /// When not given: the company's setting SessionDate, else today.
     std::optional<Date> session_date{};
-    /// What reports are told about the database: 1 for SQLite when not given.
+    /// What reports are told about the database; when not given 1 for SQLite and 0 for a server.
     std::optional<int> database_type{};
     /// Takes the text of each message box; null drops it, the box is counted all the same.
     HostMessages::Sink message_sink{};
@@ -29,8 +29,8 @@ struct HostOptions {
     Texts::MissingText missing_text{};
     /// Exchange rates to take instead of the company's table.
     std::vector<GivenRate> rates{};
-    /// Asked often while a query is at work; when it says yes the query ends with an error. Null
-    /// lets every query end by itself.
+    /// Asked often while a query is at work, over a server from another thread; when it says yes
+    /// the query ends with an error. Null lets every query end by itself.
     std::function<bool()> cancelled{};
     /// Shows the reports' dialogs; null is a service that leaves every choice as it stands and
     /// clicks OK.
@@ -69,12 +69,14 @@ class CompanyHost final : public Application, public Context {
     DatabaseCompany company_;
 };
 
-/// Opens the company database in the SQLite file at `path`. Raises an `Error` naming the file when
-/// it cannot be read or lacks a table, a column or its home currency.
+/// Opens the company at `address`, an SQLite file or a database on a server (company_address.h).
+/// Raises an `Error` naming it when it cannot be read or lacks a table, a column or its home
+/// currency.
 ///
 /// The host is not made the running one: a program that wants `RunningHost()` calls
 /// `SetRunningHost(host)`, and keeps the host alive.
-std::shared_ptr<CompanyHost> OpenCompany(const std::string& path, const HostOptions& options = {});
+std::shared_ptr<CompanyHost> OpenCompany(const std::string& address,
+                                         const HostOptions& options = {});
 
 /// The same over any database; `name` stands for it in messages. `options.database_type` and
 /// `options.cancelled` make no difference: they are the database's own.

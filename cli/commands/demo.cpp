@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "cli/commands/arguments.h"
+#include "cli/company_argument.h"
 #include "cli/errors.h"
 #include "cli/interrupt.h"
 #include "company/demo/demo_company.h"
@@ -14,21 +15,22 @@ namespace varnel::cli {
 namespace {
 
 struct DemoRequest {
-    std::string file;
+    std::string company;
     company::DemoOptions options;
 };
 
 void Check(const DemoRequest& request) {
-    if (request.file.empty())
+    if (request.company.empty())
         throw UsageError("say where the demo company goes: varnel demo shop.db");
     const auto lines = request.options.lines;
     if (lines < company::kDemoLinesMin || lines > company::kDemoLinesMax)
         throw UsageError("--lines: a demo company has from " +
                          GroupedCount(company::kDemoLinesMin) + " to " +
                          GroupedCount(company::kDemoLinesMax) + " ledger lines");
+    CheckCompany("demo", request.company);
     std::error_code ignored;
-    if (!request.options.overwrite && std::filesystem::exists(request.file, ignored))
-        throw Failure(request.file +
+    if (!request.options.overwrite && std::filesystem::exists(request.company, ignored))
+        throw Failure(request.company +
                       " exists already: choose another name, or add --force to replace it");
 }
 
@@ -40,10 +42,12 @@ int MakeDemo(const DemoRequest& request, Console& console) {
             console.ShowProgress(GroupedCount(done) + " of " + GroupedCount(lines) + " lines");
         return StopSignal() == 0;
     };
-    company::CreateDemoCompany(request.file, options);
+    company::CreateDemoCompany(request.company, options);
     console.EraseProgress();
-    std::printf("%s is ready: varnel run general-journal --company %s\n", request.file.c_str(),
-                request.file.c_str());
+    const std::string quote =
+        request.company.find_first_of(" ;{}&?") != std::string::npos ? "'" : "";
+    std::printf("%s is ready: varnel run general-journal --company %s\n", request.company.c_str(),
+                (quote + request.company + quote).c_str());
     return kDone;
 }
 
@@ -61,11 +65,13 @@ void AddNumber(CLI::App& app, const Argument& argument, Integer& target) {
 
 Command::Action DescribeDemo(CLI::App& app) {
     auto request = std::make_shared<DemoRequest>();
-    app.add_option("FILE", request->file, "The database file to make")->type_name("");
+    app.add_option("FILE", request->company,
+                   "The database file to make, or\npostgresql://user@host/database")
+        ->type_name("");
     auto& options = request->options;
     AddNumber(app, {"--lines", "N", "Ledger lines, about"}, options.lines);
     AddNumber(app, {"--seed", "N", "Another number makes another company"}, options.seed);
-    AddFlag(app, {"--force", "", "Replace a file that is there"}, options.overwrite);
+    AddFlag(app, {"--force", "", "Replace a company that is there"}, options.overwrite);
     return [request](Console& console) { return MakeDemo(*request, console); };
 }
 

@@ -2,74 +2,49 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <type_traits>
 
-#include "host/currency.h"
-#include "host/date.h"
-#include "host/rate.h"
-
-struct sqlite3;
-struct sqlite3_stmt;
+#include "company/writing/company_writer.h"
 
 namespace varnel::company::demo {
 
-/// A new database file to write to; every failure is an `Error` that names the file.
-class Database {
-  public:
-    explicit Database(const std::filesystem::path& file);
+using Database = CompanyWriter;
 
-    void Execute(const char* sql);
-    sqlite3* Handle() const { return handle_.get(); }
-    [[noreturn]] void Fail() const;
-
-  private:
-    struct Close {
-        void operator()(sqlite3* handle) const;
-    };
-    std::filesystem::path file_;
-    std::unique_ptr<sqlite3, Close> handle_;
-};
-
-/// A prepared insert. Texts must live until `Run` returns.
+/// A prepared insert that takes values of any kind. Texts must live until `Run` returns.
 class Statement {
   public:
-    Statement(Database& database, std::string_view sql);
+    Statement(Database& database, std::string_view sql) : statement_(database.Prepare(sql)) {}
 
     template <class... Values>
     void Run(const Values&... values) {
         int position = 0;
         (Bind(++position, values), ...);
-        Step();
+        statement_->Run();
     }
 
   private:
-    void Bind(int position, std::int64_t value);
-    void Bind(int position, int value) { Bind(position, std::int64_t{value}); }
-    void Bind(int position, std::size_t value) { Bind(position, static_cast<std::int64_t>(value)); }
-    void Bind(int position, Currency value);
-    void Bind(int position, Rate value);
-    void Bind(int position, Date value);
-    void Bind(int position, std::string_view value);
-    void Bind(int position, const char* value);  // a null pointer is a null
-    void Bind(int position, std::nullptr_t);
+    template <class Value>
+    void Bind(int position, const Value& value) {
+        if constexpr (std::is_integral_v<Value>)
+            statement_->Bind(position, static_cast<std::int64_t>(value));
+        else
+            statement_->Bind(position, value);
+    }
+    void Bind(int position, std::nullptr_t) { statement_->BindNull(position); }
+    void Bind(int position, const char* value) {  // A null pointer is a null.
+        if (value == nullptr) return statement_->BindNull(position);
+        statement_->Bind(position, std::string_view(value));
+    }
     template <class Value>
     void Bind(int position, const std::optional<Value>& value) {
-        if (value) {
-            Bind(position, *value);
-        } else {
-            Bind(position, nullptr);
-        }
+        if (!value) return statement_->BindNull(position);
+        Bind(position, *value);
     }
-    void Step();
 
-    struct Finalize {
-        void operator()(sqlite3_stmt* statement) const;
-    };
-    Database& database_;
-    std::unique_ptr<sqlite3_stmt, Finalize> statement_;
+    std::unique_ptr<WritingStatement> statement_;
 };
 
 /// Keys of which 0 stands for none.

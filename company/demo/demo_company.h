@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <functional>
+#include <string>
 
 namespace varnel::company {
 
@@ -12,7 +12,7 @@ struct DemoOptions {
     std::int64_t lines = 12'000;
     /// The same seed and number of lines give the same company everywhere.
     std::uint64_t seed = 1;
-    /// Replace a file that is there; otherwise it is an error.
+    /// Replace a company that is there; otherwise it is an error.
     bool overwrite = false;
     /// Hears now and then how many of the lines are written; false stops the work with an error.
     std::function<bool(std::int64_t done, std::int64_t lines)> progress;
@@ -21,10 +21,10 @@ struct DemoOptions {
 inline constexpr std::int64_t kDemoLinesMin = 1'000;
 inline constexpr std::int64_t kDemoLinesMax = 100'000'000;
 
-/// Writes the company database of a small kitchenware trader to `file`: two fiscal years and an
-/// open one, three currencies, segments, projects, budgets, bank reconciliations. Every entry
-/// balances. The file appears whole or not at all; anything that prevents it is an `Error` that
-/// names the file.
-void CreateDemoCompany(const std::filesystem::path& file, const DemoOptions& options = {});
+/// Writes the company database of a small kitchenware trader to `address`, a file or a database on
+/// a server (company_address.h): two fiscal years and an open one, three currencies, segments,
+/// projects, budgets, bank reconciliations. Every entry balances. The company appears whole or not
+/// at all; anything that prevents it is an `Error` that names the place.
+void CreateDemoCompany(const std::string& address, const DemoOptions& options = {});
 
 }  // namespace varnel::company

@@ -22,6 +22,6 @@ DROP FUNCTION IF EXISTS iif(boolean, integer, integer);
 DROP OPERATOR IF EXISTS & (text, text);
 DROP FUNCTION IF EXISTS concat_null_as_empty(text, text);
 DROP OPERATOR IF EXISTS + (text, text);
-DROP DOMAIN IF EXISTS PlainText;
+DROP DOMAIN IF EXISTS BookText;
 DROP DOMAIN IF EXISTS RealRate;
 DROP DOMAIN IF EXISTS RealAmount;

@@ -1,5 +1,6 @@
 varnel_test(NAME company_host_test
     SOURCES
+        address_test.cpp
         host_balances_test.cpp
         host_company_test.cpp
         host_conformance_test.cpp

@@ -1,0 +1,128 @@
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+#include "tests/drivers/odbc_fixture.h"
+
+namespace varnel::drivers {
+
+namespace {
+
+using testing::HasSubstr;
+
+class OdbcReading : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (ServerFolder().empty()) GTEST_SKIP() << "there is no PostgreSQL server for the tests";
+        database_ = std::make_unique<OdbcFixture>();
+    }
+
+    std::unique_ptr<OdbcFixture> database_;
+};
+
+/// Longer than any place for a text, in blocks that are full and in the last one.
+TEST_F(OdbcReading, LongTextsComeWhole) {
+    const auto rows = database_->Query(
+        "SELECT i, repeat('é€😀', i * 50) AS Long, 'short' AS Short, repeat('x', 40000) AS Other "
+        "FROM generate_series(1, 600) i ORDER BY i");
+    std::string expected;
+    for (int i = 1; i <= 600; ++i, rows->MoveNext()) {
+        for (int repeats = 0; repeats < 50; ++repeats) expected += "é€😀";
+        const Row& row = rows->Current();
+        ASSERT_EQ(row.Integer({0}), i);
+        ASSERT_EQ(row.Text({1}), expected) << i;
+        ASSERT_EQ(row.Text({2}), "short");
+        ASSERT_EQ(row.Text({3}), std::string(40'000, 'x'));
+    }
+    EXPECT_TRUE(rows->AtEnd());
+}
+
+TEST_F(OdbcReading, DecimalsAreExactWhateverTheirScale) {
+    const auto rows = database_->Query(
+        "SELECT CAST(0.12345678 AS numeric(18,8)), CAST(1.5 AS numeric(18,8)), "
+        "CAST(-922337203685477.5807 AS numeric(19,4)), 1e20, CAST(7 AS numeric), 0.00005");
+    const Row& row = rows->Current();
+    EXPECT_EQ(row.ExchangeRate({0}), Rate::FromScaled(12'345'678));
+    EXPECT_EQ(row.ExchangeRate({1}), Rate::FromScaled(150'000'000));
+    EXPECT_EQ(row.Amount({2}), Currency::FromScaled(-9'223'372'036'854'775'807));
+    EXPECT_THROW(row.Amount({3}), Error);
+    EXPECT_EQ(row.Integer({4}), 7);
+    EXPECT_EQ(row.Amount({5}), Currency::FromScaled(1));
+}
+
+TEST_F(OdbcReading, OtherTypesReadAsTheirNearestKind) {
+    const auto rows = database_->Query(
+        "SELECT true, CAST(2.5 AS double precision), TIMESTAMP '2025-03-31 12:30:00', "
+        "CAST(9000000000 AS bigint), CAST('abc' AS char(5)), NULL");
+    const Row& row = rows->Current();
+    EXPECT_TRUE(row.Truth({0}));
+    EXPECT_EQ(row.Amount({1}), Currency::FromScaled(25'000));
+    EXPECT_EQ(row.Day({2}), Date::FromYearMonthDay(2025, 3, 31));
+    EXPECT_EQ(row.Integer64({3}), 9'000'000'000);
+    EXPECT_EQ(row.Text({4}), "abc  ");
+    EXPECT_TRUE(row.IsNull({5}));
+    EXPECT_THAT(database_->Failure("SELECT 1, CAST('x' AS bytea) AS Picture").what(),
+                HasSubstr("\"picture\" holds binary data"));
+}
+
+TEST_F(OdbcReading, TextsOfQueryAndParametersAreUtf8) {
+    EXPECT_EQ(database_->Value("SELECT 'Zoë 😀 ' & ?", {"naïve €"}), "Zoë 😀 naïve €");
+    EXPECT_EQ(database_->Value("SELECT ? & 'x'", {""}), "x");
+    EXPECT_TRUE(database_->Query("SELECT ? AS Nothing", {Variant::Null{}})->Current().IsNull({0}));
+}
+
+TEST_F(OdbcReading, AFailingQueryDoesNotEndTheRowsBesideIt) {
+    const auto rows = database_->Query("SELECT i FROM generate_series(1, 20000) i ORDER BY i");
+    std::int64_t count = 0;
+    for (; !rows->AtEnd(); rows->MoveNext()) {
+        if (++count % 4'000 != 0) continue;
+        EXPECT_NE(database_->Failure("SELECT 1 / 0").Number(), 0);
+    }
+    EXPECT_EQ(count, 20'000);
+}
+
+TEST_F(OdbcReading, ErrorsCarrySqlStateMessageAndStatement) {
+    EXPECT_STREQ(database_->Failure("SELECT 1 / (? - 1)", {1}).what(),
+                 "division by zero (SQLSTATE 22012).\nStatement: SELECT 1 / (? - 1)");
+    EXPECT_THAT(database_->Failure("SELECT Missing").what(), HasSubstr("(SQLSTATE 42703). No tab"));
+}
+
+/// What begins by reading is for the server to refuse.
+TEST_F(OdbcReading, ASessionStaysReadOnly) {
+    database_->Prepare("CREATE TABLE T (Id INTEGER NOT NULL); INSERT INTO T VALUES (1);");
+    database_->Query("SELECT set_config('default_transaction_read_only', 'off', false)");
+    for (const char* text : {"WITH w AS (INSERT INTO T VALUES (2) RETURNING Id) SELECT * FROM w",
+                             "SELECT set_config('transaction_read_only', 'off', false) FROM T",
+                             "SELECT nextval('Numbers')", "SELECT * INTO U FROM T"}) {
+        EXPECT_NE(database_->Failure(text).Number(), 0) << text;
+    }
+    EXPECT_EQ(database_->Value("SELECT COUNT(*) FROM T"), "1");
+    EXPECT_EQ(database_->Value("SELECT current_setting('transaction_read_only')"), "on");
+}
+
+TEST_F(OdbcReading, ACancelledQueryEnds) {
+    const auto start = std::chrono::steady_clock::now();
+    OdbcConnections connections(
+        [&] { return std::chrono::steady_clock::now() - start > std::chrono::milliseconds(300); });
+    const auto query = NewOdbcCommand(connections);
+    query->SetActiveConnection(database_->ConnectionString());
+    query->SetText("SELECT 1 FROM pg_sleep(30)");
+    try {
+        query->Execute(Command::kOptionsUnspecified);
+        FAIL() << "finished";
+    } catch (const Error& error) {
+        EXPECT_THAT(error.what(), testing::StartsWith("The query was cancelled."));
+    }
+}
+
+TEST_F(OdbcReading, ConnectionsServeOneQueryAfterTheOther) {
+    const auto process = [&] { return database_->Value("SELECT pg_backend_pid()"); };
+    const auto first = process();
+    EXPECT_EQ(process(), first);
+    const auto streaming = database_->Query("SELECT i FROM generate_series(1, 9000) i");
+    EXPECT_NE(process(), first);
+}
+
+}  // namespace
+
+}  // namespace varnel::drivers
