@@ -13,7 +13,6 @@ REFUSED = [
     (["run", "genral-jornal"], "no report genral-jornal; did you mean general-journal?"),
     (["run", "\x1b[2Jzzzzz"], "there is no report  [2Jzzzzz\n"),
     (["run", "zzzzz"], "there is no report zzzzz\n"),
-    (["run", "general-ledger"], "this version does not have the report general-ledger"),
     (["run", "general-journal"], "say which company: --company FILE"),
     (["run", "general-journal", "--compny", "x"], "no option --compny; did you mean --company?"),
     ([*JOURNAL, "--frm=2025-01-01"], "no option --frm; did you mean --from?"),
