@@ -34,7 +34,7 @@ class DroppedBands final : public engine::BandSink {
 };
 
 bool Compares(const ReportEntry& entry) {
-    return IsBuilt(entry) && dynamic_cast<IComparableReport*>(SampleReport(entry).get()) != nullptr;
+    return dynamic_cast<IComparableReport*>(SampleReport(entry).get()) != nullptr;
 }
 
 void RefuseIncomparable(const ReportEntry& entry) {

@@ -125,15 +125,7 @@ const ReportEntry& FindReport(std::string_view name) {
     if (name.empty()) throw UsageError(std::string("say which report\n") + kSeeReports);
     const auto* entry = std::ranges::find(kReports, name, &ReportEntry::name);
     if (entry == std::end(kReports)) RefuseUnknown(name);
-    if (!IsBuilt(*entry))
-        throw UsageError("this version does not have the report " + std::string(name) + "\n" +
-                         kSeeReports + " that it has");
     return *entry;
-}
-
-bool IsBuilt(const ReportEntry& entry) {
-    const auto* report = InCatalogue(entry);
-    return report != nullptr && report->make != nullptr;
 }
 
 std::shared_ptr<IReport> SampleReport(const ReportEntry& entry) {

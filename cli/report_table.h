@@ -46,14 +46,13 @@ struct ReportEntry {
     bool filter_gives_rates = false;
 };
 
-/// Every report, those that this version does not have included.
+/// Every report.
 std::span<const ReportEntry> Reports();
 
-/// Raises a UsageError for a name that is unknown or not in this version.
+/// Raises a UsageError for a name that is unknown.
 const ReportEntry& FindReport(std::string_view name);
 
-bool IsBuilt(const ReportEntry& entry);
-/// One of its kind, without a company, to ask what it takes. Only for a built one.
+/// One of its kind, without a company, to ask what it takes.
 std::shared_ptr<IReport> SampleReport(const ReportEntry& entry);
 /// The number of its title.
 std::int16_t TitleText(const ReportEntry& entry);

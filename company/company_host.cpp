@@ -3,11 +3,10 @@
 #include <ctime>
 
 #include "company/company_address.h"
-#include "company/odbc_company_database.h"
+#include "company/open_database.h"
 #include "company/required_tables.h"
 #include "company/scripted_dialogs.h"
 #include "company/services/setting_names.h"
-#include "company/sqlite_company_database.h"
 #include "host/error.h"
 
 namespace varnel::company {
@@ -46,15 +45,6 @@ void RequireHomeCurrency(CurrencyInfo& info, const std::string& database_name) {
     }
 }
 
-std::unique_ptr<CompanyDatabase> DatabaseAt(const CompanyAddress& address,
-                                            const HostOptions& options) {
-    if (address.IsServer())
-        return std::make_unique<OdbcCompanyDatabase>(address.odbc_connection, options.database_type,
-                                                     options.cancelled);
-    return std::make_unique<SqliteCompanyDatabase>(address.text, options.database_type,
-                                                   options.cancelled);
-}
-
 }  // namespace
 
 CompanyHost::CompanyHost(std::unique_ptr<CompanyDatabase> database, const HostOptions& options)
@@ -83,7 +73,9 @@ std::shared_ptr<CompanyHost> OpenCompany(std::unique_ptr<CompanyDatabase> databa
 }
 
 std::shared_ptr<CompanyHost> OpenCompany(const std::string& address, const HostOptions& options) {
-    return OpenCompany(DatabaseAt(ParseCompanyAddress(address), options), address, options);
+    const auto place = ParseCompanyAddress(address);
+    return OpenCompany(OpenDatabase(place, options.database_type, options.cancelled), address,
+                       options);
 }
 
 }  // namespace varnel::company

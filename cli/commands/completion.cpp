@@ -53,16 +53,15 @@ std::string OptionWords(const CLI::App& command) {
     return words;
 }
 
-std::string BuiltReports() {
+std::string NamesOfReports() {
     std::string words;
-    for (const auto& entry : Reports())
-        if (IsBuilt(entry)) AppendWord(words, entry.name);
+    for (const auto& entry : Reports()) AppendWord(words, entry.name);
     return words;
 }
 
 /// The words that a command takes by itself: reports, shells; a file's name is left to the shell.
 std::string PlainWords(const std::string& command) {
-    if (command == "run") return BuiltReports();
+    if (command == "run") return NamesOfReports();
     if (command == "compare") return ComparableReports();
     return command == "completion" ? "bash" : "";
 }

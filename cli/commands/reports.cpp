@@ -29,7 +29,6 @@ int ListReports(const std::string& asked_language, Console& console) {
         console.Say("there is no text " + std::to_string(number) + " in this language");
     });
     for (const auto& entry : Reports()) {
-        if (!IsBuilt(entry)) continue;
         const auto title = framework::WithoutAccelerators(texts.Get(TitleText(entry)));
         std::printf("%-30s %s\n    %s\n", std::string(entry.name).c_str(), title.c_str(),
                     OptionList(entry).c_str());

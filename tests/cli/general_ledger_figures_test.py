@@ -61,7 +61,8 @@ class GeneralLedgerFigures(VarnelTest):
                 footer, = (band for band in bands if "txtCount" in band["controls"])
                 self.assertEqual(expected, (
                     cents(footer, "txtDebitGrandTotal"), cents(footer, "txtCreditGrandTotal"),
-                    sum("txtAccount" in band["controls"] for band in bands), footer["controls"]["txtCount"]["value"]))
+                    sum("txtAccount" in band["controls"] for band in bands),
+                    footer["controls"]["txtCount"]["value"]))
 
     def expected_accounts(self, condition):
         """Debits, credits, balance and lines of each account that has anything to show."""
