@@ -1,5 +1,7 @@
 #include "cli/company_argument.h"
 
+#include <filesystem>
+
 #include "cli/errors.h"
 #include "company/company_address.h"
 #include "host/error.h"
@@ -12,6 +14,14 @@ void CheckCompany(std::string_view option, const std::string& company) {
     } catch (const Error& error) {
         throw UsageError(std::string(option) + ": " + error.Description());
     }
+}
+
+void CheckNewCompany(std::string_view option, const std::string& company, bool overwrite) {
+    CheckCompany(option, company);
+    std::error_code ignored;
+    if (!overwrite && std::filesystem::exists(company, ignored))
+        throw Failure(company +
+                      " exists already: choose another name, or add --force to replace it");
 }
 
 }  // namespace varnel::cli

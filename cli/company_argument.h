@@ -9,4 +9,7 @@ namespace varnel::cli {
 /// it stands: one that is malformed or holds a password.
 void CheckCompany(std::string_view option, const std::string& company);
 
+/// The same for the place of a new company; a Failure when a file is there that is to stay.
+void CheckNewCompany(std::string_view option, const std::string& company, bool overwrite);
+
 }  // namespace varnel::cli

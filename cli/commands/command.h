@@ -26,6 +26,7 @@ struct Command {
 std::span<const Command> Commands();
 
 Command::Action DescribeDemo(CLI::App& app);
+Command::Action DescribeCopy(CLI::App& app);
 Command::Action DescribeReports(CLI::App& app);
 Command::Action DescribeRun(CLI::App& app);
 Command::Action DescribeCompare(CLI::App& app);

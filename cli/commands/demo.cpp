@@ -1,7 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <charconv>
 #include <cstdio>
-#include <filesystem>
 #include <memory>
 
 #include "cli/commands/arguments.h"
@@ -27,11 +26,7 @@ void Check(const DemoRequest& request) {
         throw UsageError("--lines: a demo company has from " +
                          GroupedCount(company::kDemoLinesMin) + " to " +
                          GroupedCount(company::kDemoLinesMax) + " ledger lines");
-    CheckCompany("demo", request.company);
-    std::error_code ignored;
-    if (!request.options.overwrite && std::filesystem::exists(request.company, ignored))
-        throw Failure(request.company +
-                      " exists already: choose another name, or add --force to replace it");
+    CheckNewCompany("demo", request.company, request.options.overwrite);
 }
 
 int MakeDemo(const DemoRequest& request, Console& console) {

@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "company/company_address.h"
 #include "host/currency.h"
@@ -33,6 +35,8 @@ class CompanyWriter {
     virtual std::unique_ptr<WritingStatement> Prepare(std::string_view sql) = 0;
     /// Statements without "?", with semicolons between them.
     virtual void Execute(const char* sql) = 0;
+    /// The whole numbers in the first row of a query over what was written so far; null is 0.
+    virtual std::vector<std::int64_t> Numbers(const std::string& query) = 0;
     /// Builds the indexes and makes the company appear.
     virtual void Finish() = 0;
 };

@@ -32,6 +32,11 @@ const fs::path& Checked(const fs::path& file, bool overwrite) {
     return file;
 }
 
+struct Finalize {
+    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+using StatementHandle = std::unique_ptr<sqlite3_stmt, Finalize>;
+
 class SqliteWritingStatement final : public WritingStatement {
   public:
     SqliteWritingStatement(const FileWriter& writer, sqlite3* database, std::string_view sql)
@@ -72,11 +77,8 @@ class SqliteWritingStatement final : public WritingStatement {
     }
 
   private:
-    struct Finalize {
-        void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-    };
     const FileWriter& writer_;
-    std::unique_ptr<sqlite3_stmt, Finalize> statement_;
+    StatementHandle statement_;
 };
 
 }  // namespace
@@ -124,6 +126,17 @@ std::unique_ptr<WritingStatement> FileWriter::Prepare(std::string_view sql) {
 
 void FileWriter::Execute(const char* sql) {
     if (sqlite3_exec(handle_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) Fail();
+}
+
+std::vector<std::int64_t> FileWriter::Numbers(const std::string& query) {
+    sqlite3_stmt* raw = nullptr;
+    const int result = sqlite3_prepare_v2(handle_.get(), query.c_str(), -1, &raw, nullptr);
+    const StatementHandle statement(raw);
+    if (result != SQLITE_OK || sqlite3_step(raw) != SQLITE_ROW) Fail();
+    std::vector<std::int64_t> numbers;
+    for (int column = 0; column < sqlite3_column_count(raw); ++column)
+        numbers.push_back(sqlite3_column_int64(raw, column));
+    return numbers;
 }
 
 void FileWriter::Fail() const {

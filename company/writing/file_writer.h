@@ -31,6 +31,7 @@ class FileWriter final : public CompanyWriter {
 
     std::unique_ptr<WritingStatement> Prepare(std::string_view sql) override;
     void Execute(const char* sql) override;
+    std::vector<std::int64_t> Numbers(const std::string& query) override;
     void Finish() override;
 
     [[noreturn]] void Fail() const;

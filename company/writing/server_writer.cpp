@@ -104,6 +104,11 @@ std::unique_ptr<WritingStatement> ServerWriter::Prepare(std::string_view sql) {
 
 void ServerWriter::Execute(const char* sql) { Send(sql); }
 
+std::vector<std::int64_t> ServerWriter::Numbers(const std::string& query) {
+    SendAllRows();
+    return connection_.Numbers(query);
+}
+
 void ServerWriter::AddRow(const std::string& insert, std::string_view row) {
     std::string& rows = rows_[insert];
     if (!rows.empty()) rows += ',';
@@ -123,8 +128,12 @@ void ServerWriter::SendRows(const std::string& insert, std::string& rows) {
     }
 }
 
-void ServerWriter::Send(std::string_view sql) {
+void ServerWriter::SendAllRows() {
     for (auto& [insert, rows] : rows_) SendRows(insert, rows);
+}
+
+void ServerWriter::Send(std::string_view sql) {
+    SendAllRows();
     std::string all(sql);
     SendRows("", all);
 }

@@ -16,6 +16,7 @@ class ServerWriter final : public CompanyWriter {
 
     std::unique_ptr<WritingStatement> Prepare(std::string_view sql) override;
     void Execute(const char* sql) override;
+    std::vector<std::int64_t> Numbers(const std::string& query) override;
     void Finish() override;
 
     /// One row, "(1, 'a')", for a statement that ends in VALUES. Rows are sent many at a time,
@@ -25,6 +26,7 @@ class ServerWriter final : public CompanyWriter {
     void Send(std::string_view sql);
 
   private:
+    void SendAllRows();
     void SendRows(const std::string& insert, std::string& rows);
 
     std::string place_;

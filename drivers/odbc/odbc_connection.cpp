@@ -64,13 +64,30 @@ void* OdbcConnection::NewStatement() const {
     return handle;
 }
 
-void OdbcConnection::Execute(std::string_view sql) const {
-    const OdbcStatementHandle statement(NewStatement());
+OdbcStatementHandle OdbcConnection::Ran(std::string_view sql) const {
+    OdbcStatementHandle statement(NewStatement());
     auto text = ToUtf16(sql);
     const auto result = SQLExecDirectW(statement.get(), text.data(), SQL_NTS);
-    if (SQL_SUCCEEDED(result) || result == SQL_NO_DATA) return;
+    if (SQL_SUCCEEDED(result) || result == SQL_NO_DATA) return statement;
     constexpr std::size_t kShown = 300;
     RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), sql.substr(0, kShown));
+}
+
+void OdbcConnection::Execute(std::string_view sql) const { Ran(sql); }
+
+std::vector<std::int64_t> OdbcConnection::Numbers(std::string_view query) const {
+    const auto statement = Ran(query);
+    SQLSMALLINT count = 0;
+    SQLNumResultCols(statement.get(), &count);
+    std::vector<std::int64_t> numbers(static_cast<std::size_t>(count));
+    bool read = SQL_SUCCEEDED(SQLFetch(statement.get()));
+    for (std::size_t i = 0; read && i < numbers.size(); ++i) {
+        SQLLEN length = 0;
+        read = SQL_SUCCEEDED(SQLGetData(statement.get(), static_cast<SQLUSMALLINT>(i + 1),
+                                        SQL_C_SBIGINT, &numbers[i], sizeof numbers[i], &length));
+    }
+    if (!read) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), query);
+    return numbers;
 }
 
 void OdbcConnection::Commit() const {

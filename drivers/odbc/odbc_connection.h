@@ -1,13 +1,21 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace varnel::drivers {
 
 /// What a session may do.
 enum class OdbcAccess { kRead, kWrite };
+
+/// Frees a statement handle.
+struct FreeStatement {
+    void operator()(void* handle) const;
+};
+using OdbcStatementHandle = std::unique_ptr<void, FreeStatement>;
 
 /// An open connection. Everything runs in a transaction, which `EndTransaction` closes. For one
 /// thread at a time.
@@ -24,6 +32,8 @@ class OdbcConnection {
     void* NewStatement() const;
     /// Runs a statement without rows; raises error 3709 when it fails.
     void Execute(std::string_view sql) const;
+    /// The whole numbers in the first row of a query; null is 0.
+    std::vector<std::int64_t> Numbers(std::string_view query) const;
     void Commit() const;
     /// False when the connection is of no use any more.
     bool Rollback() const noexcept;
@@ -37,15 +47,10 @@ class OdbcConnection {
 
     static Handle NewHandle(short type, void* parent);
     void SwitchAutocommit(bool on) const;
+    OdbcStatementHandle Ran(std::string_view sql) const;
 
     Handle environment_, connection_;
     bool connected_ = false;
 };
-
-/// Frees a statement handle.
-struct FreeStatement {
-    void operator()(void* handle) const;
-};
-using OdbcStatementHandle = std::unique_ptr<void, FreeStatement>;
 
 }  // namespace varnel::drivers

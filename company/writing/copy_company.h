@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/currency.h"
+
+namespace varnel::company {
+
+struct CopyOptions {
+    /// Replace a company that is there; otherwise it is an error.
+    bool overwrite = false;
+    /// Hears now and then how many rows of a table are copied.
+    std::function<void(const std::string& table, std::int64_t rows)> progress;
+    /// Asked often: true stops the work with an error.
+    std::function<bool()> cancelled;
+};
+
+/// What the amounts of a column come to: debits are positive, credits negative.
+struct CopiedAmounts {
+    std::string column;
+    Currency debits, credits;
+};
+
+struct CopiedTable {
+    std::string name;
+    std::int64_t rows = 0;
+    std::vector<CopiedAmounts> amounts;
+};
+
+/// Copies every table of a company, from and to a file or a database on a server
+/// (company_address.h), and returns what each holds. The new company appears whole, after the
+/// figures of every table (control_figures.h) were asked of both databases and found the same;
+/// otherwise everything stays as it was. What prevents it is an `Error` that names the place.
+///
+/// Tables are read one after the other: whoever posts meanwhile is found out by the figures.
+std::vector<CopiedTable> CopyCompany(const std::string& from, const std::string& to,
+                                     const CopyOptions& options = {});
+
+}  // namespace varnel::company
