@@ -107,12 +107,13 @@ std::string GeneralLedger(const std::string&) {
 }
 
 std::string GeneralLedgerByAccount(const std::string&) {
-    return "SELECT GLDet.*, GLAcct.AcctType, GLAcct.InGLAcctId, GLAcct.GLAcctId, "
-           "GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType FROM GLAcct LEFT JOIN (SELECT "
-           "InGLDetId, DetDate, SeqNo, Source, ExSrcKeyVal, DetRef, DetDesc, Remarks, DetAmnt, "
-           "ForeignAmnt, GLDet.ExCurrencyId AS GLDetExCurrencyId, ExAcctId FROM GLDet WHERE "
-           "GLDet.DetDate BETWEEN '2024-11-01' AND '2026-10-31') AS GLDet ON GLAcct.InGLAcctId = "
-           "GLDet.ExAcctId ORDER BY GLAcct.GLAcctId, GLDet.DetDate, GLDet.SeqNo, GLDet.InGLDetId";
+    return "SELECT GLDet.InGLDetId, GLDet.DetDate, GLDet.SeqNo, GLDet.Source, GLDet.ExSrcKeyVal, "
+           "GLDet.DetRef, GLDet.DetDesc, GLDet.Remarks, GLDet.DetAmnt, GLDet.ForeignAmnt, "
+           "GLDet.ExCurrencyId AS GLDetExCurrencyId, GLAcct.AcctType, GLAcct.InGLAcctId, "
+           "GLAcct.GLAcctId, GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType FROM GLAcct LEFT "
+           "JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId AND GLDet.DetDate BETWEEN "
+           "'2024-11-01' AND '2026-10-31' ORDER BY GLAcct.GLAcctId, GLDet.DetDate, GLDet.SeqNo, "
+           "GLDet.InGLDetId";
 }
 
 std::string SumsBetween(const std::string& from, const std::string& to) {

@@ -109,10 +109,10 @@ struct PlacedBand {
     Twips height = 0;
     ItemList content;
     /// Of a row: the texts that are carried when a page ends after it.
-    ItemList carried;
+    ItemList carried = {};
     /// What is printed besides where a group goes on over a page break; an item without text takes
     /// a carried one.
-    ItemList over_break;
+    ItemList over_break = {};
 };
 
 struct Page {

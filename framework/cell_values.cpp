@@ -53,4 +53,12 @@ void ReadAccountCaption(const Row& row, Column number, Column description, bool 
     SeparateParts(out, second);
 }
 
+void PutNumber(Control& control, const Row& row, Column column, std::string& scratch) {
+    control.Clear();
+    if (row.IsNull(column)) return;
+    scratch.clear();
+    row.AppendText(column, scratch);
+    control.SetValue(row.Integer(column), scratch);
+}
+
 }  // namespace varnel::framework

@@ -33,4 +33,7 @@ std::string AccountCaption(std::string number, std::string_view description);
 void ReadAccountCaption(const Row& row, Column number, Column description, bool with_number,
                         std::string& out);
 
+/// A whole number as it stands in the row; empty when it is null. `scratch` is overwritten.
+void PutNumber(Control& control, const Row& row, Column column, std::string& scratch);
+
 }  // namespace varnel::framework

@@ -47,6 +47,10 @@ void Comparison::BeginGroup(const std::string& key, const std::string& caption) 
     group_ = before_rows_.FindGroup(key);
     group_caption_ = caption;
     in_group_ = true;
+    if (group_ == HeldRows::kUnknownGroup || before_rows_.CaptionOf(group_) == caption) return;
+    ++counts_.changed;
+    text_.append(before_rows_.CaptionOf(group_)).append(" → ").append(caption) += '\n';
+    group_caption_.clear();
 }
 
 void Comparison::AddRow(const std::string& key, std::span<const NamedValue> columns) {
@@ -175,7 +179,9 @@ void Comparison::Finish(render::ByteSink& output) {
         text_.append(words);
     };
     text_ += '\n';
-    if (changed + before + after == 0) {
+    if (changed + before + after + same == 0) {
+        text_ += "there was nothing to compare: ";
+    } else if (changed + before + after == 0) {
         text_ += "nothing changed: ";
     } else {
         count(changed, " changed, ");

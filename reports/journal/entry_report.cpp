@@ -58,6 +58,7 @@ EntryReport::EntryReport(const Layout& layout, std::int16_t title_text)
 
 void EntryReport::LineColumns::Resolve(const Columns& columns) {
     id = columns.At("InGLDetId");
+    currency_code = columns.At("CurrencyCode");
     currency_id = columns.At("ExCurrencyId");
     seq_no = columns.At("SeqNo");
     amount = columns.At("DetAmnt");
@@ -159,9 +160,7 @@ void EntryReport::ghSeqNo_Format() {
     ++entry_count_;
 
     const Row& row = CurrentRow();
-    text_.clear();
-    row.AppendText(columns_.seq_no, text_);
-    Mark(), txtSeqNo.SetValue(row.Integer(columns_.seq_no), text_);
+    Mark(), PutNumber(txtSeqNo, row, columns_.seq_no, text_);
 
     // References that a database keeps as numbers are texts here.
     text_.clear();
@@ -221,6 +220,7 @@ Currency EntryReport::AddLine() try {
     txtCredit.Clear();
     entry_.Lose();
     report_.Lose();
+    LineAdded(std::nullopt);
     throw;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,19 +33,21 @@ class EntryReport : public framework::ReportBase,
     virtual void ShowSelection() {}
 
     struct LineColumns {
-        Column id, currency_id, seq_no, amount, foreign_amount, date, description, reference,
-            source, source_key, remarks, project_id, account_number, account_description, project;
+        Column id, currency_id, currency_code, seq_no, amount, foreign_amount, date, description,
+            reference, source, source_key, remarks, project_id, account_number, account_description,
+            project;
         void Resolve(const Columns& columns);
     };
     /// Of the rows of the run.
     const LineColumns& LineAt() const { return columns_; }
-    /// After the line was added up, with its amount, debit positive.
-    virtual void LineAdded(Currency) {}
+    /// Whether the line is in a foreign currency and these are wanted.
+    bool ShowsForeignAmount() const;
+    /// After the line was added up, with its amount, debit positive; none when it could not be.
+    virtual void LineAdded(std::optional<Currency>) {}
 
   private:
     std::string BuildStatement();
     void MoveAmountColumns();
-    bool ShowsForeignAmount() const;
     void ShowAccount();
     void ShowProject();
     void ShowForeignAmount();

@@ -46,12 +46,17 @@ dsrGeneralLedger::dsrGeneralLedger()
 
 void dsrGeneralLedger::BeginRun() { account_type_ = NumberIn(At("lblType").Text()); }
 
-// The line that says whose lines they are takes its room in the page header only when it is there.
 void dsrGeneralLedger::ShowSelection() {
-    Mark(), StartComparing(App());
+    Guard("IComparableReportActions", [&] { Mark(), StartComparing(App()); });
+    Guard("ShowAccountType", [&] { ShowAccountType(); });
+}
+
+// The line that says whose lines they are takes its room in the page header only when it is there.
+void dsrGeneralLedger::ShowAccountType() {
     const bool one_type = account_type_ != 0;
     Control& types = At("lblAcctType");
     types.SetVisible(one_type);
+    types.Clear();
     SetHeaderBlockHeight(GetSurface(), kHeaderBlockHeight + (one_type ? kTypeLineHeight : 0));
     if (!one_type) return;
     auto& account_types = (Mark(), CurrentCompany().GetAccountTypes());
@@ -66,11 +71,11 @@ std::string dsrGeneralLedger::Condition() {
     return condition;
 }
 
-void dsrGeneralLedger::LineAdded(Currency amount) {
+void dsrGeneralLedger::LineAdded(std::optional<Currency> amount) {
     if (Compares()) Guard("IComparableReportActions", [&] { AddComparableLine(amount); });
 }
 
-void dsrGeneralLedger::AddComparableLine(Currency amount) {
+void dsrGeneralLedger::AddComparableLine(std::optional<Currency> amount) {
     const Row& row = CurrentRow();
     const LineColumns& at = LineAt();
     const auto text = [&row](Column column) {
@@ -78,10 +83,17 @@ void dsrGeneralLedger::AddComparableLine(Currency amount) {
         row.AppendText(column, value);
         return value;
     };
-    auto& values = NewComparableRow().Add("entry", row.Integer(at.seq_no));
-    if (!row.IsNull(at.date)) values.Add("date", row.Day(at.date));
+    auto& values = NewComparableRow();
+    Mark(), values.Add("entry", row.Integer(at.seq_no)).Add("source", text(at.source));
+    if (!row.IsNull(at.date)) Mark(), values.Add("date", row.Day(at.date));
     values.Add("account", text(at.account_number)).Add("description", text(at.description));
-    values.Add("reference", text(at.reference)).Add("amount", amount);
+    values.Add("reference", text(at.reference)).Add("project", text(at.project));
+    values.Add("remarks", text(at.remarks));
+    if (ShowsForeignAmount()) {
+        Mark(), values.Add("foreign", row.Amount(at.foreign_amount));
+        values.Add("currency", text(at.currency_code));
+    }
+    values.Add("amount", amount ? KnownSum(*amount) : KnownSum::Unknown());
     Mark(), AddComparableRow(text(at.id));
 }
 

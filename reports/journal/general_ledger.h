@@ -19,10 +19,11 @@ class dsrGeneralLedger final : public EntryReport, public framework::ComparableR
     std::string_view DefaultOrder() const override;
     void BeginRun() override;
     void ShowSelection() override;
-    void LineAdded(Currency amount) override;
+    void LineAdded(std::optional<Currency> amount) override;
 
   private:
-    void AddComparableLine(Currency amount);
+    void ShowAccountType();
+    void AddComparableLine(std::optional<Currency> amount);
 
     std::int32_t account_type_ = 0;
 };

@@ -18,14 +18,13 @@ namespace {
 
 constexpr Twips kGap = 60;
 
-// The lines keep the name of their table, so that an order of the user's can name its columns.
 constexpr std::string_view kHead =
-    "SELECT GLDet.*, GLAcct.AcctType, GLAcct.InGLAcctId, GLAcct.GLAcctId, "
-    "GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType FROM GLAcct LEFT JOIN "
-    "(SELECT InGLDetId, DetDate, SeqNo, Source, ExSrcKeyVal, DetRef, DetDesc, Remarks, DetAmnt, "
-    "ForeignAmnt, GLDet.ExCurrencyId AS GLDetExCurrencyId, ExAcctId FROM GLDet "
-    "WHERE GLDet.DetDate BETWEEN ? AND ?";
-constexpr std::string_view kTail = ") AS GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId";
+    "SELECT GLDet.InGLDetId, GLDet.DetDate, GLDet.SeqNo, GLDet.Source, GLDet.ExSrcKeyVal, "
+    "GLDet.DetRef, GLDet.DetDesc, GLDet.Remarks, GLDet.DetAmnt, GLDet.ForeignAmnt, "
+    "GLDet.ExCurrencyId AS GLDetExCurrencyId, GLAcct.AcctType, GLAcct.InGLAcctId, "
+    "GLAcct.GLAcctId, GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType "
+    "FROM GLAcct LEFT JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId "
+    "AND GLDet.DetDate BETWEEN ? AND ?";
 constexpr std::string_view kAccountOrder = " ORDER BY GLAcct.GLAcctId, ";
 constexpr std::string_view kOrder =
     " ORDER BY GLAcct.GLAcctId, GLDet.DetDate, GLDet.SeqNo, GLDet.InGLDetId";
@@ -51,6 +50,7 @@ dsrGeneralLedgerByAccount::dsrGeneralLedgerByAccount()
 
 void dsrGeneralLedgerByAccount::LineColumns::Resolve(const Columns& columns) {
     id = columns.At("InGLDetId");
+    number = columns.At("SeqNo");
     date = columns.At("DetDate");
     amount = columns.At("DetAmnt");
     foreign = columns.At("ForeignAmnt");
@@ -109,7 +109,6 @@ std::string dsrGeneralLedgerByAccount::BuildStatement() {
     const CustomCriteria custom = Criteria();
     std::string statement(kHead);
     if (IsSegmentFiltered()) statement += " AND " + SegmentClauseOn("GLDet.ExSegmentId");
-    statement += kTail;
     const std::string accounts = (Mark(), AccountListOf(custom.criteria, tool, ObjectName()));
     if (!accounts.empty()) statement += " WHERE GLAcct.InGLAcctId IN (" + accounts + ")";
     return statement + custom.OrderClause(kAccountOrder, kOrder);
@@ -223,7 +222,7 @@ void dsrGeneralLedgerByAccount::ShowForeignAmount() {
 void dsrGeneralLedgerByAccount::Detail_Format() {
     if (EndOfData()) return;
     if (!IsLine()) return Detail.Skip();
-    for (Control* control : {&txtDetDate, &txtDebit, &txtCredit, &txtCurrencyCode})
+    for (Control* control : {&txtDetDate, &txtSeqNo, &txtDebit, &txtCredit, &txtCurrencyCode})
         control->Clear();
     running_.Clear();
     txtForeign.SetVisible(false);
@@ -232,6 +231,7 @@ void dsrGeneralLedgerByAccount::Detail_Format() {
     Mark(), ShowBalance(running_, current_.balance);
     Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, amount, text_);
     ShowForeignAmount();
+    Mark(), PutNumber(txtSeqNo, CurrentRow(), columns_.number, text_);
     const Date date = (Mark(), CurrentRow().Day(columns_.date));
     Mark(), PutDate(App().GetFormats(), txtDetDate, date, text_);
 }

@@ -24,8 +24,8 @@ class dsrGeneralLedgerByAccount final : public AccountReport, public IReportConf
 
   private:
     struct LineColumns {
-        Column id, date, amount, foreign, currency_id, source, source_key, reference, description,
-            remarks, group_type;
+        Column id, number, date, amount, foreign, currency_id, source, source_key, reference,
+            description, remarks, group_type;
         void Resolve(const Columns& columns);
     };
     struct AccountState {

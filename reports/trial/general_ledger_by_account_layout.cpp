@@ -63,7 +63,7 @@ SectionLayout AccountHeader() {
         ColumnText("txtDescr", kAccountName, kHeaderTop, kBodyBold, "account_description");
     auto controls = Carried(kBroughtForward, "lblBroughtForward", "txtBroughtForward",
                             "lblBroughtForwardType", kHeaderTop);
-    controls.insert(controls.begin(), {Bound(number, "GLAcctId"), Bound(name, "Descr")});
+    controls.insert(controls.begin(), {Bound(number, "GLAcctId"), Growing(Bound(name, "Descr"))});
     return {.name = "ghAccount",
             .kind = SectionKind::kGroupHeader,
             .height = kGroupHeight,
@@ -89,7 +89,7 @@ SectionLayout Lines() {
             .height = kDetailHeight + kLineHeight,
             .controls = {
                 ColumnText("txtDetDate", kDate, 0, kBody, "date"),
-                Bound(ColumnText("txtSeqNo", kSeqNo, 0, kBody, "entry"), "SeqNo"),
+                ColumnText("txtSeqNo", kSeqNo, 0, kBody, "entry"),
                 ColumnText("txtSource", kSource, 0, kBody, "source"),
                 Growing(ColumnText("txtDetRef", kReference, 0, kBody, "reference")),
                 Growing(ColumnText("txtDetDesc", kDescription, 0, kBody, "description")),

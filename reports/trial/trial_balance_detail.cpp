@@ -245,7 +245,7 @@ void dsrTrialBalanceDetail::AddComparableBalanceForward(const Forward& forward) 
 
 // The running balance is left out: it follows from the rest, and one line that changed would be a
 // change of all after it.
-void dsrTrialBalanceDetail::AddComparableAccountRow(Currency amount) {
+void dsrTrialBalanceDetail::AddComparableAccountRow(std::optional<Currency> amount) {
     Guard("AddComparableAccountRow", [&] {
         if (!InComparableGroup()) AddComparableAccoutGroup();
         const Row& line = CurrentRow();
@@ -258,7 +258,10 @@ void dsrTrialBalanceDetail::AddComparableAccountRow(Currency amount) {
             Mark(), row.Add("foreign", line.Amount(columns_.foreign));
             Mark(), row.Add("currency", CurrencyCode(LineCurrency()));
         }
-        row.AddOnItsSide(amount);
+        if (amount)
+            row.AddOnItsSide(*amount);
+        else
+            row.Add("amount", KnownSum::Unknown());
         Mark(), AddComparableRow(std::to_string(line.Integer(columns_.id)));
     });
 }
@@ -305,6 +308,7 @@ void dsrTrialBalanceDetail::LoseLine() {
     current_.totals.Lose();
     totals_.Lose();
     LoseBalance();
+    if (Compares()) AddComparableAccountRow(std::nullopt);
 }
 
 bool dsrTrialBalanceDetail::IsInForeignCurrency(std::int32_t currency_id) const {
@@ -349,6 +353,7 @@ void dsrTrialBalanceDetail::Detail_Format() {
     running_.Clear();
     txtCurrency.SetVisible(false);
     txtCurrencyCode.Clear();
+    txtSeqNo.Clear();
     ShowKey();
     const auto amount = AddLine();
     if (!amount) return;
@@ -356,6 +361,7 @@ void dsrTrialBalanceDetail::Detail_Format() {
     Mark(), ShowBalance(running_, current_.balance);
     Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, *amount, text_);
     ShowForeignAmount();
+    Mark(), PutNumber(txtSeqNo, CurrentRow(), columns_.number, text_);
     const Date date = (Mark(), CurrentRow().Day(columns_.date));
     Mark(), PutDate(App().GetFormats(), txtDetDate, date, text_);
 }

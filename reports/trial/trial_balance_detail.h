@@ -72,7 +72,7 @@ class dsrTrialBalanceDetail final : public TrialReport,
     void SetComparableAccoutGroup(const Forward& forward);
     void AddComparableAccoutGroup();
     void AddComparableBalanceForward(const Forward& forward);
-    void AddComparableAccountRow(Currency amount);
+    void AddComparableAccountRow(std::optional<Currency> amount);
     void EndComparableAccount();
     void ShowBalance(const BalanceControls& controls, const framework::KnownSum& balance);
     void SetAdjControlsPosition(bool visible);

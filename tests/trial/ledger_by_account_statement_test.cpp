@@ -10,13 +10,13 @@ namespace {
 using test::LedgerRun;
 using test::TrialRun;
 
-#define LINES                                                                             \
-    "SELECT GLDet.*, GLAcct.AcctType, GLAcct.InGLAcctId, GLAcct.GLAcctId, "               \
-    "GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType FROM GLAcct LEFT JOIN "          \
-    "(SELECT InGLDetId, DetDate, SeqNo, Source, ExSrcKeyVal, DetRef, DetDesc, Remarks, "  \
-    "DetAmnt, ForeignAmnt, GLDet.ExCurrencyId AS GLDetExCurrencyId, ExAcctId FROM GLDet " \
-    "WHERE GLDet.DetDate BETWEEN ? AND ?"
-#define JOINED ") AS GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId"
+#define LINES                                                                               \
+    "SELECT GLDet.InGLDetId, GLDet.DetDate, GLDet.SeqNo, GLDet.Source, GLDet.ExSrcKeyVal, " \
+    "GLDet.DetRef, GLDet.DetDesc, GLDet.Remarks, GLDet.DetAmnt, GLDet.ForeignAmnt, "        \
+    "GLDet.ExCurrencyId AS GLDetExCurrencyId, GLAcct.AcctType, GLAcct.InGLAcctId, "         \
+    "GLAcct.GLAcctId, GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType "                 \
+    "FROM GLAcct LEFT JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId "                    \
+    "AND GLDet.DetDate BETWEEN ? AND ?"
 #define BY_ACCOUNT " ORDER BY GLAcct.GLAcctId, GLDet.DetDate, GLDet.SeqNo, GLDet.InGLDetId"
 
 struct Filtered {
@@ -29,18 +29,18 @@ struct Filtered {
 
 // The tool of these tests finds account -1 by any criteria.
 constexpr Filtered kCases[] = {
-    {"plain", "", "", false, LINES JOINED BY_ACCOUNT},
-    {"blanks", " | ", "", false, LINES JOINED BY_ACCOUNT},
-    {"segments", "", "3,7", false, LINES " AND (GLDet.ExSegmentId IN (3,7))" JOINED BY_ACCOUNT},
-    {"no segment", "", "", true, LINES " AND (GLDet.ExSegmentId IS NULL)" JOINED BY_ACCOUNT},
+    {"plain", "", "", false, LINES BY_ACCOUNT},
+    {"blanks", " | ", "", false, LINES BY_ACCOUNT},
+    {"segments", "", "3,7", false, LINES " AND (GLDet.ExSegmentId IN (3,7))" BY_ACCOUNT},
+    {"no segment", "", "", true, LINES " AND (GLDet.ExSegmentId IS NULL)" BY_ACCOUNT},
     {"list of accounts", "1010, 1020", "", false,
-     LINES JOINED " WHERE GLAcct.InGLAcctId IN (1010, 1020)" BY_ACCOUNT},
+     LINES " WHERE GLAcct.InGLAcctId IN (1010, 1020)" BY_ACCOUNT},
     {"criteria", "GLDet.DetAmnt > 5", "", false,
-     LINES JOINED " WHERE GLAcct.InGLAcctId IN (-1)" BY_ACCOUNT},
+     LINES " WHERE GLAcct.InGLAcctId IN (-1)" BY_ACCOUNT},
     {"ordering", "|GLDet.DetRef DESC", "", false,
-     LINES JOINED " ORDER BY GLAcct.GLAcctId, GLDet.DetRef DESC"},
+     LINES " ORDER BY GLAcct.GLAcctId, GLDet.DetRef DESC"},
     {"all", "1010|GLDet.Source", "3", true,
-     LINES " AND (GLDet.ExSegmentId IN (3) OR GLDet.ExSegmentId IS NULL)" JOINED
+     LINES " AND (GLDet.ExSegmentId IN (3) OR GLDet.ExSegmentId IS NULL)"
            " WHERE GLAcct.InGLAcctId IN (1010) ORDER BY GLAcct.GLAcctId, GLDet.Source"},
 };
 

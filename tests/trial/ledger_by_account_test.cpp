@@ -171,7 +171,7 @@ TEST(LedgerByAccountTest, AnAmountThatCannotBeReadLeavesOnlyItsOwnTotalsBlank) {
     auto rows = run.AccountsWithLines();
     const auto column = std::find(rows.columns.begin(), rows.columns.end(), "DetAmnt");
     rows.rows[1][static_cast<std::size_t>(column - rows.columns.begin())] = "6,00";
-    run.host->database.Answer("AS GLDet ON", rows);
+    run.host->database.Answer("LEFT JOIN GLDet ON", rows);
     const auto bands = test::Collect(*run.report->IReport_ReportDesigner());
     EXPECT_THAT(Shown(bands, "Detail", {"txtDebit", "txtBalance", "lblBalanceType"}),
                 ElementsAre("5.00|5.00|DT", "||", "7.00||", "8.00|8.00|DT"));

@@ -77,7 +77,7 @@ RowSet TrialRun::AccountsWithLines() const {
 void TrialRun::Prepare() {
     for (const auto& account : chart) host->company.account_types[account.id] = account.type;
     host->database.Answer("FROM GLAcct LEFT JOIN", Accounts());
-    for (const char* joined : {"SubQuery", "AS GLDet ON"})
+    for (const char* joined : {"SubQuery", "LEFT JOIN GLDet ON"})
         host->database.Answer(joined, AccountsWithLines());
 }
 
