@@ -71,8 +71,7 @@ std::string JoinConnectionString(const std::vector<ConnectionKeyword>& keywords)
 }
 
 std::string WithReadingDefaults(std::string_view connection_string) {
-    static const ConnectionKeyword kDefaults[] = {
-        {"UseDeclareFetch", "1"}, {"Fetch", "5000"}, {"BoolsAsChar", "0"}};
+    static const ConnectionKeyword kDefaults[] = {{"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}};
     auto keywords = ParseConnectionString(connection_string);
     for (const auto& setting : kDefaults) {
         const bool given = std::ranges::any_of(

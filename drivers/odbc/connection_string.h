@@ -19,7 +19,7 @@ std::vector<ConnectionKeyword> ParseConnectionString(std::string_view text);
 /// The other way; values get braces where they need them.
 std::string JoinConnectionString(const std::vector<ConnectionKeyword>& keywords);
 
-/// The string with the settings that reading rests on (rows fetched in portions, truth values as
+/// The string with the settings that reading rests on (no cursors but our own, truth values as
 /// numbers) added where it says nothing of them.
 std::string WithReadingDefaults(std::string_view connection_string);
 

@@ -4,12 +4,18 @@
 #include <sqlext.h>
 #include <sqlucode.h>
 
+#include <array>
+#include <cstdlib>
+
 #include "drivers/odbc/odbc_error.h"
 #include "drivers/odbc/utf16.h"
 
 namespace varnel::drivers {
 
 namespace {
+
+/// How long a server may take to let somebody in.
+constexpr SQLULEN kLoginSeconds = 15;
 
 /// Numbers that ODBC passes as pointers.
 SQLPOINTER AsPointer(SQLULEN value) {
@@ -32,6 +38,9 @@ OdbcConnection::OdbcConnection(const std::string& connection_string, OdbcAccess 
     : environment_(NewHandle(SQL_HANDLE_ENV, nullptr)), connection_(nullptr, Free{}) {
     SQLSetEnvAttr(environment_.get(), SQL_ATTR_ODBC_VERSION, AsPointer(SQL_OV_ODBC3), 0);
     connection_ = NewHandle(SQL_HANDLE_DBC, environment_.get());
+    if (std::getenv("PGCONNECT_TIMEOUT") == nullptr)
+        SQLSetConnectAttrW(connection_.get(), SQL_ATTR_LOGIN_TIMEOUT, AsPointer(kLoginSeconds),
+                           SQL_IS_UINTEGER);
     auto text = ToUtf16(connection_string);
     const auto result = SQLDriverConnectW(connection_.get(), nullptr, text.data(), SQL_NTS, nullptr,
                                           0, nullptr, SQL_DRIVER_NOPROMPT);
@@ -39,9 +48,27 @@ OdbcConnection::OdbcConnection(const std::string& connection_string, OdbcAccess 
         RaiseOdbc("The database cannot be opened: " +
                   Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
     connected_ = true;
+    is_postgres_ = FindPostgres();
+    if (is_postgres_) LimitWaits();
     if (access == OdbcAccess::kRead)
         Execute("SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY");
     SwitchAutocommit(false);
+}
+
+bool OdbcConnection::FindPostgres() const {
+    std::array<SQLCHAR, 64> name{};
+    SQLSMALLINT length = 0;
+    const auto result =
+        SQLGetInfo(connection_.get(), SQL_DBMS_NAME, name.data(), name.size() - 1, &length);
+    return SQL_SUCCEEDED(result) &&
+           std::string_view(reinterpret_cast<const char*>(name.data())) == "PostgreSQL";
+}
+
+// A limit of the database or the user stays.
+void OdbcConnection::LimitWaits() const {
+    Execute(
+        "SELECT set_config('lock_timeout', '30s', false) WHERE current_setting('lock_timeout') = "
+        "'0'");
 }
 
 OdbcConnection::~OdbcConnection() {

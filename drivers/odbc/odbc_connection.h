@@ -28,6 +28,7 @@ class OdbcConnection {
     OdbcConnection(const OdbcConnection&) = delete;
     OdbcConnection& operator=(const OdbcConnection&) = delete;
 
+    bool IsPostgres() const { return is_postgres_; }
     /// A new statement handle, to be freed by who asked for it.
     void* NewStatement() const;
     /// Runs a statement without rows; raises error 3709 when it fails.
@@ -47,10 +48,13 @@ class OdbcConnection {
 
     static Handle NewHandle(short type, void* parent);
     void SwitchAutocommit(bool on) const;
+    bool FindPostgres() const;
+    void LimitWaits() const;
     OdbcStatementHandle Ran(std::string_view sql) const;
 
     Handle environment_, connection_;
     bool connected_ = false;
+    bool is_postgres_ = false;
 };
 
 }  // namespace varnel::drivers

@@ -30,9 +30,9 @@ class OdbcConnections {
 /// A query over ODBC. Its connection string is an ODBC one ("Driver={PostgreSQL Unicode};…");
 /// `connections` need not outlive it. Nothing is opened before it is executed.
 ///
-/// The text is one statement that reads, sent as it stands. Rows come in portions where the driver
-/// can (UseDeclareFetch), so that any number of them takes the same memory. With a time limit no
-/// single wait for the database is longer than that.
+/// The text is one statement that reads, sent as it stands. From PostgreSQL rows come in portions,
+/// through a cursor, so that any number of them takes the same memory. With a time limit no single
+/// wait for the database is longer than that.
 std::shared_ptr<Command> NewOdbcCommand(OdbcConnections& connections);
 
 }  // namespace varnel::drivers

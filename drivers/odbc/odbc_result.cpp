@@ -14,8 +14,13 @@ namespace varnel::drivers {
 
 namespace {
 
-/// A divisor of the rows that the driver asks the server for at a time.
 constexpr SQLULEN kBlockRows = 250;
+
+// The cursor is the driver's own business in UseDeclareFetch, but one that crashes when the
+// connection is lost while rows come in. A portion is what it holds in memory.
+constexpr std::size_t kPortionRows = 5'000;
+constexpr const char* kDeclareCursor = "DECLARE varnel_rows NO SCROLL CURSOR FOR ";
+constexpr const char* kFetchPortion = "FETCH FORWARD 5000 FROM varnel_rows";
 
 void SetAttribute(void* statement, SQLINTEGER attribute, SQLULEN value) {
     const auto pointer = reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
@@ -47,11 +52,25 @@ OdbcResult::~OdbcResult() {
     if (connection_ != nullptr) query_.pool->Give(query_.connection_string, std::move(connection_));
 }
 
-void OdbcResult::Execute(const std::string& text) {
-    const OdbcParameters parameters(statement_.get(), query_.text, query_.parameters);
+void OdbcResult::Run(const std::string& text) {
     auto wide_text = ToUtf16(text);
     const OdbcWatch::Guard guard(query_.pool->Watch(), statement_.get());
-    if (!SQL_SUCCEEDED(SQLExecDirectW(statement_.get(), wide_text.data(), SQL_NTS))) Fail();
+    const auto result = SQLExecDirectW(statement_.get(), wide_text.data(), SQL_NTS);
+    if (!SQL_SUCCEEDED(result) && result != SQL_NO_DATA) Fail();
+}
+
+void OdbcResult::Execute(const std::string& text) {
+    const OdbcParameters parameters(statement_.get(), query_.text, query_.parameters);
+    in_portions_ = connection_->IsPostgres();
+    Run(in_portions_ ? kDeclareCursor + text : text);
+    SQLFreeStmt(statement_.get(), SQL_RESET_PARAMS);
+    if (in_portions_) FetchPortion();
+}
+
+void OdbcResult::FetchPortion() {
+    SQLFreeStmt(statement_.get(), SQL_CLOSE);
+    portion_ = 0;
+    Run(kFetchPortion);
 }
 
 void OdbcResult::Describe() {
@@ -75,13 +94,22 @@ Columns OdbcResult::ReadColumns() const {
     return columns;
 }
 
-bool OdbcResult::FetchBlock() {
+bool OdbcResult::FetchRows() {
     next_ = 0;
     rows_ = 0;
     const OdbcWatch::Guard guard(query_.pool->Watch(), statement_.get());
     const auto result = SQLFetch(statement_.get());
     if (!SQL_SUCCEEDED(result) && result != SQL_NO_DATA) Fail();
-    return result != SQL_NO_DATA && rows_ > 0;
+    if (result == SQL_NO_DATA) rows_ = 0;
+    portion_ += rows_;
+    return rows_ > 0;
+}
+
+bool OdbcResult::FetchBlock() {
+    if (FetchRows()) return true;
+    if (!in_portions_ || portion_ < kPortionRows) return false;
+    FetchPortion();
+    return FetchRows();
 }
 
 bool OdbcResult::Read(Row& row) {

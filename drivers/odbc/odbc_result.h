@@ -36,7 +36,10 @@ class OdbcResult {
     bool Read(Row& row);
 
   private:
+    void Run(const std::string& text);
     void Execute(const std::string& text);
+    void FetchPortion();
+    bool FetchRows();
     void Describe();
     bool FetchBlock();
     void ReadCell(const OdbcColumn& column, Row& row);
@@ -47,8 +50,10 @@ class OdbcResult {
     std::unique_ptr<OdbcConnection> connection_;
     OdbcStatementHandle statement_;  // Goes before its connection.
     std::vector<OdbcColumn> columns_;
-    unsigned long rows_ = 0;  // Of the block that is here.
-    std::size_t next_ = 0;    // In it.
+    bool in_portions_ = false;
+    std::size_t portion_ = 0;  // Rows of it that were fetched.
+    unsigned long rows_ = 0;   // Of the block that is here.
+    std::size_t next_ = 0;     // In it.
     std::string long_text_;
 };
 

@@ -30,10 +30,10 @@ TEST(ConnectionString, IsRefusedWithoutItsValuesBeingShown) {
 }
 
 TEST(ConnectionString, GivenSettingsWinOverThoseOfReading) {
-    const auto text = WithReadingDefaults("DSN=shop;fetch=100");
-    EXPECT_THAT(text, testing::HasSubstr("UseDeclareFetch=1;"));
-    EXPECT_THAT(text, testing::HasSubstr("fetch=100;"));
-    EXPECT_THAT(text, testing::Not(testing::HasSubstr("5000")));
+    const auto text = WithReadingDefaults("DSN=shop;boolsaschar=1");
+    EXPECT_THAT(text, testing::HasSubstr("UseDeclareFetch=0;"));
+    EXPECT_THAT(text, testing::HasSubstr("boolsaschar=1;"));
+    EXPECT_THAT(text, testing::Not(testing::HasSubstr("BoolsAsChar")));
 }
 
 TEST(OneQuery, IsSentFromItsFirstWordToItsLast) {
