@@ -25,7 +25,7 @@ constexpr Advice kAdvice[] = {
      "No table of the query has it: check the filter, and that this is a company "
      "database."},
     {"25006", "", "A query may only read."},
-    {"42501", "", "Ask who keeps the database for the right to read it."},
+    {"42501", "", "Ask who keeps the database for the right to do that."},
     {"55P03", "",
      "A table is locked by somebody else: try again when they are done, or raise lock_timeout."},
     {"42883", "", "Is the database prepared for reports (docs/databases.md)?"},

@@ -1,4 +1,4 @@
-"""What goes wrong with a company on a server: each is told, nothing hangs, no file is half written."""
+"""What goes wrong with a company on a server is told, hangs nothing and leaves no half of a file."""
 
 import contextlib
 import pathlib
@@ -91,7 +91,7 @@ class Failures(ServerTest):
 
     @contextlib.contextmanager
     def locked(self, table):
-        session = subprocess.Popen(["psql", "-h", SERVER, "-U", "varnel", "-d", self.database, "-q"],
+        session = subprocess.Popen(["psql", "-h", SERVER, "-U", "varnel", "-q", self.database],
                                    stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, text=True)
         session.stdin.write(f"BEGIN; LOCK TABLE {table} IN ACCESS EXCLUSIVE MODE;\n")
         session.stdin.flush()
@@ -136,7 +136,7 @@ class Failures(ServerTest):
                                   "DROP ROLE reader_of_failures")
         company = self.server.replace("varnel@", "reader_of_failures@")
         report = self.run_to_file("general-journal", company)
-        self.assert_told("for the right to read it", *report)
+        self.assert_told("for the right to do that", *report)
         self.sql("GRANT SELECT ON ALL TABLES IN SCHEMA public TO reader_of_failures")
         self.assertEqual(0, self.run_varnel(*report)[0])
 
