@@ -1,10 +1,12 @@
 // Times the reports against their floors, each in a process of its own and in the same run.
 //
 //   varnel_bench VARNEL FOLDER [LINES…]
+//   varnel_bench VARNEL --server ADDRESS
 //
 // VARNEL is the command's file, FOLDER keeps the demo companies between runs, LINES are numbers of
 // lines (10000 100000 1000000): of the journal for the general journal, of the ledger for the other
-// reports. Prints one table a size and report.
+// reports. ADDRESS is a company on a server, which is measured as it stands. Prints one table a
+// size and report.
 
 #include <cinttypes>
 #include <cstdio>
@@ -15,7 +17,9 @@
 #include "bench/floors.h"
 #include "bench/measure.h"
 #include "bench/reports.h"
+#include "bench/server_floor.h"
 #include "bench/wide_chart.h"
+#include "company/company_address.h"
 #include "company/demo/demo_company.h"
 
 namespace {
@@ -141,14 +145,42 @@ void MeasureSize(const std::string& varnel, const std::string& folder, std::int6
     for (const auto& report : ReportCases()) MeasureReport(report, varnel, folder, lines);
 }
 
+void MeasureOverServer(const Subject& subject, const std::string& statement) {
+    const auto connection = varnel::company::ParseCompanyAddress(subject.company).odbc_connection;
+    std::printf("%s, %" PRId64 " rows of the statement\n", subject.report.c_str(),
+                FetchRows(connection, statement));
+    const auto fetch = MeasureFunction([&] { FetchRows(connection, statement); }, subject.runs);
+    PrintRow("floor: bare fetching", fetch, 0);
+    for (const char* format : {"csv", "txt", "jsonl"})
+        PrintRow(format, RunReport(subject, format, "/dev/null"), fetch.seconds);
+    std::printf("\n");
+}
+
+void MeasureServer(const std::string& varnel, const std::string& company) {
+    constexpr int kRuns = 3;
+    MeasureStartUp(varnel, company);
+    MeasureOverServer({varnel, "general-journal", {}, company, "", kRuns}, kJournalStatement);
+    for (const auto& report : ReportCases())
+        if (report.name == "trial-balance-summary" || report.name == "trial-balance-detail")
+            MeasureOverServer(
+                {varnel, std::string(report.name), report.options(company), company, "", kRuns},
+                report.statement(company));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     if (argc < 3) {
-        std::fprintf(stderr, "usage: %s VARNEL FOLDER [LINES...]\n", argv[0]);
+        std::fprintf(stderr,
+                     "usage: %s VARNEL FOLDER [LINES...]\n       %s VARNEL --server ADDRESS\n",
+                     argv[0], argv[0]);
         return 2;
     }
     try {
+        if (argc == 4 && std::string(argv[2]) == "--server") {
+            MeasureServer(argv[1], argv[3]);
+            return 0;
+        }
         std::filesystem::create_directories(argv[2]);
         if (argc == 3)
             for (const std::int64_t lines : {10'000, 100'000, 1'000'000})
