@@ -80,11 +80,6 @@ class Csv : public ::testing::Test {
     CsvWriter writer_;
 };
 
-TEST_F(Csv, BeginsWithTheColumnsOfTheGroupsAndThenOfTheDetail) {
-    writer_.End();
-    EXPECT_EQ(sink_.Bytes(), "Year,Book,Account,\"Text, free\",Amount\r\n");
-}
-
 TEST_F(Csv, PutsTheFieldsOfItsGroupsInFrontOfEachDetail) {
     At("fldYear").SetValue(std::int32_t{2025}, "Fiscal year 2025");
     At("fldBook").SetText("GJ");
@@ -96,7 +91,10 @@ TEST_F(Csv, PutsTheFieldsOfItsGroupsInFrontOfEachDetail) {
     At("txtText").SetText("second");
     Print("Detail");
     Print("gfInner", kInner);
-    EXPECT_EQ(Records(), "2025,GJ,1010,first,\r\n2025,GJ,1010,second,\r\n");
+    writer_.End();
+    EXPECT_EQ(sink_.Bytes(),
+              "Year,Book,Account,\"Text, free\",Amount\r\n"
+              "2025,GJ,1010,first,\r\n2025,GJ,1010,second,\r\n");
 }
 
 TEST_F(Csv, WritesValuesPlainAndExact) {
@@ -159,16 +157,23 @@ TEST_F(Csv, HandsLongOutputOnBeforeTheEnd) {
     EXPECT_EQ(Records().size(), 100u * (1000 + 6));
 }
 
-TEST(CsvRecord, OfOneEmptyFieldIsNotAnEmptyLine) {
-    const Layout layout{.name = "dsrOne",
-                        .sections = {Band(SectionKind::kDetail, "Detail", {Field("a", {}, "A")})}};
+/// What is written of a layout, after its texts are set, for those bands.
+std::string Written(const Layout& layout, const std::vector<const char*>& texts,
+                    const std::vector<std::pair<const char*, BandMark>>& bands) {
     Surface surface(layout);
     MemorySink sink;
     CsvWriter writer(sink);
     writer.Begin({}, surface);
-    writer.Write(surface.SectionAt("Detail"), {});
+    for (const char* name : texts) surface.At(name).SetText(name);
+    for (const auto& [section, mark] : bands) writer.Write(surface.SectionAt(section), mark);
     writer.End();
-    EXPECT_EQ(sink.Bytes(), "A\r\n\"\"\r\n");
+    return sink.Take();
+}
+
+TEST(CsvRecord, OfOneEmptyFieldIsNotAnEmptyLine) {
+    const Layout layout{.name = "dsrOne",
+                        .sections = {Band(SectionKind::kDetail, "Detail", {Field("a", {}, "A")})}};
+    EXPECT_EQ(Written(layout, {}, {{"Detail", {}}}), "A\r\n\"\"\r\n");
 }
 
 TEST(CsvRecord, IsAFooterOfTheInnermostGroupWhereDetailsNameNoColumns) {
@@ -179,31 +184,20 @@ TEST(CsvRecord, IsAFooterOfTheInnermostGroupWhereDetailsNameNoColumns) {
                      Band(SectionKind::kDetail, "Detail", {Field("d", {})}),
                      Band(SectionKind::kGroupFooter, "gfInner", {Field("s", {}, "Sum")}),
                      Band(SectionKind::kGroupFooter, "gfOuter", {Field("t", {}, "Total")})}};
-    Surface surface(layout);
-    MemorySink sink;
-    CsvWriter writer(sink);
-    writer.Begin({}, surface);
-    for (const char* name : {"g", "s", "t"}) surface.At(name).SetText(name);
-    const auto print = [&](const char* section, const BandMark& mark) {
-        writer.Write(surface.SectionAt(section), mark);
-    };
-    print("ghOuter", {.level = 0});
-    print("Detail", {});
-    print("gfInner", {.level = 1});
-    print("gfInner", {.level = 1, .printed = false});
-    print("gfOuter", {.level = 0});
-    writer.End();
-    EXPECT_EQ(sink.Bytes(), "Group,Sum\r\ng,s\r\n");
+    EXPECT_EQ(Written(layout, {"g", "s", "t"},
+                      {{"ghOuter", {.level = 0}},
+                       {"Detail", {}},
+                       {"gfInner", {.level = 1}},
+                       {"gfInner", {.level = 1, .printed = false}},
+                       {"gfOuter", {.level = 0}}}),
+              "Group,Sum\r\ng,s\r\n");
 }
 
 TEST(CsvLayout, WithoutColumnsIsRefusedByName) {
     const Layout layout{.name = "dsrMute",
                         .sections = {Band(SectionKind::kDetail, "Detail", {Field("a", {})})}};
-    const Surface surface(layout);
-    MemorySink sink;
-    CsvWriter writer(sink);
     try {
-        writer.Begin({}, surface);
+        Written(layout, {}, {});
         FAIL() << "no error";
     } catch (const std::invalid_argument& error) {
         EXPECT_THAT(error.what(), HasSubstr("dsrMute"));

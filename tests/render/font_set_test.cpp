@@ -33,34 +33,6 @@ TEST(FontSet, FiguresOfAStyleAreEquallyWide) {
     }
 }
 
-// The advances are those of the font's hmtx table, of 2048 units an em.
-TEST(FontSet, MeasuresInTheUnitOfTheSize) {
-    FontSet fonts;
-    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 2048, "0"), 1171);
-    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 2048, " "), 532);
-    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 2048, "0 0"), 1171 + 532 + 1171);
-    EXPECT_DOUBLE_EQ(fonts.Width(FontStyle::kRegular, 10, "00"), 10 * 2.0 * 1171 / 2048);
-    EXPECT_EQ(fonts.Width(FontStyle::kRegular, 10, ""), 0);
-}
-
-TEST(FontSet, TakesFromTheFallbackWhatTheFirstFaceLacks) {
-    FontSet fonts;
-    const GlyphCell& letter = fonts.Cell(FontStyle::kBold, U'A');
-    const GlyphCell& tick = fonts.Cell(FontStyle::kBold, U'\u2713');
-    EXPECT_EQ(fonts.Face(letter.face).PostScriptName(), "OpenSans-Bold");
-    EXPECT_EQ(fonts.Face(tick.face).PostScriptName(), "DejaVuSans-Bold");
-    EXPECT_NE(tick.glyph, 0);
-    EXPECT_EQ(tick.flags, GlyphCell::kPlain);
-}
-
-TEST(FontSet, ShowsTheReplacementForWhatNoFaceHas) {
-    FontSet fonts;
-    const GlyphCell& cell = fonts.Cell(FontStyle::kRegular, U'\u65E5');
-    EXPECT_EQ(cell.flags, GlyphCell::kMissing);
-    EXPECT_EQ(cell.glyph, fonts.Face(cell.face).Glyph(U'\uFFFD'));
-    EXPECT_GT(fonts.Advance(FontStyle::kRegular, "\xFF"), 0);
-}
-
 TEST(FontSet, FormattingCharactersTakeNoRoomAndControlsAreSpaces) {
     FontSet fonts;
     const auto width = [&](std::string_view text) {

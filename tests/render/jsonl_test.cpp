@@ -69,12 +69,16 @@ class JsonLines : public ::testing::Test {
     JsonLinesWriter writer_;
 };
 
-TEST_F(JsonLines, CarryTextValueAndKeyOfEachControl) {
+TEST_F(JsonLines, CarryTextValueAndKeyOfEachControlAlsoOfABlock) {
     At("lblTotal").SetText("Total");
     At("txtDebit").SetValue(Currency::FromWhole(50), "50.00");
     At("txtDebit").SetTag("GJ|17");
+    At("txtNote").SetTag("42");
+    At("blkRoom").SetText("USD");
     EXPECT_EQ(Written(), R"({"section":"Detail","controls":{"lblTotal":{"text":"Total"},)"
-                         R"("txtDebit":{"text":"50.00","value":"50.0000","key":"GJ|17"}}})"
+                         R"("txtDebit":{"text":"50.00","value":"50.0000","key":"GJ|17"},)"
+                         R"("txtNote":{"text":"","key":"42"},)"
+                         R"("blkRoom":{"text":"USD"}}})"
                          "\n");
 }
 
@@ -101,19 +105,6 @@ TEST_F(JsonLines, LeaveOutWhatIsNotVisibleTextOfTheBand) {
     At("txtDebit").SetVisible(false);
     for (const char* name : {"linTop", "lblPage", "subFilter"}) At(name).SetText("no");
     EXPECT_EQ(Written(), "{\"section\":\"Detail\",\"controls\":{}}\n");
-}
-
-TEST_F(JsonLines, CarryTheTextOfABlockThoughItIsNotPrinted) {
-    At("blkRoom").SetText("USD");
-    EXPECT_EQ(Written(),
-              "{\"section\":\"Detail\",\"controls\":{\"blkRoom\":{\"text\":\"USD\"}}}\n");
-}
-
-TEST_F(JsonLines, KeepAKeyWithoutText) {
-    At("txtNote").SetTag("42");
-    EXPECT_EQ(
-        Written(),
-        "{\"section\":\"Detail\",\"controls\":{\"txtNote\":{\"text\":\"\",\"key\":\"42\"}}}\n");
 }
 
 TEST_F(JsonLines, LeaveOutABandThatDoesNotPrint) {

@@ -45,13 +45,4 @@ inline engine::Item RuleItem(Box box) {
     return {.kind = engine::ItemKind::kRule, .style = {.ink = Ink::kRule}, .box = box};
 }
 
-/// The visible controls of a section at their places, one line each.
-engine::PlacedBand Place(const Section& section);
-
-/// A sink whose destination fails from the first byte.
-class FailingSink final : public ByteSink {
-  public:
-    void Write(std::string_view bytes) override;
-};
-
 }  // namespace varnel::render::testing

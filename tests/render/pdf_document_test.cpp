@@ -4,7 +4,6 @@
 #include <cmath>
 #include <stdexcept>
 #include <string>
-#include <system_error>
 
 #include "tests/render/pdf_tools.h"
 
@@ -36,17 +35,11 @@ TEST(PdfDocument, IsTheSameBytesForTheSameInput) {
     EXPECT_NE(id(PagesPdf(fonts, 4)), id(first));
 }
 
-TEST(PdfDocument, RefusesToBeWithoutAPage) {
-    MemorySink sink;
-    FontSet fonts;
-    PdfWriter writer(sink, fonts);
-    EXPECT_THROW(writer.Finish(), std::logic_error);
-}
-
 TEST(PdfDocument, RefusesCallsOutOfOrder) {
     MemorySink sink;
     FontSet fonts;
     PdfWriter writer(sink, fonts);
+    EXPECT_THROW(writer.Finish(), std::logic_error) << "without a page";
     EXPECT_THROW(writer.EndPage(), std::logic_error);
     writer.BeginPage(612, 792);
     EXPECT_THROW(writer.BeginPage(612, 792), std::logic_error);
@@ -66,40 +59,16 @@ TEST(PdfDocument, RefusesPagesNoViewerShows) {
     EXPECT_THROW(writer.BeginPage(612, std::nan("")), std::invalid_argument);
 }
 
-TEST(PdfDocument, ReportsAFullDisk) {
-    FontSet fonts;
-    EXPECT_THROW(
-        {
-            FileSink sink("/dev/full");
-            PdfWriter writer(sink, fonts);
-            WritePages(writer, 2);
-            sink.Close();
-        },
-        std::system_error);
-}
-
-TEST(PdfDocument, KeepsTheOrderOfThousandsOfPages) {
-    if (!HasTool("qpdf") || !HasTool("pdftotext")) GTEST_SKIP() << "qpdf or poppler is missing";
-    FontSet fonts;
-    const TemporaryFile file(PagesPdf(fonts, 5000));
-    const ToolRun check = RunTool("qpdf --check " + file.Path());
-    EXPECT_EQ(check.exit_code, 0) << check.output;
-    EXPECT_EQ(RunTool("qpdf --show-npages " + file.Path()).output, "5000\n");
-    const std::string text = RunTool("pdftotext " + file.Path() + " -").output;
-    std::string expected;
-    for (int i = 1; i <= 5000; ++i) expected += "Page " + std::to_string(i) + "\n\n\f";
-    EXPECT_EQ(text, expected);
-}
-
 // 64 pages fill a node, 64 nodes the next level: at the edges a level more or less is needed.
-TEST(PdfDocument, HasAValidTreeWhereLevelsBegin) {
-    if (!HasTool("qpdf")) GTEST_SKIP() << "qpdf is not installed";
+TEST(PdfDocument, HasAValidTreeInOrderWhereLevelsBegin) {
+    if (!HasTool("qpdf") || !HasTool("pdftotext")) GTEST_SKIP() << "qpdf or poppler is missing";
     FontSet fonts;
     for (const int count : {1, 64, 65, 4096, 4097}) {
         const TemporaryFile file(PagesPdf(fonts, count));
         EXPECT_EQ(RunTool("qpdf --check " + file.Path()).exit_code, 0) << count;
-        EXPECT_EQ(RunTool("qpdf --show-npages " + file.Path()).output,
-                  std::to_string(count) + "\n");
+        std::string expected;
+        for (int i = 1; i <= count; ++i) expected += "Page " + std::to_string(i) + "\n\n\f";
+        EXPECT_EQ(RunTool("pdftotext " + file.Path() + " -").output, expected);
     }
 }
 

@@ -34,23 +34,6 @@ TEST(PdfObjects, RefusesCompressionLevelsThatDoNotExist) {
     EXPECT_EQ(sink.Bytes(), "");
 }
 
-TEST(PdfObjects, TableSaysWhereEachObjectIs) {
-    MemorySink sink;
-    PdfObjects objects(sink, 6);
-    const ObjectId first = objects.Reserve();
-    const ObjectId second = objects.Reserve();
-    objects.WriteObject(second, "(second)");
-    objects.WriteObject(first, "(first)");
-    objects.Finish(first, second);
-    const std::string& file = sink.Bytes();
-    const std::size_t table = file.find("xref\n0 3\n") + std::string_view("xref\n0 3\n").size();
-    const auto offset = [&](std::size_t i) { return std::stoul(file.substr(table + 20 * i, 10)); };
-    EXPECT_EQ(file.substr(offset(1), 7), "1 0 obj");
-    EXPECT_EQ(file.substr(offset(2), 7), "2 0 obj");
-    EXPECT_THAT(file, testing::EndsWith("startxref\n" + std::to_string(file.find("xref\n0 3")) +
-                                        "\n%%EOF\n"));
-}
-
 // This is how links and other features are added beside the writer.
 TEST(PdfObjects, LetLaterFeaturesHangInTheirOwn) {
     if (!HasTool("qpdf")) GTEST_SKIP() << "qpdf is not installed";
