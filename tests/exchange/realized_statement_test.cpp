@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "framework/dialect.h"
 #include "tests/exchange/realized_run.h"
 #include "tests/journal/picking_tool.h"
 
@@ -28,66 +27,39 @@ using testing::ElementsAre;
     " ORDER BY  ExCurrencyId, CurrPmtType, CurrPmtDet_View.PmtDate, CurrPmtDet_View.ChqNo "
 #define BY_DATE_AND " ORDER BY ExCurrencyId, CurrPmtType, CurrPmtDet_View.PmtDate, "
 
-struct StatementCase {
-    const char* segments;
-    bool also_none;
-    const char* filter;
-    const char* statement;
-};
-
-void PrintTo(const StatementCase& tried, std::ostream* out) {
-    *out << "segments \"" << tried.segments << "\", filter \"" << tried.filter << "\"";
+TEST(RealizedQueryTest, IsExactlyThis) {
+    const struct {
+        const char* segments;
+        bool also_none;
+        const char* filter;
+        const char* statement;
+    } cases[] = {
+        {"", false, "|", PAYMENTS IN_ORDER},
+        {"3,7", false, "", PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3,7)) " IN_ORDER},
+        {"", false, "|Name DESC", PAYMENTS BY_DATE_AND "Name DESC"},
+        {"3", true, "PmtAmnt > 5|Name",
+         PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3) OR "
+                  "CurrPmtDet_View.ExSegmentId IS NULL)  AND (PmtAmnt > 5) " BY_DATE_AND "Name"}};
+    for (const auto& [segments, also_none, filter, statement] : cases) {
+        RealizedRun run;
+        auto& by_segment = dynamic_cast<ISegmentFilter&>(*run.report);
+        by_segment.ISegmentFilter_SegmentFilter(segments);
+        by_segment.ISegmentFilter_SegmentNoneFilter(also_none);
+        dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_Filter(filter);
+        run({});
+        EXPECT_EQ(run.LastQuery().text, statement);
+    }
 }
-
-class RealizedStatementTest : public testing::TestWithParam<StatementCase> {};
-
-TEST_P(RealizedStatementTest, IsExactlyThis) {
-    RealizedRun run;
-    auto& segments = dynamic_cast<ISegmentFilter&>(*run.report);
-    segments.ISegmentFilter_SegmentFilter(GetParam().segments);
-    segments.ISegmentFilter_SegmentNoneFilter(GetParam().also_none);
-    dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_Filter(GetParam().filter);
-    run({});
-    EXPECT_EQ(run.LastQuery().text, GetParam().statement);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Variants, RealizedStatementTest,
-    testing::Values(
-        StatementCase{"", false, "", PAYMENTS IN_ORDER},
-        StatementCase{"3,7", false, "",
-                      PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3,7)) " IN_ORDER},
-        StatementCase{"", true, "",
-                      PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IS NULL) " IN_ORDER},
-        StatementCase{"3,7", true, "",
-                      PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3,7) OR "
-                               "CurrPmtDet_View.ExSegmentId IS NULL) " IN_ORDER},
-        StatementCase{"", false, "PmtAmnt > 5", PAYMENTS " AND (PmtAmnt > 5) " IN_ORDER},
-        StatementCase{"", false, "|Name DESC", PAYMENTS BY_DATE_AND "Name DESC"},
-        StatementCase{"", false, "|", PAYMENTS IN_ORDER},
-        StatementCase{"3", true, "PmtAmnt > 5|Name",
-                      PAYMENTS
-                      " AND (CurrPmtDet_View.ExSegmentId IN (3) OR "
-                      "CurrPmtDet_View.ExSegmentId IS NULL)  AND (PmtAmnt > 5) " BY_DATE_AND
-                      "Name"}));
 
 TEST(RealizedQueryTest, JoinsTextsAsTheDatabaseDoes) {
     RealizedRun run;
     for (const auto& [type, statement] :
          {std::pair{1, PAYMENTS IN_ORDER}, std::pair{0, PAYMENTS_JOINED_BY("+") IN_ORDER},
-          std::pair{2, PAYMENTS_JOINED_BY("+") IN_ORDER}}) {
+          std::pair{2, PAYMENTS_JOINED_BY("+") IN_ORDER},
+          std::pair{-1, PAYMENTS_JOINED_BY("+") IN_ORDER}}) {
         run.host->database.type = type;
         run({});
         EXPECT_EQ(run.LastQuery().text, statement) << "database type " << type;
-    }
-}
-
-TEST(RealizedQueryTest, TypeOneIsTheDesktopAndAnythingElseAServer) {
-    test::HostCalls calls;
-    test::MemoryDatabase database(calls);
-    for (const int type : {-1, 0, 1, 2, 11}) {
-        database.type = type;
-        EXPECT_EQ(framework::DialectOf(database) == framework::Dialect::kDesktop, type == 1);
     }
 }
 

@@ -13,19 +13,6 @@ using test::ForwardFigures;
 using test::Line;
 using testing::ElementsAre;
 
-// 10.01 × 1.3725 = 13.738725, -0.20 × 1.3725 = -0.2745, 0.02 × 1.3725 = 0.02745.
-TEST(UnrealizedDetailFiguresTest, EachLineIsRevaluedToTheCentAndItsGainIsExact) {
-    DetailRun run;
-    const auto bands = run({Line("100", "130"), Line("10.01", "12.3456"), Line("-0.2", "-0.28"),
-                            Line("0.02", "0.03")});
-    EXPECT_THAT(DetailFigures(bands),
-                ElementsAre("100.00 130.00 137.25 7.25", "10.01 12.35 13.74 1.39",
-                            "-0.20 -0.28 -0.27 0.01", "0.02 0.03 0.03 0.00"));
-    EXPECT_EQ(bands.Of("Detail")[1]["txtGain"].value, ControlValue(Currency::Parse("1.3944")));
-    // 109.83, 142.0956, 150.75, 8.6544.
-    EXPECT_EQ(FooterFigures(bands, "Period"), "109.83 142.10 150.75 8.65");
-}
-
 TEST(UnrealizedDetailFiguresTest, AZeroAmountIsNotPrintedAndCountsAllTheSame) {
     DetailRun run;
     test::ForeignLine null = Line("0", "7");
@@ -37,31 +24,10 @@ TEST(UnrealizedDetailFiguresTest, AZeroAmountIsNotPrintedAndCountsAllTheSame) {
     EXPECT_EQ(FooterFigures(bands, "Period"), "120.00 131.50 164.70 33.20");
 }
 
-TEST(UnrealizedDetailFiguresTest, LinesAddToTheBalanceBroughtForward) {
-    DetailRun run;
-    // 1,000 × 1.3725 = 1,372.50 and -0.50 × 1.3725 = -0.68625.
-    run.Forward({{"1000", "1250"}, {"-0.5", "-0.70"}});
-    const auto bands = run({Line("100", "130")});
-    EXPECT_EQ(ForwardFigures(bands), "999.50 1,249.30 1,371.81 122.51");
-    EXPECT_EQ(FooterFigures(bands, "Period"), "100.00 130.00 137.25 7.25");
-    EXPECT_EQ(FooterFigures(bands, "Closing"), "1,099.50 1,379.30 1,509.06 129.76");
-}
-
 TEST(UnrealizedDetailFiguresTest, RowsInOtherCurrenciesAreNotBroughtForward) {
     DetailRun run;
     run.Forward({{"500", "735", 3}, {"1000", "1250"}, {"0", "80", 1}, {"0", "9", Variant::Null{}}});
     EXPECT_EQ(ForwardFigures(run({Line("1", "1")})), "1,000.00 1,250.00 1,372.50 122.50");
-}
-
-TEST(UnrealizedDetailFiguresTest, APeriodWithoutLinesClosesWithWhatIsBroughtForward) {
-    DetailRun run;
-    run.Forward({{"1000", "1250"}});
-    const auto bands = run({});
-    EXPECT_TRUE(bands.Of("ghGLAcct").empty());
-    EXPECT_EQ(FooterFigures(bands, "Period"), "0.00 0.00 0.00 0.00");
-    EXPECT_EQ(FooterFigures(bands, "Closing"), "1,000.00 1,250.00 1,372.50 122.50");
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtClosingAccount"), ElementsAre("1060 - Bank USD"));
-    EXPECT_THAT(run.host->message_boxes, testing::IsEmpty());
 }
 
 TEST(UnrealizedDetailFiguresTest, TheForwardIsAtBookedRatesWhenNothingIsRevaluedTheLinesAreNot) {
@@ -85,17 +51,6 @@ TEST(UnrealizedDetailFiguresTest, ForeignAmountsHaveTheDecimalsOfTheirCurrencyHo
     EXPECT_THAT(DetailFigures(bands), ElementsAre("1,000 1,300.00 1,372.50 72.50"));
     EXPECT_EQ(ForwardFigures(bands), "500 600.00 686.25 86.25");
     EXPECT_EQ(FooterFigures(bands, "Closing"), "1,500 1,900.00 2,058.75 158.75");
-}
-
-TEST(UnrealizedDetailFiguresTest, ASecondRunStartsAfresh) {
-    DetailRun run;
-    run.Forward({{"1000", "1250"}});
-    const auto first = run({Line("100", "130"), Line("0", "1")});
-    run.Forward({{"1", "1"}});
-    run({Line("999", "999")});
-    run.Forward({{"1000", "1250"}});
-    const auto again = run({Line("100", "130"), Line("0", "1")});
-    EXPECT_EQ(again.bands, first.bands);
 }
 
 }  // namespace

@@ -26,18 +26,11 @@ TEST(UnrealizedDetailPageTest, IsTheDetailOfThePeriodAtItsRates) {
     EXPECT_EQ(header.height, header["lblForeignCap"].box.Bottom());
 }
 
-TEST(UnrealizedDetailPageTest, RatesAreThoseOfTheLastDay) {
-    DetailRun run;
-    auto& rates = run.host->company.currency_info.rate_table[2];
-    rates[Date::ParseIso("2025-03-31")] = Rate::Parse("1.50");
-    rates[Date::ParseIso("2025-04-01")] = Rate::Parse("1.60");
-    EXPECT_THAT(DetailFigures(run({Line("100", "130")})),
-                ElementsAre("100.00 130.00 150.00 20.00"));
-}
-
 TEST(UnrealizedDetailPageTest, TheAccountHeaderNamesAccountCurrencyAndDayOfTheForward) {
     DetailRun run;
-    const auto header = run({Line("1", "1"), Line("2", "2")}).Of("ghGLAcct");
+    const auto bands = run({Line("1", "1"), Line("2", "2")});
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtClosingAccount"), ElementsAre("1060 - Bank USD"));
+    const auto header = bands.Of("ghGLAcct");
     ASSERT_EQ(header.size(), 1u);
     EXPECT_EQ(header[0].Text("txtAccount"), "1060 - Bank USD");
     EXPECT_EQ(header[0]["txtAccount"].tag, "ACC|1060");
