@@ -7,7 +7,6 @@ namespace varnel {
 namespace {
 
 using test::GifiRun;
-using test::kCurrentEarnings;
 using test::kRetainedEarnings;
 using test::kUnrealized;
 using test::Shown;
@@ -38,19 +37,6 @@ void PostIncome(TrialRun& run) {
     run.Post(kRetainedEarnings, "2024-05-01", "-7");
     run.Post(1'010, "2024-05-01", "7");
     run.Post(1'010, "2025-04-01", "1000");  // After the period.
-}
-
-TEST(TrialAmountTest, IncomeCountsFromTheYearAndRetainedEarningsCarryWhatWasBefore) {
-    TrialRun run = SummaryRun();
-    PostIncome(run);
-    EXPECT_THAT(SummaryLines(run), ElementsAre("1010|130.50|", "3100||127.00", "4000||3.50"));
-}
-
-TEST(TrialAmountTest, IncomeCountsFromTheFirstDateWhenThatLiesInAYearBefore) {
-    TrialRun run = SummaryRun();
-    PostIncome(run);
-    run.report->IReport_DateFrom(Date::ParseIso("2024-06-01"));
-    EXPECT_THAT(SummaryLines(run), ElementsAre("1010|130.50|", "3100||107.00", "4000||23.50"));
 }
 
 TEST(TrialAmountTest, OfGifiAlwaysCountsFromTheYearThatWasAskedForWithTheDate) {
@@ -104,31 +90,7 @@ TEST(TrialAmountTest, OfGifiDependsOnTheOrderOfCodes) {
                             "1030 - Account 1030|123.45"));
 }
 
-TEST(TrialAmountTest, KeysLeadToTheAccountButFromEarnings) {
-    for (TrialRun run : {SummaryRun(), GifiRun()}) {
-        run.chart = {{1'010}, {kRetainedEarnings, 3}, {kCurrentEarnings, 3}, {kUnrealized, 5}};
-        for (const auto& account : run.chart) run.Post(account.id, "2025-03-01", "1");
-        std::vector<std::string> keys;
-        for (const auto& band : run().Of("Detail")) {
-            keys.push_back(band["txtDescr"].tag);
-            for (const char* name : {"txtAcctId", "txtDebit", "txtCredit", "txtAmount"})
-                EXPECT_TRUE(band.controls.count(name) == 0 || band[name].tag == keys.back());
-        }
-        EXPECT_THAT(keys, ElementsAre("1010", "", "", "GLUnrealized|5900"));
-    }
-}
-
 // The summary's own.
-
-TEST(SummaryTest, AnAccountOfZeroIsThereWhenAskedForAndActive) {
-    TrialRun run = SummaryRun();
-    run.chart = {{1'010}, {1'020, 1, 0, true}, {1'030, 1, 0, true}, {1'040}};
-    run.Post(1'030, "2025-03-01", "0.01");
-    run.Post(1'040, "2025-03-01", "-125.5");
-    EXPECT_THAT(SummaryLines(run), ElementsAre("1030|0.01|", "1040||125.50"));
-    run.IncludeZeroBalances();
-    EXPECT_THAT(SummaryLines(run), ElementsAre("1010||", "1030|0.01|", "1040||125.50"));
-}
 
 TEST(SummaryTest, ShowsForeignBalancesWithTheirCode) {
     TrialRun run = SummaryRun();

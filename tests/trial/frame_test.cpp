@@ -71,13 +71,6 @@ TEST_P(TrialBalanceTest, WithoutItsAdjustingLineTheFooterIsLower) {
         EXPECT_EQ(adjusted[total].box.top - plain[total].box.top, line) << total;
 }
 
-TEST_P(TrialBalanceTest, WithoutRowsTotalsAreZero) {
-    EXPECT_THAT(
-        Shown(run(), "ReportFooter", {"txtDescrAdj", "txtDebitGrandTotal", "txtCreditGrandTotal"}),
-        ElementsAre("|0.00|0.00"));
-    EXPECT_TRUE(run.host->message_boxes.empty());
-}
-
 TEST_P(TrialBalanceTest, TheDialogOpensWithTheChoiceOfTheTimeBefore) {
     run.IncludeZeroBalances();
     std::vector<bool> visible;
@@ -118,25 +111,6 @@ TEST(TrialHeaderTest, RatesAreNotedWhenTheyRevalueInGifiWheneverThereAreAny) {
         run.host->company.currency_info.records.resize(1);
         EXPECT_EQ(note(run), "");
     }
-}
-
-std::vector<std::string> ColumnsOf(const TrialRun& run) {
-    std::vector<std::string> columns;
-    for (const auto& section : run.report->IReport_ReportDesigner()->GetSurface().Design().sections)
-        for (const auto& control : section.controls)
-            if (!control.column.empty()) columns.emplace_back(control.column);
-    return columns;
-}
-
-TEST(TrialExportTest, ForeignAmountsAndAccountNumbersHaveColumnsOfTheirOwn) {
-    EXPECT_THAT(ColumnsOf(SummaryRun()),
-                ElementsAre("account", "description", "foreign", "currency", "debit", "credit"));
-    EXPECT_THAT(ColumnsOf(GifiRun()), ElementsAre("gifi", "account", "description", "amount"));
-    EXPECT_THAT(
-        ColumnsOf(DetailRun()),
-        ElementsAre("account", "account_description", "forward", "forward_type", "unrealized",
-                    "unrealized_type", "entry", "source", "date", "description", "foreign",
-                    "currency", "debit", "credit", "balance", "balance_type"));
 }
 
 TEST(TrialHeaderTest, TheDetailsAdjustingBlockReadsLikeAnAccount) {

@@ -63,17 +63,6 @@ TEST(LedgerByAccountTest, BringsBalancesForwardAndPrintsEveryLineAlsoOfZero) {
     EXPECT_THAT(GrandTotals(run()), ElementsAre("1,043.00|90.00|1,000.00|DT")) << "run again";
 }
 
-TEST(LedgerByAccountTest, RetainedEarningsCarryTheIncomeOfTheYearsBefore) {
-    TrialRun run = LedgerRun();
-    run.chart = {{kRetainedEarnings, 3}, {4'000, 4}};
-    run.Post(4'000, "2024-03-01", "-100");
-    run.Post(4'000, "2025-01-10", "-3");
-    run.Post(4'000, "2025-03-10", "-0.5");
-    EXPECT_THAT(Forwards(run()), ElementsAre("100.00|CT", "3.00|CT"));
-    run.report->IReport_DateFrom(Date::ParseIso("2024-06-01"));  // Of the year before.
-    EXPECT_THAT(Forwards(run()), ElementsAre("100.00|CT", "0.00|DT"));
-}
-
 TEST(LedgerByAccountTest, RevaluesNothing) {
     EXPECT_EQ(dynamic_cast<IExchangeRates*>(LedgerRun().report.get()), nullptr);
 }

@@ -37,97 +37,66 @@ using testing::ElementsAre;
     "GLAcct.ExCurrencyId = WorldCurrency.InCurrencyId"
 #define BY_ACCOUNT " ORDER BY GLAcct.GLAcctId, SubQuery.DetDate, SubQuery.SeqNo"
 
-struct FilterCase {
-    const char* name;
-    TrialRun (*run)();
-    const char* filter;
-    const char* statement;
-};
-
-void PrintTo(const FilterCase& tried, std::ostream* out) { *out << tried.name; }
-
-class ChartStatementTest : public testing::TestWithParam<FilterCase> {};
-
-TEST_P(ChartStatementTest, IsExactlyThisAndLeavesSegmentsToTheBalances) {
-    TrialRun run = GetParam().run();
-    run.Filter(GetParam().filter);
-    run.FilterSegments("3", true);
-    run();
-    EXPECT_EQ(run.Command().text, GetParam().statement);
-    EXPECT_TRUE(run.Command().parameters.empty());
-    EXPECT_EQ(run.Command().calls.front(), "timeout 0");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Variants, ChartStatementTest,
-    testing::Values(FilterCase{"summary", SummaryRun, "", CHART " ORDER BY GLAcct.GLAcctId"},
-                    FilterCase{"summary, blanks", SummaryRun, " | ",
-                               CHART " ORDER BY GLAcct.GLAcctId"},
-                    FilterCase{"summary, criteria", SummaryRun, "GLAcct.AcctType = 1",
-                               CHART " WHERE (GLAcct.AcctType = 1)  ORDER BY GLAcct.GLAcctId"},
-                    FilterCase{"summary, both", SummaryRun, "GLAcct.AcctType = 1|GLAcct.Descr",
-                               CHART " WHERE (GLAcct.AcctType = 1)  ORDER BY GLAcct.Descr"},
-                    FilterCase{"gifi", GifiRun, "", GIFI_CHART " ORDER BY GIFIAcctId, GLAcctId"},
-                    FilterCase{"gifi, both", GifiRun, "AcctType = 1|Descr",
-                               GIFI_CHART " AND (AcctType = 1)  ORDER BY GIFIAcctId, Descr"}));
-
-struct Selected {
-    const char* name;
-    reports::dsrTrialBalanceDetail::Selection selection;
-    const char* segments;
-    const char* filter;
-    const char* statement;
-};
-
-void PrintTo(const Selected& tried, std::ostream* out) { *out << tried.name; }
-
-class DetailStatementTest : public testing::TestWithParam<Selected> {};
-
-TEST_P(DetailStatementTest, IsExactlyThis) {
-    TrialRun run = DetailRun();
-    dynamic_cast<reports::dsrTrialBalanceDetail&>(*run.report).GetSelection() =
-        GetParam().selection;
-    run.Filter(GetParam().filter, std::make_shared<test::PickingTool>());
-    run.FilterSegments(GetParam().segments);
-    run();
-    EXPECT_EQ(run.Command().text, GetParam().statement);
-    const auto& parameters = run.Command().parameters;
-    const auto account = GetParam().selection.single_account;
-    ASSERT_EQ(parameters.size(), account == 0 ? 2u : 3u);
-    EXPECT_EQ(parameters[0].ToDate(), run.from);
-    EXPECT_EQ(parameters[1].ToDate(), run.to);
-    EXPECT_TRUE(account == 0 || parameters[2].ToInteger32() == account);
+TEST(ChartStatementTest, IsExactlyThisAndLeavesSegmentsToTheBalances) {
+    const struct {
+        TrialRun (*make)();
+        const char *filter, *statement;
+    } cases[] = {{SummaryRun, " | ", CHART " ORDER BY GLAcct.GLAcctId"},
+                 {SummaryRun, "GLAcct.AcctType = 1|GLAcct.Descr",
+                  CHART " WHERE (GLAcct.AcctType = 1)  ORDER BY GLAcct.Descr"},
+                 {GifiRun, "", GIFI_CHART " ORDER BY GIFIAcctId, GLAcctId"},
+                 {GifiRun, "AcctType = 1|Descr",
+                  GIFI_CHART " AND (AcctType = 1)  ORDER BY GIFIAcctId, Descr"}};
+    for (const auto& [make, filter, statement] : cases) {
+        TrialRun run = make();
+        run.Filter(filter);
+        run.FilterSegments("3", true);
+        run();
+        EXPECT_EQ(run.Command().text, statement);
+        EXPECT_TRUE(run.Command().parameters.empty());
+    }
 }
 
 // The tool of these tests finds account -1 by any criteria.
-INSTANTIATE_TEST_SUITE_P(
-    Variants, DetailStatementTest,
-    testing::Values(
-        Selected{"plain", {}, "", "", LINES OF_PERIOD " " JOINED BY_ACCOUNT},
-        Selected{"blanks in the filter", {}, "", " | ", LINES OF_PERIOD " " JOINED BY_ACCOUNT},
-        Selected{"list in the filter",
-                 {},
-                 "",
-                 "1010, 1020|GLAcct.Descr",
-                 LINES OF_PERIOD " " JOINED " WHERE GLAcct.InGLAcctId IN (1010, 1020)" BY_ACCOUNT},
-        Selected{"criteria in the filter",
-                 {},
-                 "",
-                 "GLAcct.AcctType = 1",
-                 LINES OF_PERIOD " " JOINED " WHERE GLAcct.InGLAcctId IN (-1)" BY_ACCOUNT},
-        Selected{"list of the host before the filter's",
-                 {.account_ids = "1030"},
-                 "",
-                 "1010",
-                 LINES OF_PERIOD " " JOINED " WHERE GLAcct.InGLAcctId IN (1030)" BY_ACCOUNT},
-        Selected{"all",
-                 {.hide_inactive = true, .project_ids = "7", .single_account = 1'010},
-                 "3",
-                 "1010",
-                 LINES "GLDet.ExProjId IN (7) AND " OF_PERIOD
-                       " AND (GLDet.ExSegmentId IN (3))" JOINED
-                       " WHERE GLAcct.InGLAcctId=? AND GLAcct.InGLAcctId IN (1010) AND "
-                       "(GLAcct.Inactive IS NULL Or GLAcct.Inactive = 0)" BY_ACCOUNT}));
+TEST(DetailStatementTest, IsExactlyThis) {
+    const struct {
+        reports::dsrTrialBalanceDetail::Selection selection;
+        const char *segments, *filter, *statement;
+    } cases[] = {
+        {{}, "", " | ", LINES OF_PERIOD " " JOINED BY_ACCOUNT},
+        {{},
+         "",
+         "1010, 1020|GLAcct.Descr",
+         LINES OF_PERIOD " " JOINED " WHERE GLAcct.InGLAcctId IN (1010, 1020)" BY_ACCOUNT},
+        {{},
+         "",
+         "GLAcct.AcctType = 1",
+         LINES OF_PERIOD " " JOINED " WHERE GLAcct.InGLAcctId IN (-1)" BY_ACCOUNT},
+        {{.account_ids = "1030"},  // Before the filter's.
+         "",
+         "1010",
+         LINES OF_PERIOD " " JOINED " WHERE GLAcct.InGLAcctId IN (1030)" BY_ACCOUNT},
+        {{.hide_inactive = true, .project_ids = "7", .single_account = 1'010},
+         "3",
+         "1010",
+         LINES "GLDet.ExProjId IN (7) AND " OF_PERIOD " AND (GLDet.ExSegmentId IN (3))" JOINED
+               " WHERE GLAcct.InGLAcctId=? AND GLAcct.InGLAcctId IN (1010) AND "
+               "(GLAcct.Inactive IS NULL Or GLAcct.Inactive = 0)" BY_ACCOUNT}};
+    for (const auto& [selection, segments, filter, statement] : cases) {
+        TrialRun run = DetailRun();
+        dynamic_cast<reports::dsrTrialBalanceDetail&>(*run.report).GetSelection() = selection;
+        run.Filter(filter, std::make_shared<test::PickingTool>());
+        run.FilterSegments(segments);
+        run();
+        EXPECT_EQ(run.Command().text, statement);
+        const auto& parameters = run.Command().parameters;
+        const auto account = selection.single_account;
+        ASSERT_EQ(parameters.size(), account == 0 ? 2u : 3u);
+        EXPECT_EQ(parameters[0].ToDate(), run.from);
+        EXPECT_EQ(parameters[1].ToDate(), run.to);
+        EXPECT_TRUE(account == 0 || parameters[2].ToInteger32() == account);
+    }
+}
 
 TEST(DetailSelectionTest, IsReachedByNameAndTheFactoryHidesInactiveAccounts) {
     TrialRun run = DetailRun(true);
