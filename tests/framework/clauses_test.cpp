@@ -12,21 +12,17 @@ struct SegmentCase {
     const char* clause;
 };
 
-class SegmentClauseTest : public testing::TestWithParam<SegmentCase> {};
+const SegmentCase kSegments[] = {
+    {"", false, ""},
+    {"3,7", false, "(GLDet.ExSegmentId IN (3,7))"},
+    {"", true, "(GLDet.ExSegmentId IS NULL)"},
+    {"3,7", true, "(GLDet.ExSegmentId IN (3,7) OR GLDet.ExSegmentId IS NULL)"},
+    {" 3 , x ", false, "(GLDet.ExSegmentId IN ( 3 , x ))"}};
 
-TEST_P(SegmentClauseTest, TakesTheListedSegmentsLinesWithoutOneOrBoth) {
-    const auto& [ids, also_none, clause] = GetParam();
-    EXPECT_EQ(SegmentClause("GLDet.ExSegmentId", ids, also_none), clause);
+TEST(SegmentClauseTest, TakesTheListedSegmentsLinesWithoutOneOrBoth) {
+    for (const auto& [ids, also_none, clause] : kSegments)
+        EXPECT_EQ(SegmentClause("GLDet.ExSegmentId", ids, also_none), clause);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Filters, SegmentClauseTest,
-    testing::Values(SegmentCase{"", false, ""},
-                    SegmentCase{"3,7", false, "(GLDet.ExSegmentId IN (3,7))"},
-                    SegmentCase{"", true, "(GLDet.ExSegmentId IS NULL)"},
-                    SegmentCase{"3,7", true,
-                                "(GLDet.ExSegmentId IN (3,7) OR GLDet.ExSegmentId IS NULL)"},
-                    SegmentCase{" 3 , x ", false, "(GLDet.ExSegmentId IN ( 3 , x ))"}));
 
 TEST(SegmentClauseTest, NamesTheColumnOfTheReport) {
     EXPECT_EQ(SegmentClause("D.Seg", "1", true), "(D.Seg IN (1) OR D.Seg IS NULL)");
@@ -40,31 +36,30 @@ struct CriteriaCase {
     const char* order_clause;
 };
 
-class CustomCriteriaTest : public testing::TestWithParam<CriteriaCase> {};
+const CriteriaCase kFilters[] = {
+    {"", "", "", "", " ORDER BY D"},
+    {"|", "", "", "", " ORDER BY D"},
+    {"A = 1", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
+    {"A = 1|", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
+    {"|B", "", "B", "", " ORDER BY S, B"},
+    {"A = 1|B DESC", "A = 1", "B DESC", " AND (A = 1) ", " ORDER BY S, B DESC"},
+    {"A|B|C", "A", "B", " AND (A) ", " ORDER BY S, B"},
+    {"||C", "", "", "", " ORDER BY D"},
+    {"A||", "A", "", " AND (A) ", " ORDER BY D"},
+    {" A = 1 | B ", " A = 1 ", " B ", " AND ( A = 1 ) ", " ORDER BY S,  B "},
+    {" |  ", "", "", "", " ORDER BY D"},
+    {" ", "", "", "", " ORDER BY D"}};
 
-TEST_P(CustomCriteriaTest, AreSplitAtTheFirstTwoBars) {
-    const auto& [filter, criteria, ordering, and_clause, order_clause] = GetParam();
-    const auto split = CustomCriteria::Split(filter);
-    EXPECT_EQ(split.criteria, criteria);
-    EXPECT_EQ(split.ordering, ordering);
-    EXPECT_EQ(split.AndClause(), and_clause);
-    EXPECT_EQ(split.OrderClause(" ORDER BY S, ", " ORDER BY D"), order_clause);
+TEST(CustomCriteriaTest, AreSplitAtTheFirstTwoBars) {
+    for (const auto& [filter, criteria, ordering, and_clause, order_clause] : kFilters) {
+        SCOPED_TRACE(filter);
+        const auto split = CustomCriteria::Split(filter);
+        EXPECT_EQ(split.criteria, criteria);
+        EXPECT_EQ(split.ordering, ordering);
+        EXPECT_EQ(split.AndClause(), and_clause);
+        EXPECT_EQ(split.OrderClause(" ORDER BY S, ", " ORDER BY D"), order_clause);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Filters, CustomCriteriaTest,
-    testing::Values(
-        CriteriaCase{"", "", "", "", " ORDER BY D"}, CriteriaCase{"|", "", "", "", " ORDER BY D"},
-        CriteriaCase{"A = 1", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
-        CriteriaCase{"A = 1|", "A = 1", "", " AND (A = 1) ", " ORDER BY D"},
-        CriteriaCase{"|B", "", "B", "", " ORDER BY S, B"},
-        CriteriaCase{"A = 1|B DESC", "A = 1", "B DESC", " AND (A = 1) ", " ORDER BY S, B DESC"},
-        CriteriaCase{"A|B|C", "A", "B", " AND (A) ", " ORDER BY S, B"},
-        CriteriaCase{"||C", "", "", "", " ORDER BY D"},
-        CriteriaCase{"A||", "A", "", " AND (A) ", " ORDER BY D"},
-        CriteriaCase{" A = 1 | B ", " A = 1 ", " B ", " AND ( A = 1 ) ", " ORDER BY S,  B "},
-        CriteriaCase{" |  ", "", "", "", " ORDER BY D"},
-        CriteriaCase{" ", "", "", "", " ORDER BY D"}));
 
 }  // namespace
 }  // namespace varnel::framework

@@ -41,31 +41,6 @@ TEST_P(FactoryTest, MakesANewReportWithEachCall) {
 
 INSTANTIATE_TEST_SUITE_P(Methods, FactoryTest, testing::ValuesIn(test::FactoryMethods()));
 
-TEST(FactoryOptionsTest, TheBudgetSwitchOfOneReportNeverShowsOnTheNext) {
-    clsReport factory;
-    const auto budget = factory.ComparativeIncomeStatementBudget();
-    const auto plain = factory.ComparativeIncomeStatement();
-    const auto options = [](const std::shared_ptr<IReport>& report) {
-        return std::dynamic_pointer_cast<RecordedReport>(report)->options;
-    };
-    EXPECT_THAT(options(plain), testing::ElementsAre("IsBudgetComparative = False"));
-    EXPECT_THAT(options(budget), testing::ElementsAre("IsBudgetComparative = True"));
-}
-
-TEST(FactoryOptionsTest, TheLedgerTypeIsWrittenInDecimal) {
-    clsReport factory;
-    const auto caption = [&](std::int16_t type) {
-        return factory.GeneralLedger(type)
-            ->IReport_ReportDesigner()
-            ->Get("lblType")
-            .ToObject()
-            ->Get("Caption")
-            .ToText();
-    };
-    EXPECT_EQ(caption(0), "0");
-    EXPECT_EQ(caption(-32'768), "-32768");
-}
-
 TEST(FactoryOptionsTest, LateBoundArgumentsAreConvertedOrRefused) {
     clsReport factory;
     const Variant yes[] = {"True"};

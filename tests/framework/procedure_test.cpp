@@ -70,12 +70,6 @@ TEST_F(FormATest, BeforeAnyMarkTheProcedureItselfIsTheLine) {
     EXPECT_THAT(host_.message_boxes.back(), testing::EndsWith(std::to_string(__LINE__ - 1)));
 }
 
-TEST_F(FormATest, ABodyThatSucceedsShowsNothing) {
-    bool ran = false;
-    EXPECT_EQ(MessageOf([&] { ran = true; }), "");
-    EXPECT_TRUE(ran);
-}
-
 TEST_F(FormATest, MarksOfAProcedureCalledDoNotChangeTheCallersLine) {
     const auto body = [&] {
         Mark(10);
@@ -154,24 +148,6 @@ TEST(FormBTest, RaisesAgainWithTheProcedureAppendedAndNumberAndSourceUnchanged) 
         EXPECT_EQ(error.Description(),
                   "Not there (Varnel.clsReport.BalanceSheet component failure at line:77");
     }
-}
-
-TEST(FormBTest, EachProcedureOnTheWayAddsItsOwnNameAndLine) {
-    const auto inner = [] { GuardFormB("CGLAcct", "Load", [] { Mark(1), throw 0; }); };
-    const auto outer = [&] { GuardFormB("CGLAccts", "Item", [&] { Mark(2), inner(); }); };
-    try {
-        outer();
-        FAIL();
-    } catch (const Error& error) {
-        EXPECT_EQ(error.Number(), error_number::kOther);
-        EXPECT_EQ(error.Description(),
-                  "An unknown failure (Varnel.CGLAcct.Load component failure at line:1"
-                  " (Varnel.CGLAccts.Item component failure at line:2");
-    }
-}
-
-TEST(FormBTest, PassesTheResultOfABodyThatSucceeds) {
-    EXPECT_EQ(GuardFormB("CGLAcct", "Descr", [] { return std::string("Cash"); }), "Cash");
 }
 
 }  // namespace

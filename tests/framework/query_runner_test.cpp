@@ -26,17 +26,6 @@ TEST(QueryRunnerTest, AsksTheCommandInTheOrderThatHostsExpect) {
     EXPECT_TRUE(command.parameters[2].Holds<std::int32_t>());
 }
 
-TEST(QueryRunnerTest, EachQueryHasACommandOfItsOwn) {
-    test::MemoryHost host;
-    host.database.Answer("", {{"A"}, {}});
-    const Variant parameters[] = {1};
-    RunQuery(host, "first ?", parameters);
-    RunQuery(host, "second", {});
-    ASSERT_EQ(host.database.Commands().size(), 2u);
-    EXPECT_EQ(host.database.Commands()[1]->text, "second");
-    EXPECT_TRUE(host.database.Commands()[1]->parameters.empty());
-}
-
 TEST(QueryRunnerTest, ASettingThatIsNotThereIsOff) {
     test::MemoryHost host;
     EXPECT_FALSE(ReadSwitch(host, "ItemAdjustGL"));

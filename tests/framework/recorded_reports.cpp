@@ -1,7 +1,5 @@
 #include "tests/framework/recorded_reports.h"
 
-#include <algorithm>
-
 namespace varnel {
 
 namespace test {
@@ -58,11 +56,6 @@ std::span<framework::PublicClass> RecordedClasses() {
         {"Varnel.CGLAcctHelper", nullptr}};
     return classes;
 }
-
-CatalogueScope::CatalogueScope()
-    : entries_(RecordedCatalogue().begin(), RecordedCatalogue().end()) {}
-
-CatalogueScope::~CatalogueScope() { std::ranges::copy(entries_, RecordedCatalogue().begin()); }
 
 }  // namespace test
 

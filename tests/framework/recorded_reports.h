@@ -23,16 +23,4 @@ class RecordedReport final : public framework::ReportBase {
 std::span<framework::CatalogueEntry> RecordedCatalogue();
 std::span<framework::PublicClass> RecordedClasses();
 
-/// Puts the catalogue back when a test has changed it.
-class CatalogueScope {
-  public:
-    CatalogueScope();
-    ~CatalogueScope();
-    CatalogueScope(const CatalogueScope&) = delete;
-    CatalogueScope& operator=(const CatalogueScope&) = delete;
-
-  private:
-    std::vector<framework::CatalogueEntry> entries_;
-};
-
 }  // namespace varnel::test
