@@ -12,15 +12,8 @@ struct Feature {
 #define WITH_ACCOUNT "FROM GLDet JOIN GLAcct ON InGLAcctId = ExAcctId WHERE "
 
 constexpr Feature kFeatures[] = {
-    {"posting accounts", "SELECT count(*) FROM GLAcct WHERE GroupType IN (2, 4, 6)", 100},
-    {"roles of rows", "SELECT count(DISTINCT GroupType) FROM GLAcct", 8},
-    {"account types", "SELECT count(DISTINCT AcctType) FROM GLAcct", 7},
     {"other income and expenses posted",
      "SELECT count(DISTINCT AcctType) " WITH_ACCOUNT "AcctType IN (6, 7)", 2},
-    {"caption of other items",
-     "SELECT count(*) FROM AcctTypeInfo WHERE AcctType = 9 AND TypeClass = 2", 1},
-    {"active by null", "SELECT count(*) FROM GLAcct WHERE Inactive IS NULL AND GroupType = 2", 5},
-    {"active by 0", "SELECT count(*) FROM GLAcct WHERE Inactive = 0", 5},
     {"inactive with a balance",
      "SELECT count(*) FROM (SELECT 1 " WITH_ACCOUNT
      "Inactive = 1 GROUP BY ExAcctId HAVING sum(DetAmnt) <> 0)",
@@ -33,31 +26,16 @@ constexpr Feature kFeatures[] = {
      "SELECT count(*) FROM GLAcct WHERE GroupType IN (2, 4, 6) AND coalesce(Inactive, 0) = 0 AND "
      "InGLAcctId NOT IN (SELECT ExAcctId FROM GLDet)",
      3},
-    {"text rows", "SELECT count(*) FROM GLAcct WHERE GroupType = 0", 3},
-    {"notes", "SELECT count(*) FROM GLAcct WHERE Note <> ''", 5},
     {"GIFI codes with several accounts",
      "SELECT count(*) FROM (SELECT 1 FROM GLAcct WHERE GIFIAcctId <> '' GROUP BY GIFIAcctId "
      "HAVING count(*) > 1)",
      5},
-    {"posting accounts without a GIFI code",
-     "SELECT count(*) FROM GLAcct WHERE GIFIAcctId IS NULL AND GroupType IN (2, 4, 6)", 1},
-    {"empty GIFI codes", "SELECT count(*) FROM GLAcct WHERE GIFIAcctId = ''", 1},
-    {"accounts without a currency",
-     "SELECT count(*) FROM GLAcct WHERE ExCurrencyId IS NULL AND GroupType = 2", 10},
-    {"accounts in the home currency", "SELECT count(*) FROM GLAcct WHERE ExCurrencyId = 1", 3},
-    {"foreign accounts", "SELECT count(*) FROM GLAcct WHERE ExCurrencyId > 1", 6},
     {"bank accounts", "SELECT count(DISTINCT ExCurrencyId) FROM GLAcct WHERE ChqAcct = 1", 3},
     {"control accounts of currencies",
      "SELECT count(*) FROM WorldCurrency JOIN GLAcct r ON r.InGLAcctId = ARGLAccountId JOIN "
      "GLAcct p ON p.InGLAcctId = APGLAccountId WHERE r.ExCurrencyId = InCurrencyId AND "
      "p.ExCurrencyId = InCurrencyId",
      2},
-    {"no control accounts of the home currency",
-     "SELECT count(*) FROM WorldCurrency WHERE ARGLAccountId = 0 AND APGLAccountId = 0", 1},
-    {"account parameters",
-     "SELECT count(*) FROM GLAccountParam JOIN GLAcct ON InGLAcctId = ExAcctId "
-     "WHERE Section = 'Cie'",
-     6},
     {"rates on business days",
      "SELECT min(n) FROM (SELECT count(*) AS n FROM ExchangeRate "
      "WHERE strftime('%w', RateDate) BETWEEN '1' AND '5' GROUP BY ExCurrencyId)",
@@ -120,10 +98,6 @@ constexpr Feature kFeatures[] = {
      "WHERE h.ExAcctId = GLDet.ExAcctId AND EXISTS (SELECT 1 FROM BankConcilHistory e "
      "WHERE e.ExAcctId = h.ExAcctId AND e.ID < h.ID AND DetDate <= e.BankConcilDate)",
      5},
-    {"accented descriptions", "SELECT count(*) FROM GLAcct WHERE Descr LIKE '%é%'", 3},
-    {"ampersands", "SELECT count(*) FROM GLAcct WHERE Descr LIKE '%&%'", 5},
-    {"apostrophes", "SELECT count(*) FROM GLAcct WHERE Descr LIKE '%''%'", 1},
-    {"long descriptions", "SELECT count(*) FROM GLAcct WHERE length(Descr) > 45", 8},
 };
 
 #undef WITH_ACCOUNT

@@ -39,12 +39,6 @@ TEST(DemoFile, IsTheSameForTheSameSeed) {
     EXPECT_TRUE(ReadAll(folder / "a.db") == ReadAll(folder / "b.db"));
 }
 
-TEST(DemoFile, HoldsOtherAmountsForAnotherSeed) {
-    const DemoDatabase one(2'000, 1), other(2'000, 2);
-    const std::string turnover = "SELECT sum(abs(" + Exact("DetAmnt") + ")) FROM GLDet";
-    EXPECT_NE(one.Ask(turnover), other.Ask(turnover));
-}
-
 TEST(DemoFile, IsNotWrittenOverUnlessAskedTo) {
     const TemporaryFolder folder;
     const auto file = folder / "shop.db";
@@ -55,12 +49,6 @@ TEST(DemoFile, IsNotWrittenOverUnlessAskedTo) {
     options.overwrite = true;
     EXPECT_EQ(Refusal(file, options), "");
     EXPECT_EQ(ReadAll(file).substr(0, 15), "SQLite format 3");
-}
-
-TEST(DemoFile, NeedsAFolderThatExists) {
-    const TemporaryFolder folder;
-    EXPECT_THAT(Refusal(folder / "nowhere" / "shop.db", Small()), testing::HasSubstr("nowhere"));
-    EXPECT_THAT(Refusal(folder.Path(), Small()), testing::HasSubstr("it is a folder"));
 }
 
 TEST(DemoFile, RefusesTooFewLines) {

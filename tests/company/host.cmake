@@ -7,7 +7,6 @@ varnel_test(NAME company_host_test
         host_dialogs_test.cpp
         host_filter_test.cpp
         host_formats_test.cpp
-        host_memory_test.cpp
         host_small_company.cpp host_small_company.h
         host_statement_balances_test.cpp
         host_texts_test.cpp

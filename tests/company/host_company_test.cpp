@@ -15,22 +15,6 @@ std::string OpeningError(const std::string& script) {
     return ErrorOf([&] { OpenCompany(file.Path()); });
 }
 
-TEST(OpenCompany, NamesTheTableAndTheFile) {
-    const CompanyFile file("DROP TABLE AcctBudget;");
-    EXPECT_THAT(ErrorOf([&] { OpenCompany(file.Path()); }),
-                AllOf(HasSubstr("AcctBudget"), HasSubstr(file.Path())));
-}
-
-TEST(OpenCompany, NamesTheColumnAndTheFile) {
-    const CompanyFile file("ALTER TABLE GLAcct RENAME COLUMN GIFIAcctId TO Gifi;");
-    EXPECT_THAT(ErrorOf([&] { OpenCompany(file.Path()); }),
-                AllOf(HasSubstr("GLAcct"), HasSubstr("GIFIAcctId"), HasSubstr(file.Path())));
-}
-
-TEST(OpenCompany, SaysThatThereIsNoFile) {
-    EXPECT_THAT(ErrorOf([] { OpenCompany("/nowhere/shop.db"); }), HasSubstr("/nowhere/shop.db"));
-}
-
 TEST(OpenCompany, NamesASettingThatCannotBeRead) {
     EXPECT_THAT(OpeningError("UPDATE CompanySetting SET SettingValue = '30/04/2025' "
                              "WHERE SettingName = 'SessionDate';"),

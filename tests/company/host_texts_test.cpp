@@ -14,11 +14,6 @@ TEST(Texts, SpeakTheLanguageOfTheLocale) {
     EXPECT_EQ(LanguageOf("de-DE"), Language::kEnglish);
 }
 
-TEST(Texts, KeepAcceleratorsAndPlaces) {
-    EXPECT_EQ(Texts(Language::kEnglish, {}).Get(6096), "&Income Statement");
-    EXPECT_EQ(Texts(Language::kFrench, {}).Get(30044), "Page {0} de {1}");
-}
-
 TEST(Texts, ReportAMissingNumberOnce) {
     std::vector<std::int16_t> missing;
     Texts texts(Language::kEnglish, [&](std::int16_t number) { missing.push_back(number); });
@@ -89,17 +84,6 @@ TEST(HostMessages, LeaveAPlaceWithoutArgument) {
     HostMessages messages(Language::kEnglish, formats, {});
     EXPECT_EQ(messages.Message(12802, kMessageSource, {}),
               "Inventory adjustments are posted to the ledger from {0}.");
-}
-
-TEST(HostMessages, CountTheBoxesAndPassThemOn) {
-    std::vector<std::string> shown;
-    LocaleFormats formats("en-CA");
-    HostMessages messages(Language::kEnglish, formats,
-                          [&](const std::string& text) { shown.push_back(text); });
-    messages.ShowMessageBox("first");
-    messages.ShowMessageBox("second");
-    EXPECT_THAT(shown, testing::ElementsAre("first", "second"));
-    EXPECT_EQ(messages.BoxesShown(), 2);
 }
 
 }  // namespace
