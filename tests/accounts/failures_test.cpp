@@ -80,8 +80,6 @@ TEST_F(AccountsFailureTest, UnknownItemsFailInTheNameOfTheMember) {
     EXPECT_THAT(
         DescriptionOf([&] { accounts_.Item("1043"); }),
         MatchesRegex(Through("The collection has no item with the key \"1043\"", {"Item"})));
-    EXPECT_THAT(DescriptionOf([&] { accounts_.Item(3); }),
-                MatchesRegex(Through("The collection has no item 3; it holds 2", {"Item"})));
     EXPECT_THAT(DescriptionOf([&] { accounts_.Remove(0); }),
                 MatchesRegex(Through("The collection has no item 0; it holds 2", {"Remove"})));
     EXPECT_EQ(ErrorOf([&] { accounts_.Remove(0); }), error_number::kSubscriptOutOfRange);

@@ -63,24 +63,18 @@ TEST_F(LoadTest, AnEmptyGifiCodeStaysEmptyAndNumbersReadAsText) {
     EXPECT_EQ(account.GLAcctId(), "1040");
 }
 
-TEST_F(LoadTest, WithoutACurrencyAllAccountsAreAskedFor) {
+TEST_F(LoadTest, AllAccountsAreAskedForOrThoseOfACurrency) {
     host_->database.Answer("GLAcct", AccountRows({}));
     accounts_.Init(host_, 0);
-    ASSERT_EQ(host_->database.Commands().size(), 1u);
-    EXPECT_EQ(host_->database.Commands()[0]->text, test::kLoadAll);
-    EXPECT_THAT(host_->database.Commands()[0]->calls,
-                ElementsAre("timeout 0", "connection memory", "text", "execute -1"));
-}
-
-TEST_F(LoadTest, ACurrencyIsTheOneParameter) {
-    host_->database.Answer("GLAcct", AccountRows({}));
     accounts_.Init(host_, 7);
-    ASSERT_EQ(host_->database.Commands().size(), 1u);
-    const auto& command = *host_->database.Commands()[0];
-    EXPECT_EQ(command.text, test::kLoadOneCurrency);
-    EXPECT_THAT(command.calls,
-                ElementsAre("timeout 0", "connection memory", "text", "parameter 7", "execute -1"));
-    EXPECT_TRUE(command.parameters[0].Holds<std::int32_t>());
+    const auto& commands = host_->database.Commands();
+    ASSERT_EQ(commands.size(), 2u);
+    EXPECT_EQ(commands[0]->text, test::kLoadAll);
+    EXPECT_TRUE(commands[0]->parameters.empty());
+    EXPECT_EQ(commands[1]->text, test::kLoadOneCurrency);
+    ASSERT_EQ(commands[1]->parameters.size(), 1u);
+    EXPECT_TRUE(commands[1]->parameters[0].Holds<std::int32_t>());
+    EXPECT_EQ(commands[1]->parameters[0].ToInteger32(), 7);
 }
 
 TEST_F(LoadTest, AccountsKeepTheOrderOfTheRowsAndAnswerToTheirInternalIds) {

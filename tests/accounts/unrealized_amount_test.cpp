@@ -64,12 +64,9 @@ TEST_F(UnrealizedAmountTest, IsWhatBalancesAreWorthRowByRowLessWhatWasBooked) {
     EXPECT_EQ(Amount(), "-7.2201");
 }
 
-TEST_F(UnrealizedAmountTest, IsZeroWithoutAQueryWhenNothingIsRevalued) {
+TEST_F(UnrealizedAmountTest, IsZeroWhenNothingIsRevaluedAndInACompanyOfOneCurrency) {
     EXPECT_EQ(Amount(false), "0.0000");
     EXPECT_TRUE(host->database.Commands().empty());
-}
-
-TEST_F(UnrealizedAmountTest, IsZeroInACompanyOfOneCurrency) {
     host->company.currency_info.records.pop_back();
     rates = nullptr;
     EXPECT_EQ(Amount(), "0.0000");
