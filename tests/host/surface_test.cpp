@@ -22,26 +22,7 @@ const Layout kLayout{
                        .stretch = Stretch::kShift}}},
         {.name = "Detail", .height = 200, .controls = {{.name = "txtDebit", .box = {}}}}}};
 
-TEST(SurfaceTest, StartsAsDesigned) {
-    Surface surface(kLayout);
-    EXPECT_EQ(surface.Width(), 1'000);
-    EXPECT_EQ(surface.SectionAt("pageheader").Height(), 300);
-    EXPECT_EQ(surface.At("LBLLEFT").Text(), "left");
-    EXPECT_EQ(surface.At("lblWide").Place(), (Box{100, 0, 500, 20}));
-    EXPECT_FALSE(surface.At("lblRight").Visible());
-    EXPECT_EQ(surface.Find("lblNone"), nullptr);
-}
-
-/// A report class whose constructor binds a control that its layout does not have.
-struct Misspelt {
-    Surface surface{kLayout};
-    Control& txtDebit = surface.At("txtDebit");
-    Control& txtCredit = surface.At("txtCredit");
-};
-
 TEST(SurfaceTest, AnUnknownControlOrSectionStopsTheReportNamingLayoutAndControl) {
-    EXPECT_EQ(test::DescriptionOf([] { const Misspelt report; }),
-              "dsrTried has no member \"txtCredit\"");
     Surface surface(kLayout);
     EXPECT_EQ(test::ErrorOf([&] { surface.At("txtCredit"); }), error_number::kUnknownMember);
     EXPECT_EQ(test::DescriptionOf([&] { surface.SectionAt("PageFooter"); }),

@@ -106,14 +106,6 @@ TEST(VariantTest, MismatchMessagesSayWhatIsNeededAndWhatIsHeld) {
               "A value is needed that reads as True or False, not this text \"maybe\"");
     EXPECT_EQ(DescriptionOf([] { (void)Variant(Variant::Null{}).ToInteger32(); }),
               "A value is needed that reads as a 32-bit integer, not this null");
-    EXPECT_EQ(DescriptionOf([] { (void)Variant(0.5).ToInteger16(); }),
-              "A value is needed that reads as a 16-bit integer, not this double");
-    EXPECT_EQ(DescriptionOf([] { (void)Variant(kDay).ToCurrency(); }),
-              "A value is needed that reads as an amount, not this date");
-    EXPECT_EQ(DescriptionOf([] { (void)Variant(kAmount).ToDate(); }),
-              "A value is needed that reads as a date, not this amount");
-    EXPECT_EQ(DescriptionOf([] { (void)Variant(true).ToObject(); }),
-              "A value is needed that reads as an object reference, not this Boolean");
 }
 
 TEST(VariantTest, AReferenceMayBeEmpty) {
