@@ -44,7 +44,9 @@ class Connection {
     Connection& operator=(const Connection&) = delete;
 
     SQLHSTMT Statement() const { return statement_; }
-    static SQLPOINTER Number(SQLULEN value) { return reinterpret_cast<SQLPOINTER>(value); }
+    static SQLPOINTER Number(SQLULEN value) {
+        return reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
+    }
 
   private:
     SQLHENV environment_ = nullptr;

@@ -1,4 +1,4 @@
-"""What goes wrong with a company on a server is told, hangs nothing and leaves no half of a file."""
+"""What goes wrong with a company on a server is told, hangs nothing and leaves no half file."""
 
 import contextlib
 import pathlib
@@ -107,6 +107,17 @@ class Failures(ServerTest):
                               ["copy", "shop.db", self.server, "--force"]):
                 self.assert_told("locked by somebody else", *arguments)
         self.assertEqual(0, self.run_varnel(*DETAIL, self.server, "-O", "csv")[0])
+
+    def test_a_copy_whose_session_ends_leaves_everything_as_it_was(self):
+        for arguments in ((self.server, "other.db"), ("shop.db", self.server, "--force")):
+            with self.locked("GLDet"):
+                process = self.start("copy", *arguments)
+                self.wait_for_sessions("wait_event_type = 'Lock'")
+                self.sql("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = "
+                         f"'{self.database}' AND wait_event_type = 'Lock'")
+                self.assert_ends_without_a_file(process, "again when it is back")
+            self.assertEqual([], list(self.folder.glob("other.db*")))
+            self.assertEqual("12000", self.sql("SELECT count(*) FROM GLDet"))
 
     def test_waiting_for_a_lock_ends_by_an_interrupt(self):
         with self.locked("GLDet"):
