@@ -83,6 +83,8 @@ TEST(ExchangeFaultSweepTest, OfTheUnrealizedReportTellsEveryFailureAndShowsNoWro
                                      {"ReportFooter", {"txtGainGrandTotal"}}}},
                                    Unrealized);
     // 147 - 150 + 1,098 - 1,030 + 13.73 - 13.
+    EXPECT_THAT(right.Texts("gfAccountType", "txtGain"), ElementsAre("-3.00", "68.00", "0.73"));
+    EXPECT_THAT(right.Texts("gfCurrency", "txtGainTotal"), ElementsAre("-3.00", "68.73"));
     EXPECT_THAT(right.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre("65.73"));
 }
 

@@ -7,6 +7,7 @@ namespace varnel {
 namespace {
 
 using test::GifiRun;
+using test::kCurrentEarnings;
 using test::kRetainedEarnings;
 using test::kUnrealized;
 using test::Shown;
@@ -88,6 +89,20 @@ TEST(TrialAmountTest, OfGifiDependsOnTheOrderOfCodes) {
     EXPECT_THAT(GifiLines(run),
                 ElementsAre("1040 - Account 1040|15.56", "5900 - Account 5900|-0.56",
                             "1030 - Account 1030|123.45"));
+}
+
+TEST(TrialAmountTest, KeysLeadToTheAccountButFromEarnings) {
+    for (TrialRun run : {SummaryRun(), GifiRun()}) {
+        run.chart = {{1'010}, {kRetainedEarnings, 3}, {kCurrentEarnings, 3}, {kUnrealized, 5}};
+        for (const auto& account : run.chart) run.Post(account.id, "2025-03-01", "1");
+        std::vector<std::string> keys;
+        for (const auto& band : run().Of("Detail")) {
+            keys.push_back(band["txtDescr"].tag);
+            for (const char* name : {"txtAcctId", "txtDebit", "txtCredit", "txtAmount"})
+                EXPECT_TRUE(band.controls.count(name) == 0 || band[name].tag == keys.back());
+        }
+        EXPECT_THAT(keys, ElementsAre("1010", "", "", "GLUnrealized|5900"));
+    }
 }
 
 // The summary's own.
