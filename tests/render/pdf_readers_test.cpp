@@ -54,7 +54,9 @@ TEST(PdfReaders, HaveNothingToSay) {
         if (!HasTool(tool)) continue;
         EXPECT_EQ(RunTool(before + file.Path() + after).output, "") << tool;
     }
-    if (HasTool("qpdf")) EXPECT_EQ(RunTool("qpdf --check " + file.Path()).exit_code, 0);
+    if (HasTool("qpdf")) {
+        EXPECT_EQ(RunTool("qpdf --check " + file.Path()).exit_code, 0);
+    }
 }
 
 TEST(PdfReaders, FindEveryFontEmbeddedAsASubset) {
