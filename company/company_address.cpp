@@ -1,5 +1,6 @@
 #include "company/company_address.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 #include <utility>
@@ -114,9 +115,29 @@ class UrlReader {
     std::vector<ConnectionKeyword> keywords_{{"Driver", "PostgreSQL Unicode"}};
 };
 
+std::string_view Trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+constexpr std::string_view kConnectionWords[] = {
+    "Driver", "DSN",  "FileDSN",  "Server", "Servername", "Database", "UID",   "Username",
+    "PWD",    "Port", "Password", "Pass",   "host",       "dbname",   "pqopt", "user"};
+
+/// Keywords in any order; what looks like one is never taken for a file, whose name is printed.
+bool IsConnectionString(std::string_view text) {
+    const auto equals = text.find('=');
+    if (equals == std::string_view::npos) return false;
+    const auto name = Trimmed(text.substr(0, equals));
+    return std::ranges::any_of(kConnectionWords,
+                               [&](std::string_view word) { return SameName(name, word); });
+}
+
 bool HoldsPassword(const ConnectionKeyword& keyword) {
-    if (SameName(keyword.name, "PWD") || SameName(keyword.name, "Password")) return true;
-    return SameName(keyword.name, "pqopt") && keyword.value.find("password") != std::string::npos;
+    for (const std::string_view name : {"PWD", "Pass", "Password"})
+        if (SameName(keyword.name, name)) return true;
+    return keyword.value.find("password=") != std::string::npos;
 }
 
 std::string CheckedConnectionString(const std::string& text) {
@@ -127,14 +148,18 @@ std::string CheckedConnectionString(const std::string& text) {
 
 }  // namespace
 
-CompanyAddress ParseCompanyAddress(const std::string& text) {
+CompanyAddress ParseCompanyAddress(const std::string& given) {
+    const std::string text(Trimmed(given));
     for (const std::string_view scheme : {"postgresql://", "postgres://"})
         if (BeginsWith(text, scheme))
             return {text, drivers::JoinConnectionString(
                               UrlReader().Read(std::string_view(text).substr(scheme.size())))};
-    for (const std::string_view start : {"Driver=", "DSN=", "FileDSN="})
-        if (BeginsWith(text, start)) return {text, CheckedConnectionString(text)};
-    return {text, {}};
+    if (text.find("://") != std::string::npos)
+        Refuse(
+            "the address of the company begins with no scheme that is known; write "
+            "postgresql://user@host/database, an ODBC connection string or the name of a file");
+    if (IsConnectionString(text)) return {text, CheckedConnectionString(text)};
+    return {given, {}};
 }
 
 }  // namespace varnel::company

@@ -46,13 +46,21 @@ constexpr std::array kRequiredTables{
                 database_name + " is not a company database of this version: " + fault);
 }
 
+/// Not locked or forbidden: the table is not there (SQLite's words, PostgreSQL's state).
+bool IsMissing(const Error& error) {
+    return error.Description().find("no such table") != std::string::npos ||
+           error.Description().find("42P01") != std::string::npos;
+}
+
 std::shared_ptr<Recordset> NoRowsOf(CompanyDatabase& database, const std::string& table,
                                     const std::string& database_name) {
     try {
         return Query(database, "SELECT * FROM " + table + " WHERE 1 = 0");
     } catch (const Error& error) {
-        RaiseNotACompany(database_name,
-                         "table " + table + " cannot be read (" + error.Description() + ")");
+        const std::string fault =
+            "table " + table + " cannot be read (" + error.Description() + ")";
+        if (IsMissing(error)) RaiseNotACompany(database_name, fault);
+        throw Error(error_number::kDatabase, "Company", database_name + ": " + fault);
     }
 }
 

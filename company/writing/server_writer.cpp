@@ -92,6 +92,7 @@ class LiteralStatement final : public WritingStatement {
 
 ServerWriter::ServerWriter(const CompanyAddress& address, bool overwrite)
     : place_(address.text), connection_(address.odbc_connection, drivers::OdbcAccess::kWrite) {
+    Execute("SET standard_conforming_strings = on");  // Literals are written for that.
     if (!overwrite) RequireNoTables(address);
     if (overwrite) Execute(kServerRemovalSql);
     Execute(kServerPreludeSql);

@@ -70,13 +70,13 @@ std::string JoinConnectionString(const std::vector<ConnectionKeyword>& keywords)
     return text;
 }
 
-std::string WithReadingDefaults(std::string_view connection_string) {
-    static const ConnectionKeyword kDefaults[] = {{"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}};
+std::string WithReadingSettings(std::string_view connection_string) {
+    static const ConnectionKeyword kSettings[] = {{"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}};
     auto keywords = ParseConnectionString(connection_string);
-    for (const auto& setting : kDefaults) {
-        const bool given = std::ranges::any_of(
-            keywords, [&](const auto& keyword) { return SameName(keyword.name, setting.name); });
-        if (!given) keywords.push_back(setting);
+    for (const auto& setting : kSettings) {
+        std::erase_if(keywords,
+                      [&](const auto& given) { return SameName(given.name, setting.name); });
+        keywords.push_back(setting);
     }
     return JoinConnectionString(keywords);
 }

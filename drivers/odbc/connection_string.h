@@ -19,8 +19,9 @@ std::vector<ConnectionKeyword> ParseConnectionString(std::string_view text);
 /// The other way; values get braces where they need them.
 std::string JoinConnectionString(const std::vector<ConnectionKeyword>& keywords);
 
-/// The string with the settings that reading rests on (no cursors but our own, truth values as
-/// numbers) added where it says nothing of them.
-std::string WithReadingDefaults(std::string_view connection_string);
+/// The string with the settings that reading rests on: truth values as numbers, and none of the
+/// driver's own cursors, which it does not survive when the connection is lost. What the string
+/// says of them does not count.
+std::string WithReadingSettings(std::string_view connection_string);
 
 }  // namespace varnel::drivers

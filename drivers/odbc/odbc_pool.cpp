@@ -15,7 +15,7 @@ constexpr std::size_t kMostIdle = 4;
 std::unique_ptr<OdbcConnection> OdbcPool::Take(const std::string& connection_string) {
     const auto found = std::ranges::find(idle_, connection_string, &Idle::connection_string);
     if (found == idle_.end())
-        return std::make_unique<OdbcConnection>(WithReadingDefaults(connection_string),
+        return std::make_unique<OdbcConnection>(WithReadingSettings(connection_string),
                                                 OdbcAccess::kRead);
     auto connection = std::move(found->connection);
     idle_.erase(found);

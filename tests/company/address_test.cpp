@@ -27,13 +27,27 @@ TEST(CompanyAddress, OfAServerBecomesAConnectionString) {
 }
 
 TEST(CompanyAddress, WithAPasswordIsRefusedUnseen) {
-    for (const char* text : {"postgresql://ann:tulip@db/shop", "postgresql://db/x?password=tulip",
-                             "Driver={X};pwd=tulip", "DSN=x;PASSWORD={tulip}"}) {
+    for (const char* text :
+         {"postgresql://ann:tulip@db/shop", "postgresql://db/x?password=tulip",
+          "Driver={X};pwd=tulip", "DSN=x;PASSWORD={tulip}", "UID=u;PWD=tulip;Driver={X}",
+          " Driver ={X};PWD=tulip", "host=db password=tulip"}) {
         try {
             ParseCompanyAddress(text);
             ADD_FAILURE() << text;
         } catch (const Error& error) {
             EXPECT_THAT(error.what(), testing::HasSubstr("PGPASSFILE"));
+            EXPECT_THAT(error.what(), testing::Not(testing::HasSubstr("tulip")));
+        }
+    }
+}
+
+TEST(CompanyAddress, OfAnotherSchemeIsRefusedUnseen) {
+    for (const char* text : {"mysql://u:tulip@db/shop", "jdbc:postgresql://u:tulip@db/shop"}) {
+        try {
+            ParseCompanyAddress(text);
+            ADD_FAILURE() << text;
+        } catch (const Error& error) {
+            EXPECT_THAT(error.what(), testing::HasSubstr("postgresql://user@host/database"));
             EXPECT_THAT(error.what(), testing::Not(testing::HasSubstr("tulip")));
         }
     }
