@@ -51,6 +51,7 @@ int Copy(const CopyRequest& request, Console& console) {
         if (console.ProgressIsDue())
             console.ShowProgress(table + ": " + GroupedCount(rows) + " rows");
     };
+    options.unfinished_file = SetUnfinishedFile;
     const auto tables = company::CopyCompany(request.from, request.to, options);
     console.EraseProgress();
     Print(tables);

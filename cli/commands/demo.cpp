@@ -37,6 +37,7 @@ int MakeDemo(const DemoRequest& request, Console& console) {
             console.ShowProgress(GroupedCount(done) + " of " + GroupedCount(lines) + " lines");
         return StopSignal() == 0;
     };
+    options.unfinished_file = SetUnfinishedFile;
     company::CreateDemoCompany(request.company, options);
     console.EraseProgress();
     const std::string quote =

@@ -35,7 +35,8 @@ void Fill(demo::Database& database, const DemoOptions& options) {
 
 void CreateDemoCompany(const std::string& address, const DemoOptions& options) {
     CheckLines(options);
-    const auto database = NewCompany(ParseCompanyAddress(address), options.overwrite);
+    const auto database =
+        NewCompany(ParseCompanyAddress(address), options.overwrite, options.unfinished_file);
     Fill(*database, options);
     database->Finish();
 }

@@ -4,6 +4,8 @@
 #include <functional>
 #include <string>
 
+#include "company/writing/unfinished_file.h"
+
 namespace varnel::company {
 
 struct DemoOptions {
@@ -16,6 +18,8 @@ struct DemoOptions {
     bool overwrite = false;
     /// Hears now and then how many of the lines are written; false stops the work with an error.
     std::function<bool(std::int64_t done, std::int64_t lines)> progress;
+    /// Hears which file is unfinished.
+    UnfinishedFileListener unfinished_file = {};
 };
 
 inline constexpr std::int64_t kDemoLinesMin = 1'000;

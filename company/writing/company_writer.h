@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "company/company_address.h"
+#include "company/writing/unfinished_file.h"
 #include "host/currency.h"
 #include "host/date.h"
 #include "host/rate.h"
@@ -44,6 +45,7 @@ class CompanyWriter {
 /// Makes the tables of a new company, still empty. Raises an error when there is something at the
 /// address already and `overwrite` is not given; on a server, tables of other programs stay in
 /// either case.
-std::unique_ptr<CompanyWriter> NewCompany(const CompanyAddress& address, bool overwrite);
+std::unique_ptr<CompanyWriter> NewCompany(const CompanyAddress& address, bool overwrite,
+                                          UnfinishedFileListener listener = {});
 
 }  // namespace varnel::company

@@ -148,7 +148,7 @@ std::vector<CopiedTable> CopyCompany(const std::string& from, const std::string&
     RequireTwoPlaces(source, target);
     const auto database = OpenDatabase(source, {}, options.cancelled);
     RequireCompanyTables(*database, from);
-    const auto writer = NewCompany(target, options.overwrite);
+    const auto writer = NewCompany(target, options.overwrite, options.unfinished_file);
     std::vector<CopiedTable> tables;
     for (const auto& table : SchemaTables())
         tables.push_back(TableCopy(*database, *writer, table, options).Run());

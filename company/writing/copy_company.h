@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "company/writing/unfinished_file.h"
 #include "host/currency.h"
 
 namespace varnel::company {
@@ -16,6 +17,8 @@ struct CopyOptions {
     std::function<void(const std::string& table, std::int64_t rows)> progress;
     /// Asked often: true stops the work with an error.
     std::function<bool()> cancelled;
+    /// Hears which file is unfinished.
+    UnfinishedFileListener unfinished_file = {};
 };
 
 /// What the amounts of a column come to: debits are positive, credits negative.

@@ -3,7 +3,7 @@
 #include <sqlite3.h>
 
 #include <string>
-#include <system_error>
+#include <utility>
 
 #include "company/schema/schema.h"
 #include "host/error.h"
@@ -11,26 +11,6 @@
 namespace varnel::company {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-[[noreturn]] void Refuse(const std::string& description) {
-    throw Error(error_number::kInvalidArgument, "Company", description);
-}
-
-/// The file, when it may be made.
-const fs::path& Checked(const fs::path& file, bool overwrite) {
-    std::error_code ignored;
-    const fs::path folder = file.parent_path();
-    if (!folder.empty() && !fs::is_directory(folder, ignored))
-        Refuse("cannot create " + file.string() + ": there is no folder " + folder.string() +
-               "; create it first");
-    if (fs::is_directory(file, ignored))
-        Refuse("cannot create " + file.string() + ": it is a folder; add the name of a file");
-    if (!overwrite && fs::exists(file, ignored))
-        Refuse(file.string() + " exists already; choose another name or ask to overwrite it");
-    return file;
-}
 
 struct Finalize {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
@@ -83,26 +63,11 @@ class SqliteWritingStatement final : public WritingStatement {
 
 }  // namespace
 
-UnfinishedFile::UnfinishedFile(const fs::path& file) : final_(file), path_(file) {
-    path_ += ".unfinished";
-    std::error_code ignored;
-    fs::remove(path_, ignored);
-}
-
-UnfinishedFile::~UnfinishedFile() {
-    std::error_code ignored;
-    fs::remove(path_, ignored);
-}
-
-void UnfinishedFile::Keep() const {
-    std::error_code failure;
-    fs::rename(path_, final_, failure);
-    if (failure) Refuse("cannot create " + final_.string() + ": " + failure.message());
-}
-
 void FileWriter::Close::operator()(sqlite3* handle) const { sqlite3_close(handle); }
 
-FileWriter::FileWriter(const fs::path& file, bool overwrite) : file_(Checked(file, overwrite)) {
+FileWriter::FileWriter(const std::filesystem::path& file, bool overwrite,
+                       UnfinishedFileListener listener)
+    : file_(file, overwrite, std::move(listener)) {
     Open();
     // The file is thrown away on any failure, so a rollback journal would protect nothing.
     Execute(
@@ -142,7 +107,7 @@ std::vector<std::int64_t> FileWriter::Numbers(const std::string& query) {
 void FileWriter::Fail() const {
     const std::string reason = handle_ ? sqlite3_errmsg(handle_.get()) : "out of memory";
     throw Error(error_number::kDatabase, "SQLite",
-                "cannot write " + file_.Path().string() + ": " + reason +
+                "cannot write " + file_.Name().string() + ": " + reason +
                     " (check the free space and the permissions of its folder)");
 }
 
