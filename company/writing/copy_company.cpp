@@ -1,6 +1,11 @@
 #include "company/writing/copy_company.h"
 
+#include <unicode/ustring.h>
+
+#include <cstdint>
 #include <filesystem>
+#include <memory>
+#include <string_view>
 
 #include "company/company_address.h"
 #include "company/open_database.h"
@@ -27,8 +32,32 @@ void RequireTwoPlaces(const CompanyAddress& from, const CompanyAddress& to) {
                     to.text + " is the company that is to be copied; choose another place");
 }
 
+enum class TextRule { kAnyBytes, kUtf8 };
+
+std::string_view CheckedText(std::string_view text, TextRule rule) {
+    if (rule == TextRule::kAnyBytes) return text;
+    UErrorCode status = U_ZERO_ERROR;
+    u_strFromUTF8(nullptr, 0, nullptr, text.data(), static_cast<std::int32_t>(text.size()),
+                  &status);
+    if (status == U_INVALID_CHAR_FOUND)
+        throw Error(error_number::kInvalidArgument, "Company",
+                    "the text is not UTF-8, and a server takes nothing else; correct it first");
+    if (text.find('\0') != std::string_view::npos)
+        throw Error(error_number::kInvalidArgument, "Company",
+                    "the text holds a zero character, which a server cannot; correct it first");
+    return text;
+}
+
+/// Holds a file as it is now, for all queries until it goes: a row set that is not read to its end
+/// keeps the transaction of the connection that they share.
+std::shared_ptr<Recordset> Snapshot(CompanyDatabase& database, const CompanyAddress& address) {
+    if (address.IsServer()) return nullptr;
+    return Query(database, "SELECT name FROM sqlite_schema");
+}
+
 /// Puts one cell of a row into the same column of an insert.
-void CopyCell(const Row& row, std::size_t index, SchemaType type, WritingStatement& insert) {
+void CopyCell(const Row& row, std::size_t index, SchemaType type, TextRule texts,
+              WritingStatement& insert) {
     const Column column{static_cast<std::uint32_t>(index)};
     const int position = static_cast<int>(index) + 1;
     if (row.IsNull(column)) return insert.BindNull(position);
@@ -42,16 +71,16 @@ void CopyCell(const Row& row, std::size_t index, SchemaType type, WritingStateme
         case SchemaType::kDate:
             return insert.Bind(position, row.Day(column));
         case SchemaType::kText:
-            return insert.Bind(position, row.Text(column));
+            return insert.Bind(position, CheckedText(row.Text(column), texts));
     }
 }
 
 /// One table on its way from a database to the one that is being made.
 class TableCopy {
   public:
-    TableCopy(CompanyDatabase& from, CompanyWriter& to, const SchemaTable& table,
+    TableCopy(CompanyDatabase& from, CompanyWriter& to, const SchemaTable& table, TextRule texts,
               const CopyOptions& options)
-        : from_(from), to_(to), table_(table), options_(options) {}
+        : from_(from), to_(to), table_(table), texts_(texts), options_(options) {}
 
     CopiedTable Run() {
         const auto rows = Query(from_, "SELECT " + table_.ColumnList() + " FROM " + table_.name +
@@ -77,7 +106,7 @@ class TableCopy {
     void CopyRow(const Row& row, WritingStatement& insert) const {
         for (std::size_t i = 0; i < table_.columns.size(); ++i) {
             try {
-                CopyCell(row, i, table_.columns[i].type, insert);
+                CopyCell(row, i, table_.columns[i].type, texts_, insert);
             } catch (const Error& error) {
                 FailAt(row, i, error);
             }
@@ -136,6 +165,7 @@ class TableCopy {
     CompanyDatabase& from_;
     CompanyWriter& to_;
     const SchemaTable& table_;
+    TextRule texts_;
     const CopyOptions& options_;
 };
 
@@ -147,11 +177,13 @@ std::vector<CopiedTable> CopyCompany(const std::string& from, const std::string&
     const auto target = ParseCompanyAddress(to);
     RequireTwoPlaces(source, target);
     const auto database = OpenDatabase(source, {}, options.cancelled);
+    const auto snapshot = Snapshot(*database, source);
     RequireCompanyTables(*database, from);
     const auto writer = NewCompany(target, options.overwrite, options.unfinished_file);
+    const auto texts = target.IsServer() ? TextRule::kUtf8 : TextRule::kAnyBytes;
     std::vector<CopiedTable> tables;
     for (const auto& table : SchemaTables())
-        tables.push_back(TableCopy(*database, *writer, table, options).Run());
+        tables.push_back(TableCopy(*database, *writer, table, texts, options).Run());
     writer->Finish();
     return tables;
 }

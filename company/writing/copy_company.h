@@ -38,7 +38,12 @@ struct CopiedTable {
 /// figures of every table (control_figures.h) were asked of both databases and found the same;
 /// otherwise everything stays as it was. What prevents it is an `Error` that names the place.
 ///
-/// Tables are read one after the other: whoever posts meanwhile is found out by the figures.
+/// A file is read as it was at the start, whoever posts meanwhile. On a server each table is read
+/// for itself, one after the other: the figures find rows that come or go while their own table is
+/// read, but not entries posted between two tables. Nobody should post then.
+///
+/// Texts that are not UTF-8, or hold a zero, go to another file as they are; for a server they are
+/// an error, as it cannot hold them.
 std::vector<CopiedTable> CopyCompany(const std::string& from, const std::string& to,
                                      const CopyOptions& options = {});
 

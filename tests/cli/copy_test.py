@@ -98,6 +98,22 @@ class Copy(ServerTest):
         self.assert_refused(FAILED, "cannot copy DetAmnt of the row of GLDet whose InGLDetId is 7",
                             "copy", "changed.db", "other.db")
 
+    def test_a_text_that_a_server_cannot_hold_is_named(self):
+        for text, message in (("x'e974e9'", "not UTF-8"), ("x'eda080'", "not UTF-8"),
+                              ("x'410042'", "zero character")):
+            with self.subTest(text=text):
+                self.changed_company("INSERT INTO ProjInfo VALUES (90, 'A', 'fine'); "
+                                     f"INSERT INTO ProjInfo VALUES (91, 'B', CAST({text} AS TEXT))")
+                place = "cannot copy Descr of the row of ProjInfo whose InProjId is 91"
+                self.assert_refused(FAILED, place, "copy", "changed.db", self.server)
+                self.assert_refused(FAILED, message, "copy", "changed.db", self.server)
+                self.copy("changed.db", "other.db", "--force")
+                with sqlite3.connect(self.folder / "other.db") as connection:
+                    self.assertEqual([(1,)], connection.execute(
+                        "SELECT count(*) FROM ProjInfo "
+                        f"WHERE InProjId = 91 AND CAST(Descr AS BLOB) = {text}").fetchall())
+        self.assertEqual("0", self.tables())
+
     def test_a_copy_needs_a_company_and_another_place(self):
         for code, message, arguments in (
                 (USAGE, "say which company", ["shop.db"]),

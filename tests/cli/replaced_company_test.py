@@ -100,13 +100,35 @@ class ReplacedCompany(VarnelTest):
         self.assertEqual(0, self.run_varnel("copy", "shop.db", "other.db")[0])
         self.assertEqual("precious", mine.read_text())
 
-    def test_a_second_signal_ends_it_at_once_without_the_unfinished_file(self):
-        process = self.start("demo", "big.db", "--lines", "3000000")
+    def test_a_copy_holds_a_file_as_it_was_at_the_start(self):
+        shutil.copy(self.folder / "shop.db", self.folder / "live.db")
+        connection = sqlite3.connect(self.folder / "live.db", isolation_level=None)
+        connection.execute("PRAGMA journal_mode = WAL")
+        process = self.stopped_in_its_work("copy", "live.db", "other.db")
+        for table, in connection.execute("SELECT name FROM sqlite_schema WHERE type = 'table' "
+                                         "AND name NOT LIKE 'sqlite%'").fetchall():
+            connection.execute(f"DELETE FROM {table}")
+        process.send_signal(signal.SIGCONT)
+        process.communicate(timeout=30)
+        self.assertEqual(0, process.returncode)
+        self.assert_is_shop("other.db")
+        connection.close()
+
+    def stopped_in_its_work(self, *arguments):
+        """The program, stopped when its unfinished file is there."""
+        before = self.names()
+        process = self.start(*arguments)
         until = time.monotonic() + 20
-        while len(self.names()) == 1 and time.monotonic() < until:
-            time.sleep(0.01)
-        self.assertEqual(2, len(self.names()))
-        process.send_signal(signal.SIGSTOP)  # Both come before it can clean up by itself.
+        while (not [name for name in self.names() if name.startswith(".varnel-")]
+               and time.monotonic() < until):
+            pass
+        process.send_signal(signal.SIGSTOP)
+        self.assertLess(len(before), len(self.names()))
+        return process
+
+    def test_a_second_signal_ends_it_at_once_without_the_unfinished_file(self):
+        process = self.stopped_in_its_work("demo", "big.db", "--lines", "3000000")
+        # Both come before it can clean up by itself.
         process.send_signal(signal.SIGINT)
         process.send_signal(signal.SIGTERM)
         process.send_signal(signal.SIGCONT)
