@@ -11,10 +11,15 @@ std::atomic<std::size_t> largest = 0;
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Standard algorithms take their working room by this one.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     ++count;
     if (size > largest) largest = size;
-    if (void* memory = std::malloc(size)) return memory;
+    return std::malloc(size);
+}
+
+void* operator new(std::size_t size) {
+    if (void* memory = operator new(size, std::nothrow)) return memory;
     throw std::bad_alloc();
 }
 
