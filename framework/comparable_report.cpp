@@ -8,8 +8,6 @@ namespace varnel::framework {
 
 namespace {
 
-constexpr std::string_view kPurgeIncluded = "PurgeIncl";
-
 constexpr Member<ComparableReport> kMembers[] = {
     {"IComparableReport_FullName",
      [](ComparableReport& r) -> Variant { return r.IComparableReport_FullName(); }},

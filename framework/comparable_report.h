@@ -13,6 +13,9 @@
 
 namespace varnel::framework {
 
+/// The host's flag that every row carries, and the setting that it is read from.
+inline constexpr std::string_view kPurgeIncluded = "PurgeIncl";
+
 /// The values of one row for a comparison, in the order in which they are added. Storage is used
 /// again from row to row.
 class ComparableRow {

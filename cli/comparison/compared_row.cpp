@@ -1,12 +1,12 @@
 #include "cli/comparison/compared_row.h"
 
+#include "framework/comparable_report.h"
+
 namespace varnel::cli {
 
 namespace {
 
 using Kind = ComparedValue::Kind;
-
-constexpr std::string_view kFlagOfTheRun = "PurgeIncl";
 
 void Read(const Variant& read, ComparedValue& value) {
     if (read.IsEmpty()) return;
@@ -36,7 +36,7 @@ ComparedRow::Column& ComparedRow::Add(std::string_view name) {
 void ComparedRow::Take(std::span<const ComparableReportSink::NamedValue> columns) {
     Clear();
     for (const auto& [name, value] : columns)
-        if (name != kFlagOfTheRun) Read(value, Add(name).value);
+        if (name != framework::kPurgeIncluded) Read(value, Add(name).value);
 }
 
 const ComparedValue& ComparedRow::At(std::string_view name) const {

@@ -3,10 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "framework/debit_credit.h"
 #include "framework/gl_config.h"
+#include "reports/trial/account_lines.h"
 #include "reports/trial/account_report.h"
-#include "reports/trial/balance_controls.h"
 
 namespace varnel::reports {
 
@@ -23,32 +22,21 @@ class dsrGeneralLedgerByAccount final : public AccountReport, public IReportConf
     void ActiveReport_ReportStart() override;
 
   private:
-    struct LineColumns {
-        Column id, number, date, amount, foreign, currency_id, source, source_key, reference,
-            description, remarks, group_type;
-        void Resolve(const Columns& columns);
-    };
     struct AccountState {
         std::string key;
         framework::KnownSum forward;
-        framework::DebitCredit totals;
-        framework::KnownSum balance;  // The running one.
         bool left_out = false;
     };
 
     std::string BuildStatement();
-    void PlaceColumns();
     void ShowFooter(std::optional<Date> adjustments_from);
-    bool IsLine() const { return !CurrentRow().IsNull(columns_.id); }
+    bool IsLine() const { return lines_.IsLine(CurrentRow()); }
     void BringForward();
     bool IsLeftOut();
     Currency AddLine();
-    void ShowTexts();
+    void ShowKey();
     void ShowRemarks();
     void ShowForeignAmount();
-    void ShowBalance(const BalanceControls& controls, const framework::KnownSum& balance) {
-        controls.Show(App().GetFormats(), balance, text_);
-    }
 
     void PageHeader_Format();
     void ghAccount_Format();
@@ -57,11 +45,11 @@ class dsrGeneralLedgerByAccount final : public AccountReport, public IReportConf
     void gfAccount_Format();
     void ReportFooter_Format();
 
-    LineColumns columns_;
+    AccountLines lines_{GetSurface(), "txtForeign", "lblForeignCap"};
+    AccountSums sums_;
+    Column group_type_;
     framework::LedgerOptions options_;
     AccountState current_;
-    framework::DebitCredit totals_;
-    framework::KnownSum balance_total_;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.
 
@@ -71,25 +59,10 @@ class dsrGeneralLedgerByAccount final : public AccountReport, public IReportConf
     Section& Detail = SectionAt("Detail");
     Section& gfAccount = SectionAt("gfAccount");
     BalanceControls forward_{At("txtBalanceForward"), At("lblBalanceForwardType")};
-    BalanceControls running_{At("txtBalance"), At("lblBalanceType")};
-    BalanceControls account_balance_{At("txtBalanceTotal"), At("lblBalanceTotalType")};
-    BalanceControls grand_balance_{At("txtBalanceGrandTotal"), At("lblBalanceGrandTotalType")};
     Control& txtGLAcctId = At("txtGLAcctId");
     Control& txtDescr = At("txtDescr");
-    Control& txtDetDate = At("txtDetDate");
-    Control& txtSeqNo = At("txtSeqNo");
-    Control& txtSource = At("txtSource");
     Control& txtDetRef = At("txtDetRef");
-    Control& txtDetDesc = At("txtDetDesc");
     Control& txtRemarks = At("txtRemarks");
-    Control& txtForeign = At("txtForeign");
-    Control& txtCurrencyCode = At("txtCurrencyCode");
-    Control& txtDebit = At("txtDebit");
-    Control& txtCredit = At("txtCredit");
-    Control& txtDebitTotal = At("txtDebitTotal");
-    Control& txtCreditTotal = At("txtCreditTotal");
-    Control& txtDebitGrandTotal = At("txtDebitGrandTotal");
-    Control& txtCreditGrandTotal = At("txtCreditGrandTotal");
 };
 
 }  // namespace varnel::reports

@@ -3,6 +3,7 @@
 #include "framework/item_adjustment_note.h"
 #include "framework/layout_parts.h"
 #include "framework/standard_header.h"
+#include "reports/trial/account_lines_layout.h"
 
 namespace varnel::reports {
 
@@ -29,6 +30,7 @@ constexpr auto kAccountName = ColumnPlace::Left(1'540, 4'880, Stretch::kWiden);
 /// What stands before an amount: it ends where the balance, or the debit, begins.
 constexpr ColumnPlace kBeforeBalance{6'480, 2'580, Align::kRight, Stretch::kShift};
 constexpr ColumnPlace kBeforeDebit{2'120, 4'300, Align::kRight, Stretch::kWiden};
+constexpr AmountColumns kAmounts{kDebit, kCredit, kBalance, kType, kBeforeDebit};
 constexpr Twips kHeaderTop = 70;
 
 ControlLayout OverBreak(ControlLayout control, Carry carry) {
@@ -84,15 +86,17 @@ SectionLayout Forward() {
 }
 
 SectionLayout Lines() {
+    const auto reference = ColumnText("txtDetRef", kReference, 0, kBody, "reference");
+    const auto description = ColumnText("txtDetDesc", kDescription, 0, kBody, "description");
+    const auto remarks = ColumnText("txtRemarks", kRemarks, kLineHeight, kRemark, "remarks");
     return {.name = "Detail",
             .kind = SectionKind::kDetail,
             .height = kDetailHeight + kLineHeight,
             .controls = {
                 ColumnText("txtDetDate", kDate, 0, kBody, "date"),
                 ColumnText("txtSeqNo", kSeqNo, 0, kBody, "entry"),
-                ColumnText("txtSource", kSource, 0, kBody, "source"),
-                Growing(ColumnText("txtDetRef", kReference, 0, kBody, "reference")),
-                Growing(ColumnText("txtDetDesc", kDescription, 0, kBody, "description")),
+                Bound(ColumnText("txtSource", kSource, 0, kBody, "source"), "Source"),
+                Growing(Bound(reference, "DetRef")), Growing(Bound(description, "DetDesc")),
                 Hidden(ColumnText("txtForeign", kForeign, 0, kQuiet, "foreign")),
                 ExportedText("txtCurrencyCode", "currency"),
                 ColumnText("txtDebit", kDebit, 0, kBody, "debit"),
@@ -100,21 +104,7 @@ SectionLayout Lines() {
                 OverBreak(ColumnText("txtBalance", kBalance, 0, kBody, "balance"), Carry::kGives),
                 OverBreak(ColumnText("lblBalanceType", kType, 0, kQuiet, "balance_type"),
                           Carry::kGives),
-                Growing(ColumnText("txtRemarks", kRemarks, kLineHeight, kRemark, "remarks"))}};
-}
-
-SectionLayout AccountFooter() {
-    return {
-        .name = "gfAccount",
-        .kind = SectionKind::kGroupFooter,
-        .height = kGroupHeight,
-        .controls = {TotalRule("linDebitTotal", kDebit, 0), TotalRule("linCreditTotal", kCredit, 0),
-                     TotalRule("linBalanceTotal", kBalance, 0),
-                     ColumnLabel("lblSubTotal", kBeforeDebit, 25, kBodyBold, 2710),
-                     ColumnText("txtDebitTotal", kDebit, 25, kBodyBold),
-                     ColumnText("txtCreditTotal", kCredit, 25, kBodyBold),
-                     ColumnText("txtBalanceTotal", kBalance, 25, kBodyBold),
-                     ColumnText("lblBalanceTotalType", kType, 25, kQuiet)}};
+                Growing(Bound(remarks, "Remarks"))}};
 }
 
 SectionLayout Footer() {
@@ -130,19 +120,10 @@ SectionLayout Footer() {
 
 SectionLayout Totals() {
     constexpr Twips kTop = 100;
-    const auto rule = [](std::string_view name, const ColumnPlace& place) {
-        return TotalRule(name, place, kTop - 40, kThick);
-    };
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
             .height = kTop + 360,
-            .controls = {rule("linDebitGrandTotal", kDebit), rule("linCreditGrandTotal", kCredit),
-                         rule("linBalanceGrandTotal", kBalance),
-                         ColumnLabel("lblGrTotal", kBeforeDebit, kTop, kBodyBold, 1641),
-                         ColumnText("txtDebitGrandTotal", kDebit, kTop, kBodyBold),
-                         ColumnText("txtCreditGrandTotal", kCredit, kTop, kBodyBold),
-                         ColumnText("txtBalanceGrandTotal", kBalance, kTop, kBodyBold),
-                         ColumnText("lblBalanceGrandTotalType", kType, kTop, kQuiet)}};
+            .controls = GrandTotals(kAmounts, kTop)};
 }
 
 }  // namespace
@@ -155,7 +136,7 @@ const Layout& GeneralLedgerByAccountLayout() {
                      Forward(),
                      Lines(),
                      {.name = "gfForward", .kind = SectionKind::kGroupFooter},
-                     AccountFooter(),
+                     AccountSubtotal(kAmounts),
                      Footer(),
                      Totals()}};
     return layout;

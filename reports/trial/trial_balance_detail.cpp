@@ -21,7 +21,6 @@ using namespace framework;
 namespace {
 
 constexpr std::int16_t kAdjustment = 8571;
-constexpr Twips kGap = 60;
 
 constexpr std::string_view kHead =
     "SELECT SubQuery.*, "
@@ -80,17 +79,6 @@ dsrTrialBalanceDetail::dsrTrialBalanceDetail()
     Handle("ReportFooter_Format", &dsrTrialBalanceDetail::ReportFooter_Format);
 }
 
-void dsrTrialBalanceDetail::LineColumns::Resolve(const Columns& columns) {
-    id = columns.At("InGLDetId");
-    number = columns.At("SeqNo");
-    date = columns.At("DetDate");
-    amount = columns.At("DetAmnt");
-    foreign = columns.At("ForeignAmnt");
-    currency_id = columns.At("GLDetExCurrencyId");
-    source = columns.At("Source");
-    source_key = columns.At("ExSrcKeyVal");
-}
-
 void dsrTrialBalanceDetail::IReportConfig_ShowConfigurationScreen() {
     Guard("IReportConfig_ShowConfigurationScreen", [&] {
         Mark(), include_zero_balances_ = AskIncludeZeroBalance(App(), include_zero_balances_);
@@ -101,22 +89,21 @@ void dsrTrialBalanceDetail::IReportConfig_ShowConfigurationScreen() {
 void dsrTrialBalanceDetail::ActiveReport_ReportStart() {
     Guard("SetComparableAccoutGroup", [&] { Mark(), StartComparing(App()); });
     Guard("ActiveReport_ReportStart", [&] {
-        totals_.Lose();
-        balance_total_.Lose();
+        sums_.Lose();
         foreign_used_ = false;
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         Mark(), foreign_used_ = GetCurrencyInfo().CieIsForeignCurrencyUsed();
-        PlaceColumns();
+        lines_.PlaceDescription(DisplayForeignCurrency(),
+                                DisplayForeignCurrency() && foreign_used_);
         const std::string statement = BuildStatement();
         StartAmounts(ForwardPeriod(selection_.project_ids));
         std::vector<Variant> parameters = {DateFrom(), DateTo()};
         if (selection_.single_account != 0) parameters.emplace_back(selection_.single_account);
         auto rows = (Mark(), RunQuery(App(), statement, parameters));
-        Mark(), columns_.Resolve(rows->GetColumns());
+        Mark(), lines_.Resolve(rows->GetColumns());
         Mark(), Amounts().Resolve(rows->GetColumns());
         Data().Attach(std::move(rows));
-        totals_ = {};
-        balance_total_ = {};
+        sums_.Begin();
         Mark(), At(kPeriodLabel).SetText(TrialPeriodCaption(App(), DateFrom(), DateTo()));
         const CustomCriteria accounts{ResolvesAccounts() ? Criteria().criteria : "", {}};
         Mark(),
@@ -152,30 +139,12 @@ std::string dsrTrialBalanceDetail::BuildStatement() {
     return statement + where + std::string(kOrder);
 }
 
-void dsrTrialBalanceDetail::PlaceColumns() {
-    const bool foreign = DisplayForeignCurrency();
-    At("lblCurrencyCap").SetVisible(foreign && foreign_used_);
-    const Twips right = (foreign ? txtCurrency : txtDebit).Place().left - kGap;
-    for (Control* control : {&txtDetDesc, &At("lblDescrCap")})
-        control->SetWidth(right - control->Place().left);
-}
-
 Currency dsrTrialBalanceDetail::GetAccountBalanceForSpecialAccounts(const TrialAccount& account) {
     return Amounts().BalanceOf(account);
 }
 
 void dsrTrialBalanceDetail::ShowBalance(const BalanceControls& controls, const KnownSum& balance) {
     controls.Show(App().GetFormats(), balance, text_);
-}
-
-void dsrTrialBalanceDetail::AddToBalance(Currency amount) {
-    current_.balance.Add(amount);
-    balance_total_.Add(amount);
-}
-
-void dsrTrialBalanceDetail::LoseBalance() {
-    current_.balance.Lose();
-    balance_total_.Lose();
 }
 
 // The unrealized account takes besides what revaluation has changed so far.
@@ -186,11 +155,11 @@ dsrTrialBalanceDetail::Forward dsrTrialBalanceDetail::BringForward() try {
     Mark(), forward.balance = GetAccountBalanceForSpecialAccounts(current_.account);
     if (Amounts().IsUnrealized(current_.account))
         Mark(), forward.unrealized = Amounts().Unrealized();
-    AddToBalance(forward.balance);
-    AddToBalance(forward.unrealized);
+    sums_.BringForward(forward.balance);
+    sums_.BringForward(forward.unrealized);
     return forward;
 } catch (...) {
-    LoseBalance();
+    sums_.LoseForward();
     throw;
 }
 
@@ -212,6 +181,7 @@ void dsrTrialBalanceDetail::ShowAccountKey() {
 void dsrTrialBalanceDetail::ghAccount_Format() {
     if (EndOfData()) return;
     current_ = {};
+    sums_.BeginAccount();
     forward_.Clear();
     ShowAccountKey();
     ShowUnrealized({});
@@ -250,19 +220,19 @@ void dsrTrialBalanceDetail::AddComparableAccountRow(std::optional<Currency> amou
         if (!InComparableGroup()) AddComparableAccoutGroup();
         const Row& line = CurrentRow();
         auto& row = NewComparableRow();
-        Mark(), row.Add("entry", line.Integer(columns_.number));
+        Mark(), row.Add("entry", line.Integer(lines_.At().number));
         row.Add("source", txtSource.Text());
-        Mark(), row.Add("date", line.Day(columns_.date));
+        Mark(), row.Add("date", line.Day(lines_.At().date));
         row.Add("description", txtDetDesc.Text());
         if (IsInForeignCurrency(LineCurrency())) {
-            Mark(), row.Add("foreign", line.Amount(columns_.foreign));
+            Mark(), row.Add("foreign", line.Amount(lines_.At().foreign));
             Mark(), row.Add("currency", CurrencyCode(LineCurrency()));
         }
         if (amount)
             row.AddOnItsSide(*amount);
         else
             row.Add("amount", KnownSum::Unknown());
-        Mark(), AddComparableRow(std::to_string(line.Integer(columns_.id)));
+        Mark(), AddComparableRow(std::to_string(line.Integer(lines_.At().id)));
     });
 }
 
@@ -271,15 +241,15 @@ void dsrTrialBalanceDetail::EndComparableAccount() {
 }
 
 std::int32_t dsrTrialBalanceDetail::LineCurrency() const {
-    const auto currency = (Mark(), CurrentRow().Integer(columns_.currency_id));
+    const auto currency = (Mark(), CurrentRow().Integer(lines_.At().currency_id));
     return currency == 0 ? Amounts().HomeCurrencyId() : currency;
 }
 
 Currency dsrTrialBalanceDetail::LineAmount(std::int32_t currency_id) {
     const Row& row = CurrentRow();
-    const Currency booked = (Mark(), row.Amount(columns_.amount));
+    const Currency booked = (Mark(), row.Amount(lines_.At().amount));
     if (!Amounts().Revalues(currency_id)) return booked;
-    const Currency foreign = (Mark(), row.Amount(columns_.foreign));
+    const Currency foreign = (Mark(), row.Amount(lines_.At().foreign));
     return Mark(),
            Amounts().Revalue(
                {.currency_id = currency_id, .booked_rate = {}, .foreign = foreign, .home = booked});
@@ -289,14 +259,12 @@ Currency dsrTrialBalanceDetail::LineAmount(std::int32_t currency_id) {
 // again.
 std::optional<Currency> dsrTrialBalanceDetail::AddLine() try {
     const std::int32_t currency_id = LineCurrency();
-    if (Amounts().Revalues(currency_id) && !current_.balance.Known()) {
+    if (Amounts().Revalues(currency_id) && !sums_.Balance().Known()) {
         LoseLine();
         return std::nullopt;
     }
     const Currency amount = LineAmount(currency_id);
-    current_.totals.Add(amount);
-    totals_.Add(amount);
-    AddToBalance(amount);
+    sums_.Add(amount);
     return amount;
 } catch (...) {
     LoseLine();
@@ -305,9 +273,7 @@ std::optional<Currency> dsrTrialBalanceDetail::AddLine() try {
 
 void dsrTrialBalanceDetail::LoseLine() {
     if (IExchangeRates_Reevaluate()) Amounts().LoseDifference();
-    current_.totals.Lose();
-    totals_.Lose();
-    LoseBalance();
+    sums_.Lose();
     if (Compares()) AddComparableAccountRow(std::nullopt);
 }
 
@@ -322,61 +288,36 @@ const std::string& dsrTrialBalanceDetail::CurrencyCode(std::int32_t currency_id)
 void dsrTrialBalanceDetail::ShowForeignAmount() {
     const std::int32_t currency_id = LineCurrency();
     if (!IsInForeignCurrency(currency_id)) return;
-    const Currency foreign = (Mark(), CurrentRow().Amount(columns_.foreign));
     const std::string& code = (Mark(), CurrencyCode(currency_id));
-    text_.clear();
-    Mark(), App().GetFormats().AppendAmount(foreign, text_);
-    text_ += ' ';
-    text_ += code;
-    txtCurrency.SetValue(foreign, text_);
-    txtCurrency.SetVisible(true);
-    txtCurrencyCode.SetText(code);
+    Mark(), lines_.ShowForeignAmount(App().GetFormats(), CurrentRow(), code);
 }
 
 void dsrTrialBalanceDetail::ShowKey() {
-    if (Amounts().IsUnrealized(current_.account))
-        text_ = current_.key;
-    else
-        Mark(), ReadDocumentKey(CurrentRow(), columns_.source, columns_.source_key, text_);
-    for (Control* control :
-         {&txtSeqNo, &txtSource, &txtDetDate, &txtDetDesc, &txtDebit, &txtCredit, &running_.amount})
-        control->SetTag(text_);
+    const bool unrealized = Amounts().IsUnrealized(current_.account);
+    Mark(), lines_.SetTag(unrealized ? current_.key : lines_.DocumentKey(CurrentRow()));
 }
 
 // The line is added up before the host is asked for anything but its rate.
 void dsrTrialBalanceDetail::Detail_Format() {
     if (EndOfData()) return;
     if (!IsLine()) return Detail.Skip();
-    txtDetDate.Clear();
-    txtDebit.Clear();
-    txtCredit.Clear();
-    running_.Clear();
-    txtCurrency.SetVisible(false);
-    txtCurrencyCode.Clear();
-    txtSeqNo.Clear();
+    lines_.Clear();
     ShowKey();
     const auto amount = AddLine();
     if (!amount) return;
     if (Compares()) AddComparableAccountRow(*amount);
-    Mark(), ShowBalance(running_, current_.balance);
-    Mark(), PutOnItsSide(App().GetFormats(), txtDebit, txtCredit, *amount, text_);
+    Mark(), lines_.ShowAmount(App().GetFormats(), *amount, sums_);
     ShowForeignAmount();
-    Mark(), PutNumber(txtSeqNo, CurrentRow(), columns_.number, text_);
-    const Date date = (Mark(), CurrentRow().Day(columns_.date));
-    Mark(), PutDate(App().GetFormats(), txtDetDate, date, text_);
+    Mark(), lines_.ShowNumberAndDate(App().GetFormats(), CurrentRow());
 }
 
 void dsrTrialBalanceDetail::gfAccount_Format() {
     if (InComparableGroup()) EndComparableAccount();
-    for (Control* control : {&txtDebitTotal, &txtCreditTotal}) control->Clear();
-    account_balance_.Clear();
+    lines_.ClearSubtotals();
     const bool all_zero =
-        current_.totals.IsZero() && current_.balance.IsZero() && Amounts().Difference().IsZero();
+        sums_.Account().IsZero() && sums_.Balance().IsZero() && Amounts().Difference().IsZero();
     if (!include_zero_balances_ && all_zero) return gfAccount.Skip();
-    auto& formats = App().GetFormats();
-    Mark(), PutSum(formats, txtDebitTotal, current_.totals.debit, text_);
-    Mark(), PutSum(formats, txtCreditTotal, current_.totals.credit, text_);
-    Mark(), ShowBalance(account_balance_, current_.balance);
+    Mark(), lines_.ShowSubtotals(App().GetFormats(), sums_);
 }
 
 void dsrTrialBalanceDetail::PageHeader_Format() {
@@ -399,8 +340,7 @@ void dsrTrialBalanceDetail::SetAdjControlsPosition(bool visible) {
 
 void dsrTrialBalanceDetail::SetAdjControlsValue() {
     Guard("SetAdjControlsValue", [&] {
-        const Currency adjustment = (Mark(), Adjust(totals_));
-        balance_total_.Add(adjustment);
+        const Currency adjustment = (Mark(), sums_.AdjustTotals());
         auto& formats = App().GetFormats();
         Mark(), PutOnItsSide(formats, At("txtDebitAdj"), At("txtCreditAdj"), adjustment, text_);
         Mark(), PutOnItsSide(formats, At("txtDebitTotalAdj"), At("txtCreditTotalAdj"), adjustment,
@@ -413,13 +353,10 @@ void dsrTrialBalanceDetail::SetAdjControlsValue() {
 }
 
 void dsrTrialBalanceDetail::ReportFooter_Format() {
-    const bool adjusts = IsSegmentFiltered() && totals_.Differ();
+    const bool adjusts = IsSegmentFiltered() && sums_.Total().Differ();
     SetAdjControlsPosition(adjusts);
     if (adjusts) SetAdjControlsValue();
-    auto& formats = App().GetFormats();
-    Mark(), PutSum(formats, txtDebitGrandTotal, totals_.debit, text_);
-    Mark(), PutSum(formats, txtCreditGrandTotal, totals_.credit, text_);
-    Mark(), ShowBalance(grand_balance_, balance_total_);
+    Mark(), lines_.ShowTotals(App().GetFormats(), sums_);
 }
 
 }  // namespace varnel::reports

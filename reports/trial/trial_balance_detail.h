@@ -5,7 +5,7 @@
 
 #include "framework/comparable_report.h"
 #include "framework/debit_credit.h"
-#include "reports/trial/balance_controls.h"
+#include "reports/trial/account_lines.h"
 #include "reports/trial/trial_report.h"
 
 namespace varnel::reports {
@@ -35,15 +35,9 @@ class dsrTrialBalanceDetail final : public TrialReport,
     Selection& GetSelection() { return selection_; }
 
   private:
-    struct LineColumns {
-        Column id, number, date, amount, foreign, currency_id, source, source_key;
-        void Resolve(const Columns& columns);
-    };
     struct AccountState {
         TrialAccount account;
         std::string key;
-        framework::DebitCredit totals;
-        framework::KnownSum balance;  // The running one.
     };
     /// What an account begins with.
     struct Forward {
@@ -53,14 +47,11 @@ class dsrTrialBalanceDetail final : public TrialReport,
     std::string BuildStatement();
     bool ResolvesAccounts() const;
     std::string AccountList();
-    void PlaceColumns();
     Currency GetAccountBalanceForSpecialAccounts(const TrialAccount& account);
     Forward BringForward();
-    void AddToBalance(Currency amount);
-    void LoseBalance();
     void ShowUnrealized(Currency unrealized);
     void ShowAccountKey();
-    bool IsLine() const { return !CurrentRow().IsNull(columns_.id); }
+    bool IsLine() const { return lines_.IsLine(CurrentRow()); }
     std::int32_t LineCurrency() const;
     Currency LineAmount(std::int32_t currency_id);
     bool IsInForeignCurrency(std::int32_t currency_id) const;
@@ -84,11 +75,10 @@ class dsrTrialBalanceDetail final : public TrialReport,
     void gfAccount_Format();
     void ReportFooter_Format();
 
-    LineColumns columns_;
+    AccountLines lines_{GetSurface(), "txtCurrency", "lblCurrencyCap"};
+    AccountSums sums_;
     Selection selection_;
     AccountState current_;
-    framework::DebitCredit totals_;
-    framework::KnownSum balance_total_;
     bool include_zero_balances_ = false;
     bool foreign_used_ = false;
     std::string text_;  // Scratch for texts built row by row.
@@ -100,26 +90,13 @@ class dsrTrialBalanceDetail final : public TrialReport,
     Section& ReportFooter = SectionAt("ReportFooter");
     BalanceControls forward_{At("txtBalanceForward"), At("lblBalanceForwardType")};
     BalanceControls unrealized_{At("txtGPUnrealized"), At("lblGPUnrealizedType")};
-    BalanceControls running_{At("txtBalance"), At("lblBalanceType")};
-    BalanceControls account_balance_{At("txtBalanceTotal"), At("lblBalanceTotalType")};
     BalanceControls adjustment_{At("txtBalanceAdj"), At("lblBalanceTypeAdj")};
     BalanceControls adjustment_total_{At("txtBalanceTotalAdj"), At("lblBalanceTotalTypeAdj")};
-    BalanceControls grand_balance_{At("txtBalanceGrandTotal"), At("lblBalanceGrandTotalType")};
     Control& txtGLAcctId = At("txtGLAcctId");
     Control& txtDescr = At("txtDescr");
     Control& lblGPUnrealized = At("lblGPUnrealized");
-    Control& txtSeqNo = At("txtSeqNo");
     Control& txtSource = At("txtSource");
-    Control& txtDetDate = At("txtDetDate");
     Control& txtDetDesc = At("txtDetDesc");
-    Control& txtCurrency = At("txtCurrency");
-    Control& txtCurrencyCode = At("txtCurrencyCode");
-    Control& txtDebit = At("txtDebit");
-    Control& txtCredit = At("txtCredit");
-    Control& txtDebitTotal = At("txtDebitTotal");
-    Control& txtCreditTotal = At("txtCreditTotal");
-    Control& txtDebitGrandTotal = At("txtDebitGrandTotal");
-    Control& txtCreditGrandTotal = At("txtCreditGrandTotal");
 };
 
 }  // namespace varnel::reports

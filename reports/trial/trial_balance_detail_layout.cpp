@@ -1,8 +1,11 @@
 #include "reports/trial/trial_balance_detail_layout.h"
 
+#include <utility>
+
 #include "framework/exchange_rates_note.h"
 #include "framework/item_adjustment_note.h"
 #include "framework/layout_parts.h"
+#include "reports/trial/account_lines_layout.h"
 
 namespace varnel::reports {
 
@@ -25,6 +28,7 @@ constexpr auto kAccountName = ColumnPlace::Left(1'220, 5'020, Stretch::kWiden);
 /// What stands before an amount: it ends where the balance begins.
 constexpr ColumnPlace kBeforeBalance{6'300, 2'660, Align::kRight, Stretch::kShift};
 constexpr ColumnPlace kBeforeDebit{2'240, 4'000, Align::kRight, Stretch::kWiden};
+constexpr AmountColumns kAmounts{kDebit, kCredit, kBalance, kType, kBeforeDebit};
 
 std::vector<ControlLayout> Captions() {
     return {ColumnCaption("lblSeqNoCap", kSeqNo, 2664),
@@ -72,63 +76,41 @@ SectionLayout Lines() {
                          ColumnText("lblBalanceType", kType, 0, kQuiet, "balance_type")}};
 }
 
-SectionLayout AccountFooter() {
-    return {
-        .name = "gfAccount",
-        .kind = SectionKind::kGroupFooter,
-        .height = kGroupHeight,
-        .controls = {TotalRule("linDebitTotal", kDebit, 0), TotalRule("linCreditTotal", kCredit, 0),
-                     TotalRule("linBalanceTotal", kBalance, 0),
-                     ColumnLabel("lblSubTotal", kBeforeDebit, 25, kBodyBold, 2710),
-                     ColumnText("txtDebitTotal", kDebit, 25, kBodyBold),
-                     ColumnText("txtCreditTotal", kCredit, 25, kBodyBold),
-                     ColumnText("txtBalanceTotal", kBalance, 25, kBodyBold),
-                     ColumnText("lblBalanceTotalType", kType, 25, kQuiet)}};
-}
-
 // The adjusting line reads like an account: header, line, subtotal. The grand totals follow.
 SectionLayout Totals() {
     constexpr Twips kHeaderTop = 100;
     constexpr Twips kLineTop = 360;
     constexpr Twips kSubTotalTop = 620;
     constexpr Twips kGrandTotalTop = 1'000;
-    const auto rule = [](std::string_view name, const ColumnPlace& place) {
-        return TotalRule(name, place, kGrandTotalTop - 40, kThick);
-    };
+    auto controls = GrandTotals(kAmounts, kGrandTotalTop);
+    controls.insert(controls.begin(),
+                    {ColumnText("txtDescrAdj", kAccountName, kHeaderTop, kBodyBold),
+                     ColumnText("txtDetDescAdj", kDescription, kLineTop, kRemark),
+                     ColumnText("txtDebitAdj", kDebit, kLineTop, kBody),
+                     ColumnText("txtCreditAdj", kCredit, kLineTop, kBody),
+                     ColumnText("txtBalanceAdj", kBalance, kLineTop, kBody),
+                     ColumnText("lblBalanceTypeAdj", kType, kLineTop, kQuiet),
+                     TotalRule("linDebitTotalAdj", kDebit, kSubTotalTop - 25),
+                     TotalRule("linCreditTotalAdj", kCredit, kSubTotalTop - 25),
+                     TotalRule("linBalanceTotalAdj", kBalance, kSubTotalTop - 25),
+                     ColumnLabel("lblSubTotalAdj", kBeforeDebit, kSubTotalTop, kBodyBold, 2710),
+                     ColumnText("txtDebitTotalAdj", kDebit, kSubTotalTop, kBodyBold),
+                     ColumnText("txtCreditTotalAdj", kCredit, kSubTotalTop, kBodyBold),
+                     ColumnText("txtBalanceTotalAdj", kBalance, kSubTotalTop, kBodyBold),
+                     ColumnText("lblBalanceTotalTypeAdj", kType, kSubTotalTop, kQuiet)});
     return {.name = "ReportFooter",
             .kind = SectionKind::kReportFooter,
             .height = kGrandTotalTop + 360,
-            .controls = {ColumnText("txtDescrAdj", kAccountName, kHeaderTop, kBodyBold),
-                         ColumnText("txtDetDescAdj", kDescription, kLineTop, kRemark),
-                         ColumnText("txtDebitAdj", kDebit, kLineTop, kBody),
-                         ColumnText("txtCreditAdj", kCredit, kLineTop, kBody),
-                         ColumnText("txtBalanceAdj", kBalance, kLineTop, kBody),
-                         ColumnText("lblBalanceTypeAdj", kType, kLineTop, kQuiet),
-                         TotalRule("linDebitTotalAdj", kDebit, kSubTotalTop - 25),
-                         TotalRule("linCreditTotalAdj", kCredit, kSubTotalTop - 25),
-                         TotalRule("linBalanceTotalAdj", kBalance, kSubTotalTop - 25),
-                         ColumnLabel("lblSubTotalAdj", kBeforeDebit, kSubTotalTop, kBodyBold, 2710),
-                         ColumnText("txtDebitTotalAdj", kDebit, kSubTotalTop, kBodyBold),
-                         ColumnText("txtCreditTotalAdj", kCredit, kSubTotalTop, kBodyBold),
-                         ColumnText("txtBalanceTotalAdj", kBalance, kSubTotalTop, kBodyBold),
-                         ColumnText("lblBalanceTotalTypeAdj", kType, kSubTotalTop, kQuiet),
-                         rule("linDebitGrandTotal", kDebit),
-                         rule("linCreditGrandTotal", kCredit),
-                         rule("linBalanceGrandTotal", kBalance),
-                         ColumnLabel("lblGrTotal", kBeforeDebit, kGrandTotalTop, kBodyBold, 1641),
-                         ColumnText("txtDebitGrandTotal", kDebit, kGrandTotalTop, kBodyBold),
-                         ColumnText("txtCreditGrandTotal", kCredit, kGrandTotalTop, kBodyBold),
-                         ColumnText("txtBalanceGrandTotal", kBalance, kGrandTotalTop, kBodyBold),
-                         ColumnText("lblBalanceGrandTotalType", kType, kGrandTotalTop, kQuiet)}};
+            .controls = std::move(controls)};
 }
 
 }  // namespace
 
 const Layout& TrialBalanceDetailLayout() {
-    static const Layout layout{
-        .name = "dsrTrialBalanceDetail",
-        .sections = {PageHeader(PageHeaderControlsWithRates(Captions())), AccountHeader(), Lines(),
-                     AccountFooter(), PageFooter({ItemAdjustmentNoteControl()}), Totals()}};
+    static const Layout layout{.name = "dsrTrialBalanceDetail",
+                               .sections = {PageHeader(PageHeaderControlsWithRates(Captions())),
+                                            AccountHeader(), Lines(), AccountSubtotal(kAmounts),
+                                            PageFooter({ItemAdjustmentNoteControl()}), Totals()}};
     return layout;
 }
 
