@@ -19,7 +19,8 @@ SectionLayout IncomeStatementHeader(std::vector<ControlLayout> captions, int dat
 /// The dates of a column, under its caption, in that many lines.
 ControlLayout DateCaption(std::string_view name, const framework::ColumnPlace& place, int lines);
 
-/// Height of a section's footer that has a result.
+/// Heights of a section's footer: with its total alone, and with a result under it.
+inline constexpr Twips kTotalHeight = 675;
 inline constexpr Twips kResultHeight = 1'035;
 
 }  // namespace varnel::reports

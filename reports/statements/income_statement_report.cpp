@@ -9,6 +9,7 @@
 #include "framework/query_runner.h"
 #include "framework/standard_header.h"
 #include "framework/texts.h"
+#include "reports/statements/income_statement_parts.h"
 #include "reports/statements/statement_rates.h"
 
 namespace varnel::reports {
@@ -33,8 +34,9 @@ struct SectionEnd {
     Twips height;
 };
 
-constexpr SectionEnd kSectionEnds[] = {
-    {kRevenue, 2674, 0, 675}, {kExpense, 2676, 2679, 1'035}, {kOther, 2678, 2680, 1'035}};
+constexpr SectionEnd kSectionEnds[] = {{kRevenue, 2674, 0, kTotalHeight},
+                                       {kExpense, 2676, 2679, kResultHeight},
+                                       {kOther, 2678, 2680, kResultHeight}};
 
 constexpr std::string_view kColumns = "SELECT InGLAcctId, GLAcctId, Descr, Inactive, ";
 constexpr std::string_view kOrder = "ORDER BY AcctType, GLAcctId";
