@@ -18,9 +18,9 @@ namespace varnel::drivers {
 namespace {
 
 // Longer texts are rare, and read a second time.
-constexpr std::size_t kTextWidth = 256;
+constexpr std::size_t kTextWidth = 256 * sizeof(SQLWCHAR);
 constexpr std::size_t kDecimalWidth = 64;
-constexpr std::size_t kPiece = 16 * 1024;
+constexpr std::size_t kPiece = 8 * 1024;
 
 template <class Value>
 Value Load(const char* bytes) {
@@ -109,8 +109,10 @@ short OdbcColumn::CType() const {
             return SQL_C_DOUBLE;
         case Kind::kDate:
             return SQL_C_TYPE_DATE;
-        default:
+        case Kind::kDecimal:
             return SQL_C_CHAR;
+        default:
+            return SQL_C_WCHAR;  // The other would be in the character set of the process.
     }
 }
 
@@ -136,18 +138,23 @@ bool OdbcColumn::Bind(void* statement, std::size_t rows) {
                                     static_cast<SQLLEN>(Width()), lengths_.data()));
 }
 
-bool OdbcColumn::IsCut(std::size_t row) const {
-    if (CType() != SQL_C_CHAR) return false;
-    const SQLLEN length = lengths_[row];
-    return length == SQL_NO_TOTAL || length >= static_cast<SQLLEN>(Width());
+std::size_t OdbcColumn::UnitWidth() const {
+    if (CType() == SQL_C_WCHAR) return sizeof(SQLWCHAR);
+    return CType() == SQL_C_CHAR ? 1 : 0;
 }
 
-void OdbcColumn::Read(std::size_t row, Row& out) const {
+// A text ends with a 0, which has a place too.
+bool OdbcColumn::IsCut(std::size_t row) const {
+    if (UnitWidth() == 0) return false;
+    const SQLLEN length = lengths_[row];
+    return length == SQL_NO_TOTAL ||
+           length + static_cast<SQLLEN>(UnitWidth()) > static_cast<SQLLEN>(Width());
+}
+
+void OdbcColumn::Read(std::size_t row, std::string& text, Row& out) const {
     if (lengths_[row] == SQL_NULL_DATA) return out.AddNull();
     const char* const value = At(row);
-    const auto text = [&] {
-        return std::string_view(value, static_cast<std::size_t>(lengths_[row]));
-    };
+    const auto length = static_cast<std::size_t>(lengths_[row]);
     switch (kind_) {
         case Kind::kInteger:
             return out.AddInteger(Load<SQLBIGINT>(value));
@@ -156,24 +163,28 @@ void OdbcColumn::Read(std::size_t row, Row& out) const {
         case Kind::kDate:
             return out.AddDate(DateOf(Load<SQL_DATE_STRUCT>(value)));
         case Kind::kDecimal:
-            return AddDecimal(text(), out);
+            return AddDecimal({value, length}, out);
         default:
-            return out.AddText(text());
+            text.clear();
+            AppendUtf8({reinterpret_cast<const SQLWCHAR*>(value), length / sizeof(SQLWCHAR)}, text);
+            return out.AddText(text);
     }
 }
 
 bool OdbcColumn::ReadLong(void* statement, std::string& text) const {
-    text.clear();
-    std::vector<char> piece(kPiece);
-    for (;;) {
+    WideText whole;
+    WideText piece(kPiece);
+    for (SQLRETURN result = SQL_SUCCESS_WITH_INFO; result == SQL_SUCCESS_WITH_INFO;) {
         SQLLEN left = 0;
-        const auto result = SQLGetData(statement, number_, SQL_C_CHAR, piece.data(),
-                                       static_cast<SQLLEN>(piece.size()), &left);
-        if (result == SQL_NO_DATA) return true;
-        if (!SQL_SUCCEEDED(result)) return false;
-        text += piece.data();
-        if (result == SQL_SUCCESS) return true;
+        const auto bytes = static_cast<SQLLEN>(piece.size() * sizeof piece.front());
+        result = SQLGetData(statement, number_, SQL_C_WCHAR, piece.data(), bytes, &left);
+        if (result != SQL_NO_DATA && !SQL_SUCCEEDED(result)) return false;
+        if (result != SQL_NO_DATA)
+            whole.insert(whole.end(), piece.begin(), std::ranges::find(piece, 0));
     }
+    text.clear();
+    AppendUtf8(whole, text);
+    return true;
 }
 
 }  // namespace varnel::drivers

@@ -23,8 +23,8 @@ class OdbcColumn {
 
     /// True when the value was longer than its place, so that its beginning alone is here.
     bool IsCut(std::size_t row) const;
-    /// Adds the value to the row; allocates nothing.
-    void Read(std::size_t row, Row& out) const;
+    /// Adds the value to the row. `text` is room for texts: nothing is allocated once it has grown.
+    void Read(std::size_t row, std::string& text, Row& out) const;
     /// Fetches the whole of a text of the row that the cursor stands on, in pieces. False when the
     /// driver cannot.
     bool ReadLong(void* statement, std::string& text) const;
@@ -35,6 +35,8 @@ class OdbcColumn {
     static Kind KindOf(short sql_type);
     short CType() const;
     std::size_t Width() const;
+    /// Of a character; 0 for what is no text.
+    std::size_t UnitWidth() const;
     const char* At(std::size_t row) const { return values_.data() + row * Width(); }
 
     std::string name_;

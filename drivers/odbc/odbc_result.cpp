@@ -121,11 +121,11 @@ bool OdbcResult::Read(Row& row) {
 }
 
 void OdbcResult::ReadCell(const OdbcColumn& column, Row& row) {
-    if (!column.IsCut(next_)) return column.Read(next_, row);
+    if (!column.IsCut(next_)) return column.Read(next_, text_, row);
     const auto position = static_cast<SQLSETPOSIROW>(next_ + 1);
     const auto moved = SQLSetPos(statement_.get(), position, SQL_POSITION, SQL_LOCK_NO_CHANGE);
-    if (!SQL_SUCCEEDED(moved) || !column.ReadLong(statement_.get(), long_text_)) Fail();
-    row.AddText(long_text_);
+    if (!SQL_SUCCEEDED(moved) || !column.ReadLong(statement_.get(), text_)) Fail();
+    row.AddText(text_);
 }
 
 void OdbcResult::Fail() {

@@ -54,7 +54,7 @@ class OdbcResult {
     std::size_t portion_ = 0;  // Rows of it that were fetched.
     unsigned long rows_ = 0;   // Of the block that is here.
     std::size_t next_ = 0;     // In it.
-    std::string long_text_;
+    std::string text_;
 };
 
 }  // namespace varnel::drivers

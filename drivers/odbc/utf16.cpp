@@ -31,7 +31,7 @@ char32_t TakeCharacter(std::string_view& utf8) {
     return character;
 }
 
-void AppendUtf8(char32_t character, std::string& out) {
+void AppendCharacter(char32_t character, std::string& out) {
     const auto tail = [&](int shift) {
         out += static_cast<char>(0x80 | (character >> shift & 0x3F));
     };
@@ -70,16 +70,22 @@ WideText ToUtf16(std::string_view utf8) {
     return utf16;
 }
 
-std::string ToUtf8(const unsigned short* utf16) {
-    std::string utf8;
-    for (; *utf16 != 0; ++utf16) {
-        char32_t character = *utf16;
-        if (IsHighHalf(character) && IsLowHalf(utf16[1]))
-            character = 0x10000 + ((character & 0x3FF) << 10 | (*++utf16 & 0x3FF));
+void AppendUtf8(std::span<const unsigned short> utf16, std::string& out) {
+    for (std::size_t i = 0; i < utf16.size(); ++i) {
+        char32_t character = utf16[i];
+        if (IsHighHalf(character) && i + 1 < utf16.size() && IsLowHalf(utf16[i + 1]))
+            character = 0x10000 + ((character & 0x3FF) << 10 | (utf16[++i] & 0x3FF));
         else if (IsHighHalf(character) || IsLowHalf(character))
             character = kReplacement;
-        AppendUtf8(character, utf8);
+        AppendCharacter(character, out);
     }
+}
+
+std::string ToUtf8(const unsigned short* utf16) {
+    std::size_t length = 0;
+    while (utf16[length] != 0) ++length;
+    std::string utf8;
+    AppendUtf8({utf16, length}, utf8);
     return utf8;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,10 @@ using WideText = std::vector<unsigned short>;
 /// Ends with a 0. Bytes that are no UTF-8 become U+FFFD.
 WideText ToUtf16(std::string_view utf8);
 
-/// Up to the first 0. Halves of a pair that stand alone become U+FFFD.
+/// Halves of a pair that stand alone become U+FFFD.
+void AppendUtf8(std::span<const unsigned short> utf16, std::string& out);
+
+/// The same, up to the first 0.
 std::string ToUtf8(const unsigned short* utf16);
 
 }  // namespace varnel::drivers

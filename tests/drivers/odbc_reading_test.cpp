@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <clocale>
+#include <cstdlib>
+#include <filesystem>
 
 #include "tests/drivers/odbc_fixture.h"
 
@@ -69,6 +72,40 @@ TEST_F(OdbcReading, TextsOfQueryAndParametersAreUtf8) {
     EXPECT_EQ(database_->Value("SELECT 'Zoë 😀 ' & ?", {"naïve €"}), "Zoë 😀 naïve €");
     EXPECT_EQ(database_->Value("SELECT ? & 'x'", {""}), "x");
     EXPECT_TRUE(database_->Query("SELECT ? AS Nothing", {Variant::Null{}})->Current().IsNull({0}));
+}
+
+/// The process is French and of Latin 1 while it lives.
+class LatinProcess {
+  public:
+    LatinProcess() {
+        folder_ = std::filesystem::path(testing::TempDir()) / "latin_locale";
+        std::filesystem::create_directory(folder_);
+        const auto made = (folder_ / "fr_CA").string();
+        EXPECT_EQ(std::system(("localedef -i fr_CA -f ISO-8859-1 " + made).c_str()), 0);
+        ::setenv("LOCPATH", folder_.c_str(), 1);
+        EXPECT_NE(std::setlocale(LC_ALL, "fr_CA"), nullptr);
+    }
+    ~LatinProcess() {
+        std::setlocale(LC_ALL, "C");
+        ::unsetenv("LOCPATH");
+        std::filesystem::remove_all(folder_);
+    }
+    LatinProcess(const LatinProcess&) = delete;
+    LatinProcess& operator=(const LatinProcess&) = delete;
+
+  private:
+    std::filesystem::path folder_;
+};
+
+TEST_F(OdbcReading, NothingDependsOnTheLocaleOfTheProgram) {
+    const LatinProcess latin;
+    const auto rows = database_->Query(
+        "SELECT 'Zoë €' & ?, repeat('é€', 200), CAST(-1234.56 AS numeric(19,4)), 2.5e0", {" ç"});
+    const Row& row = rows->Current();
+    EXPECT_EQ(row.Text({0}), "Zoë € ç");
+    EXPECT_EQ(row.Text({1}).size(), 1'000U);
+    EXPECT_EQ(row.Amount({2}), Currency::FromScaled(-12'345'600));
+    EXPECT_EQ(row.Amount({3}), Currency::FromScaled(25'000));
 }
 
 TEST_F(OdbcReading, AFailingQueryDoesNotEndTheRowsBesideIt) {
