@@ -10,6 +10,7 @@
 #include "cli/output_file.h"
 #include "cli/report_run.h"
 #include "cli/run_monitor.h"
+#include "cli/told_place.h"
 
 namespace varnel::cli {
 
@@ -74,8 +75,10 @@ bool RunInto(std::shared_ptr<ComparableReportSink> sink, const PreparedReport& p
     dynamic_cast<IComparableReport&>(*prepared.report)
         .IComparableReport_ComparableReportGen(std::move(sink));
     RunMonitor monitor(console, prepared.host->Messages());
-    const auto result =
-        engine::RunToBands(*prepared.report->IReport_ReportDesigner(), info, bands, &monitor);
+    auto& report = *prepared.report->IReport_ReportDesigner();
+    const auto result = TellingPlace(report.ObjectName(), "ActiveReport_FetchData", [&] {
+        return engine::RunToBands(report, info, bands, &monitor);
+    });
     if (result.cancelled) throw Interrupted();
     return !monitor.StartFailed(result);
 }

@@ -22,6 +22,8 @@
 #include "cli/report_table.h"
 #include "cli/run_monitor.h"
 #include "cli/run_options.h"
+#include "cli/told_place.h"
+#include "company/company_address.h"
 #include "company/company_host.h"
 #include "host/error.h"
 
@@ -73,6 +75,14 @@ void UseRates(company::CompanyHost& host, const RunSettings& settings) {
     }
 }
 
+/// A file that is not there has a sentence that says all.
+std::shared_ptr<company::CompanyHost> Open(const std::string& address,
+                                           const company::HostOptions& options) {
+    const auto open = [&] { return company::OpenCompany(address, options); };
+    if (!company::ParseCompanyAddress(address).IsServer()) return open();
+    return TellingPlace("CompanyHost", "OpenCompany", open);
+}
+
 std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
                                                const RunSettings& settings, MessageLog& log,
                                                std::shared_ptr<DialogService> dialogs) {
@@ -87,7 +97,7 @@ std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
     options.cancelled = [] { return StopSignal() != 0; };
     options.missing_text = [&log](std::int16_t number) { log.AddMissingText(number); };
     options.dialogs = std::move(dialogs);
-    auto host = company::OpenCompany(request.company, options);
+    auto host = Open(request.company, options);
     UseRates(*host, settings);
     SetRunningHost(host);
     return host;
@@ -171,8 +181,11 @@ int RunReport(const RunRequest& request, Console& console) {
     OutputFile output(request.output.empty() ? "-" : request.output);
     RunMonitor monitor(console, host->Messages());
     const auto info = InfoOf(*report, *host, settings.language);
-    const auto result = format.write(*report->IReport_ReportDesigner(), info,
-                                     LayoutOf(request, settings), output, monitor);
+    auto& designer = *report->IReport_ReportDesigner();
+    const auto layout = LayoutOf(request, settings);
+    const auto result = TellingPlace(designer.ObjectName(), "ActiveReport_FetchData", [&] {
+        return format.write(designer, info, layout, output, monitor);
+    });
     if (result.cancelled) throw Interrupted();
     const bool written = !monitor.StartFailed(result);
     if (written)

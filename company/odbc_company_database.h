@@ -25,6 +25,7 @@ class OdbcCompanyDatabase final : public CompanyDatabase {
     std::string ConnectionString() override { return connection_string_; }
     int DatabaseType() override { return database_type_; }
     std::shared_ptr<Command> NewCommand() override { return drivers::NewOdbcCommand(connections_); }
+    std::shared_ptr<void> HoldSnapshot() override { return connections_.HoldSnapshot(); }
 
   private:
     static constexpr int kServer = 0;

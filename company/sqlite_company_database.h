@@ -23,6 +23,7 @@ class SqliteCompanyDatabase final : public CompanyDatabase {
     std::string ConnectionString() override { return path_; }
     int DatabaseType() override { return database_type_; }
     std::shared_ptr<Command> NewCommand() override;
+    std::shared_ptr<void> HoldSnapshot() override;
 
   private:
     static constexpr int kDesktopEngine = 1;

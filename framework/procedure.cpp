@@ -23,12 +23,16 @@ Failure DescribeCurrentException(std::uint_least32_t fallback_line) {
     }
 }
 
+std::string FormAMessage(std::string_view object, std::string_view procedure,
+                         const Failure& failure) {
+    return failure.description + "\r\nin Varnel." + std::string(object) + "." +
+           std::string(procedure) + " at line " + std::to_string(failure.line);
+}
+
 void ShowFailure(Application* application, std::string_view object, std::string_view procedure,
                  const Failure& failure) noexcept {
     try {
-        const std::string text = failure.description + "\r\nin Varnel." + std::string(object) +
-                                 "." + std::string(procedure) + " at line " +
-                                 std::to_string(failure.line);
+        const std::string text = FormAMessage(object, procedure, failure);
         try {
             const auto running = RunningHost();
             if (application == nullptr) application = running.get();

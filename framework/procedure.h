@@ -50,9 +50,13 @@ struct Failure {
 /// catch block.
 Failure DescribeCurrentException(std::uint_least32_t fallback_line);
 
-/// Shows the message of form A: description, a line break, "in Varnel.<object>.<procedure> at line
-/// " and the line. Goes to the application's message box, else to the running host's, else to
-/// standard error. Never throws.
+/// The message of form A: description, a line break, "in Varnel.<object>.<procedure> at line " and
+/// the line.
+std::string FormAMessage(std::string_view object, std::string_view procedure,
+                         const Failure& failure);
+
+/// Shows the message of form A. Goes to the application's message box, else to the running host's,
+/// else to standard error. Never throws.
 void ShowFailure(Application* application, std::string_view object, std::string_view procedure,
                  const Failure& failure) noexcept;
 

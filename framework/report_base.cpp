@@ -106,6 +106,8 @@ std::string ReportBase::IReport_ReportTitle() {
 void ReportBase::ActiveReport_Initialize() {
     constexpr std::string_view kProcedure = "ActiveReport_Initialize";
     DesignedReport::ActiveReport_Initialize();
+    Guard(kProcedure,
+          [&] { Mark(), snapshot_ = App().CurrentContext().Database().HoldSnapshot(); });
     Guard(kProcedure, [&] { ReadHomeCurrency(); });
     Guard(kProcedure, [&] {
         if (facts_.by_account_number)

@@ -36,6 +36,7 @@ class ReportBase : public DesignedReport, public IReport {
     std::string IReport_ReportTitle() override;
 
     void ActiveReport_Initialize() override;
+    void ActiveReport_Terminate() override { snapshot_.reset(); }
 
   protected:
     /// For a report that has another title by its options.
@@ -66,6 +67,7 @@ class ReportBase : public DesignedReport, public IReport {
     bool display_foreign_ = false;
     bool use_account_numbers_ = false;
     std::int32_t home_currency_id_ = 0;
+    std::shared_ptr<void> snapshot_;  // Of the company, for the run.
 };
 
 }  // namespace varnel::framework

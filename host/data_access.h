@@ -54,6 +54,10 @@ class CompanyDatabase {
     /// 1: the file-based desktop engine; 0: a server. Chooses the SQL dialect.
     virtual int DatabaseType() = 0;
     virtual std::shared_ptr<Command> NewCommand() = 0;
+    /// While the object lives, every query sees the database as it was at the first of them: a
+    /// report holds it for a run, so that its figures agree though somebody posts meanwhile. Null
+    /// where the database cannot do that. What prevents it comes out of the first query.
+    virtual std::shared_ptr<void> HoldSnapshot() { return nullptr; }
     /// The host's parameter binder: appends the values to the command in order.
     virtual void BindParameters(Command& command, std::span<const Variant> parameters) {
         for (const auto& parameter : parameters) command.AppendParameter(parameter);

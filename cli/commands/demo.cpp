@@ -35,8 +35,8 @@ int MakeDemo(const DemoRequest& request, Console& console) {
     options.progress = [&console](std::int64_t done, std::int64_t lines) {
         if (console.ProgressIsDue())
             console.ShowProgress(GroupedCount(done) + " of " + GroupedCount(lines) + " lines");
-        return StopSignal() == 0;
     };
+    options.cancelled = [] { return StopSignal() != 0; };
     options.unfinished_file = SetUnfinishedFile;
     company::CreateDemoCompany(request.company, options);
     console.EraseProgress();

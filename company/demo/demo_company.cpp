@@ -24,9 +24,9 @@ void Fill(demo::Database& database, const DemoOptions& options) {
     demo::WriteMasterData(database, books.rates);
     demo::WriteBudgets(database, options.lines);
     demo::KeepBooks(books, options.lines, [&](std::int64_t done) {
-        if (options.progress && !options.progress(done, options.lines)) {
+        if (options.progress) options.progress(done, options.lines);
+        if (options.cancelled && options.cancelled())
             throw Error(error_number::kOther, "demo company", "stopped before it was complete");
-        }
     });
     books.BankReconciliations().Write(database);
 }
@@ -35,8 +35,7 @@ void Fill(demo::Database& database, const DemoOptions& options) {
 
 void CreateDemoCompany(const std::string& address, const DemoOptions& options) {
     CheckLines(options);
-    const auto database =
-        NewCompany(ParseCompanyAddress(address), options.overwrite, options.unfinished_file);
+    const auto database = NewCompany(ParseCompanyAddress(address), options);
     Fill(*database, options);
     database->Finish();
 }

@@ -4,22 +4,18 @@
 #include <functional>
 #include <string>
 
-#include "company/writing/unfinished_file.h"
+#include "company/writing/writing_options.h"
 
 namespace varnel::company {
 
-struct DemoOptions {
+struct DemoOptions : WritingOptions {
     /// Ledger lines to write, give or take one document. The company grows with them: the
     /// proportions of accounts, documents and currencies stay.
     std::int64_t lines = 12'000;
     /// The same seed and number of lines give the same company everywhere.
     std::uint64_t seed = 1;
-    /// Replace a company that is there; otherwise it is an error.
-    bool overwrite = false;
-    /// Hears now and then how many of the lines are written; false stops the work with an error.
-    std::function<bool(std::int64_t done, std::int64_t lines)> progress;
-    /// Hears which file is unfinished.
-    UnfinishedFileListener unfinished_file = {};
+    /// Hears now and then how many of the lines are written.
+    std::function<void(std::int64_t done, std::int64_t lines)> progress = {};
 };
 
 inline constexpr std::int64_t kDemoLinesMin = 1'000;

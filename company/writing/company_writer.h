@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "company/company_address.h"
-#include "company/writing/unfinished_file.h"
+#include "company/writing/writing_options.h"
 #include "host/currency.h"
 #include "host/date.h"
 #include "host/rate.h"
@@ -43,9 +43,9 @@ class CompanyWriter {
 };
 
 /// Makes the tables of a new company, still empty. Raises an error when there is something at the
-/// address already and `overwrite` is not given; on a server, tables of other programs stay in
+/// address already and is not to be overwritten; on a server, tables of other programs stay in
 /// either case.
-std::unique_ptr<CompanyWriter> NewCompany(const CompanyAddress& address, bool overwrite,
-                                          UnfinishedFileListener listener = {});
+std::unique_ptr<CompanyWriter> NewCompany(const CompanyAddress& address,
+                                          const WritingOptions& options = {});
 
 }  // namespace varnel::company

@@ -10,6 +10,11 @@ std::string Scaled(const std::string& name, const char* scale) {
     return "CAST(ROUND(" + name + " * " + scale + ") AS BIGINT)";
 }
 
+/// Of a date: 20250331.
+std::string Digits(const std::string& name) {
+    return "CAST(REPLACE(CAST(" + name + " AS CHAR(10)), '-', '') AS BIGINT)";
+}
+
 std::string Sum(const std::string& value) { return "CAST(SUM(" + value + ") AS BIGINT)"; }
 
 /// The whole numbers of an amount: the order of operations leaves nothing to round in a sum.
@@ -32,6 +37,7 @@ std::string Expression(const ControlFigure& figure, const SchemaColumn& column) 
             break;
     }
     if (column.type == SchemaType::kText) return Sum("LENGTH(" + column.name + ")");
+    if (column.type == SchemaType::kDate) return Sum(Digits(column.name));
     return Sum(column.type == SchemaType::kRate ? Scaled(column.name, "100000000") : column.name);
 }
 
@@ -45,7 +51,7 @@ std::vector<ControlFigure> ControlFigures(const SchemaTable& table) {
         if (type == SchemaType::kAmount) {
             figures.push_back({Kind::kDebits, i});
             figures.push_back({Kind::kCredits, i});
-        } else if (type != SchemaType::kDate) {
+        } else {
             figures.push_back({Kind::kOther, i});
         }
     }

@@ -11,8 +11,8 @@ namespace varnel::company {
 /// A query of one row of whole numbers that tells whether two tables hold the same, whichever
 /// databases they are in: the number of rows; then of each column the number of values that are not
 /// null and what they come to, exactly. Of an amount these are the sums of its debits and of its
-/// credits in ten-thousandths, of a rate the sum in hundred-millionths, of a text the characters;
-/// a date has none.
+/// credits in ten-thousandths, of a rate the sum in hundred-millionths, of a text the characters,
+/// of a date its digits as a number.
 std::string ControlQuery(const SchemaTable& table);
 
 /// What each number of that row is about: an index of `table.columns` and, for amounts, its side.

@@ -48,13 +48,6 @@ std::string_view CheckedText(std::string_view text, TextRule rule) {
     return text;
 }
 
-/// Holds a file as it is now, for all queries until it goes: a row set that is not read to its end
-/// keeps the transaction of the connection that they share.
-std::shared_ptr<Recordset> Snapshot(CompanyDatabase& database, const CompanyAddress& address) {
-    if (address.IsServer()) return nullptr;
-    return Query(database, "SELECT name FROM sqlite_schema");
-}
-
 /// Puts one cell of a row into the same column of an insert.
 void CopyCell(const Row& row, std::size_t index, SchemaType type, TextRule texts,
               WritingStatement& insert) {
@@ -150,7 +143,7 @@ class TableCopy {
         throw Error(error_number::kDatabase, "Company",
                     "the copy of " + table_.name + " is not what the company holds (" + what +
                         ": a figure of " + std::to_string(there) + " for " + std::to_string(here) +
-                        "); copy again when nobody is posting");
+                        "); look for a value that cannot be held there as it is");
     }
 
     void Note(const ControlFigure& figure, std::int64_t value, CopiedTable& copied) const {
@@ -177,9 +170,9 @@ std::vector<CopiedTable> CopyCompany(const std::string& from, const std::string&
     const auto target = ParseCompanyAddress(to);
     RequireTwoPlaces(source, target);
     const auto database = OpenDatabase(source, {}, options.cancelled);
-    const auto snapshot = Snapshot(*database, source);
+    const auto snapshot = database->HoldSnapshot();
     RequireCompanyTables(*database, from);
-    const auto writer = NewCompany(target, options.overwrite, options.unfinished_file);
+    const auto writer = NewCompany(target, options);
     const auto texts = target.IsServer() ? TextRule::kUtf8 : TextRule::kAnyBytes;
     std::vector<CopiedTable> tables;
     for (const auto& table : SchemaTables())

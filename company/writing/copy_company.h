@@ -5,20 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "company/writing/unfinished_file.h"
+#include "company/writing/writing_options.h"
 #include "host/currency.h"
 
 namespace varnel::company {
 
-struct CopyOptions {
-    /// Replace a company that is there; otherwise it is an error.
-    bool overwrite = false;
+struct CopyOptions : WritingOptions {
     /// Hears now and then how many rows of a table are copied.
-    std::function<void(const std::string& table, std::int64_t rows)> progress;
-    /// Asked often: true stops the work with an error.
-    std::function<bool()> cancelled;
-    /// Hears which file is unfinished.
-    UnfinishedFileListener unfinished_file = {};
+    std::function<void(const std::string& table, std::int64_t rows)> progress = {};
 };
 
 /// What the amounts of a column come to: debits are positive, credits negative.
@@ -38,9 +32,8 @@ struct CopiedTable {
 /// figures of every table (control_figures.h) were asked of both databases and found the same;
 /// otherwise everything stays as it was. What prevents it is an `Error` that names the place.
 ///
-/// A file is read as it was at the start, whoever posts meanwhile. On a server each table is read
-/// for itself, one after the other: the figures find rows that come or go while their own table is
-/// read, but not entries posted between two tables. Nobody should post then.
+/// The company is read as it was at the start, whoever posts meanwhile. (A server that shows its
+/// snapshots to nobody gives each table as it is when its turn comes: nobody should post then.)
 ///
 /// Texts that are not UTF-8, or hold a zero, go to another file as they are; for a server they are
 /// an error, as it cannot hold them.

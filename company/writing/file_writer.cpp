@@ -65,9 +65,8 @@ class SqliteWritingStatement final : public WritingStatement {
 
 void FileWriter::Close::operator()(sqlite3* handle) const { sqlite3_close(handle); }
 
-FileWriter::FileWriter(const std::filesystem::path& file, bool overwrite,
-                       UnfinishedFileListener listener)
-    : file_(file, overwrite, std::move(listener)) {
+FileWriter::FileWriter(const std::filesystem::path& file, const WritingOptions& options)
+    : file_(file, options.overwrite, options.unfinished_file) {
     Open();
     // The file is thrown away on any failure, so a rollback journal would protect nothing.
     Execute(

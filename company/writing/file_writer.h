@@ -13,7 +13,7 @@ namespace varnel::company {
 /// A company in a new SQLite file.
 class FileWriter final : public CompanyWriter {
   public:
-    FileWriter(const std::filesystem::path& file, bool overwrite, UnfinishedFileListener listener);
+    FileWriter(const std::filesystem::path& file, const WritingOptions& options);
 
     std::unique_ptr<WritingStatement> Prepare(std::string_view sql) override;
     void Execute(const char* sql) override;

@@ -90,11 +90,13 @@ class LiteralStatement final : public WritingStatement {
 
 }  // namespace
 
-ServerWriter::ServerWriter(const CompanyAddress& address, bool overwrite)
-    : place_(address.text), connection_(address.odbc_connection, drivers::OdbcAccess::kWrite) {
+ServerWriter::ServerWriter(const CompanyAddress& address, const WritingOptions& options)
+    : place_(address.text),
+      watch_(options.cancelled),
+      connection_(address.odbc_connection, drivers::OdbcAccess::kWrite, watch_) {
     Execute("SET standard_conforming_strings = on");  // Literals are written for that.
-    if (!overwrite) RequireNoTables(address);
-    if (overwrite) Execute(kServerRemovalSql);
+    if (!options.overwrite) RequireNoTables(address);
+    if (options.overwrite) Execute(kServerRemovalSql);
     Execute(kServerPreludeSql);
     Execute(kSchemaSql);
 }

@@ -6,13 +6,14 @@
 
 #include "company/writing/company_writer.h"
 #include "drivers/odbc/odbc_connection.h"
+#include "drivers/odbc/odbc_watch.h"
 
 namespace varnel::company {
 
 /// A company in a database on a server, made in one transaction.
 class ServerWriter final : public CompanyWriter {
   public:
-    ServerWriter(const CompanyAddress& address, bool overwrite);
+    ServerWriter(const CompanyAddress& address, const WritingOptions& options);
 
     std::unique_ptr<WritingStatement> Prepare(std::string_view sql) override;
     void Execute(const char* sql) override;
@@ -30,6 +31,7 @@ class ServerWriter final : public CompanyWriter {
     void SendRows(const std::string& insert, std::string& rows);
 
     std::string place_;
+    drivers::OdbcWatch watch_;
     drivers::OdbcConnection connection_;
     std::map<std::string, std::string> rows_;  // By statement.
 };

@@ -1,6 +1,7 @@
 #include "drivers/odbc/connection_string.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "host/error.h"
 #include "host/object.h"
@@ -55,6 +56,10 @@ bool NeedsBraces(const std::string& value) {
     return value.find_first_of(";{}[]()?*!@ ") != std::string::npos;
 }
 
+bool SameKeyword(const ConnectionKeyword& one, const ConnectionKeyword& other) {
+    return SameName(one.name, other.name);
+}
+
 }  // namespace
 
 std::vector<ConnectionKeyword> ParseConnectionString(std::string_view text) {
@@ -71,13 +76,17 @@ std::string JoinConnectionString(const std::vector<ConnectionKeyword>& keywords)
 }
 
 std::string WithReadingSettings(std::string_view connection_string) {
-    static const ConnectionKeyword kSettings[] = {{"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}};
+    static const ConnectionKeyword kNeeded[] = {{"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}};
+    static const ConnectionKeyword kUsual[] = {{"KeepaliveTime", "60"},
+                                               {"KeepaliveInterval", "10"}};
     auto keywords = ParseConnectionString(connection_string);
-    for (const auto& setting : kSettings) {
-        std::erase_if(keywords,
-                      [&](const auto& given) { return SameName(given.name, setting.name); });
+    for (const auto& setting : kNeeded) {
+        std::erase_if(keywords, [&](const auto& given) { return SameKeyword(given, setting); });
         keywords.push_back(setting);
     }
+    for (const auto& setting : kUsual)
+        if (std::ranges::none_of(keywords, std::bind_front(SameKeyword, setting)))
+            keywords.push_back(setting);
     return JoinConnectionString(keywords);
 }
 

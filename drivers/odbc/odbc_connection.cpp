@@ -8,7 +8,10 @@
 #include <cstdlib>
 
 #include "drivers/odbc/odbc_error.h"
+#include "drivers/odbc/odbc_watch.h"
 #include "drivers/odbc/utf16.h"
+#include "drivers/query_faults.h"
+#include "host/error.h"
 
 namespace varnel::drivers {
 
@@ -34,8 +37,11 @@ OdbcConnection::Handle OdbcConnection::NewHandle(short type, void* parent) {
     return {handle, Free{type}};
 }
 
-OdbcConnection::OdbcConnection(const std::string& connection_string, OdbcAccess access)
-    : environment_(NewHandle(SQL_HANDLE_ENV, nullptr)), connection_(nullptr, Free{}) {
+OdbcConnection::OdbcConnection(const std::string& connection_string, OdbcAccess access,
+                               OdbcWatch& watch)
+    : watch_(watch),
+      environment_(NewHandle(SQL_HANDLE_ENV, nullptr)),
+      connection_(nullptr, Free{}) {
     SQLSetEnvAttr(environment_.get(), SQL_ATTR_ODBC_VERSION, AsPointer(SQL_OV_ODBC3), 0);
     connection_ = NewHandle(SQL_HANDLE_DBC, environment_.get());
     if (std::getenv("PGCONNECT_TIMEOUT") == nullptr)
@@ -50,9 +56,14 @@ OdbcConnection::OdbcConnection(const std::string& connection_string, OdbcAccess 
     connected_ = true;
     is_postgres_ = FindPostgres();
     if (is_postgres_) LimitWaits();
-    if (access == OdbcAccess::kRead)
-        Execute("SET SESSION CHARACTERISTICS AS TRANSACTION READ ONLY");
+    if (access == OdbcAccess::kRead) OnlyRead();
     SwitchAutocommit(false);
+}
+
+// All that a transaction reads is of one moment, where the server knows how.
+void OdbcConnection::OnlyRead() const {
+    const std::string isolation = is_postgres_ ? "ISOLATION LEVEL REPEATABLE READ, " : "";
+    Execute("SET SESSION CHARACTERISTICS AS TRANSACTION " + isolation + "READ ONLY");
 }
 
 bool OdbcConnection::FindPostgres() const {
@@ -94,9 +105,11 @@ void* OdbcConnection::NewStatement() const {
 OdbcStatementHandle OdbcConnection::Ran(std::string_view sql) const {
     OdbcStatementHandle statement(NewStatement());
     auto text = ToUtf16(sql);
+    const OdbcWatch::Guard guard(watch_, statement.get());
     const auto result = SQLExecDirectW(statement.get(), text.data(), SQL_NTS);
     if (SQL_SUCCEEDED(result) || result == SQL_NO_DATA) return statement;
     constexpr std::size_t kShown = 300;
+    if (watch_.Cancelled()) RaiseOdbc(kCancelled, sql.substr(0, kShown));
     RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), sql.substr(0, kShown));
 }
 
@@ -117,6 +130,17 @@ std::vector<std::int64_t> OdbcConnection::Numbers(std::string_view query) const 
     return numbers;
 }
 
+std::string OdbcConnection::ShortText(std::string_view query) const {
+    const auto statement = Ran(query);
+    std::array<SQLWCHAR, 101> text{};
+    SQLLEN length = 0;
+    if (!SQL_SUCCEEDED(SQLFetch(statement.get())) ||
+        !SQL_SUCCEEDED(
+            SQLGetData(statement.get(), 1, SQL_C_WCHAR, text.data(), sizeof text, &length)))
+        RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), query);
+    return ToUtf8(text.data());
+}
+
 void OdbcConnection::Commit() const {
     if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_COMMIT)))
         RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
@@ -127,6 +151,15 @@ bool OdbcConnection::Rollback() const noexcept {
     SQLUINTEGER dead = SQL_CD_FALSE;
     SQLGetConnectAttrW(connection_.get(), SQL_ATTR_CONNECTION_DEAD, &dead, sizeof dead, nullptr);
     return dead == SQL_CD_FALSE;
+}
+
+bool OdbcConnection::Responds() const noexcept {
+    try {
+        Execute("SELECT 1");
+        return Rollback();
+    } catch (const Error&) {
+        return false;
+    }
 }
 
 }  // namespace varnel::drivers

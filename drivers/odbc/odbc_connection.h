@@ -8,6 +8,8 @@
 
 namespace varnel::drivers {
 
+class OdbcWatch;
+
 /// What a session may do.
 enum class OdbcAccess { kRead, kWrite };
 
@@ -23,7 +25,8 @@ class OdbcConnection {
   public:
     /// Raises error 3709 when there is no driver, no server or no right to enter. Messages show
     /// nothing of the string.
-    OdbcConnection(const std::string& connection_string, OdbcAccess access);
+    /// `watch`, which must outlive the connection, interrupts statements.
+    OdbcConnection(const std::string& connection_string, OdbcAccess access, OdbcWatch& watch);
     ~OdbcConnection();
     OdbcConnection(const OdbcConnection&) = delete;
     OdbcConnection& operator=(const OdbcConnection&) = delete;
@@ -35,9 +38,13 @@ class OdbcConnection {
     void Execute(std::string_view sql) const;
     /// The whole numbers in the first row of a query; null is 0.
     std::vector<std::int64_t> Numbers(std::string_view query) const;
+    /// The one text, of up to 100 characters, that a query gives.
+    std::string ShortText(std::string_view query) const;
     void Commit() const;
     /// False when the connection is of no use any more.
     bool Rollback() const noexcept;
+    /// Asks the server: false when the connection was lost while nobody used it.
+    bool Responds() const noexcept;
 
   private:
     struct Free {
@@ -50,8 +57,10 @@ class OdbcConnection {
     void SwitchAutocommit(bool on) const;
     bool FindPostgres() const;
     void LimitWaits() const;
+    void OnlyRead() const;
     OdbcStatementHandle Ran(std::string_view sql) const;
 
+    OdbcWatch& watch_;
     Handle environment_, connection_;
     bool connected_ = false;
     bool is_postgres_ = false;

@@ -8,6 +8,14 @@ namespace varnel::drivers {
 OdbcConnections::OdbcConnections(std::function<bool()> cancelled)
     : pool_(std::make_shared<OdbcPool>(std::move(cancelled))) {}
 
+std::shared_ptr<void> OdbcConnections::HoldSnapshot() {
+    if (auto held = snapshot_.lock()) return held;
+    pool_->BeginSnapshot();
+    const std::shared_ptr<void> held(pool_.get(), [pool = pool_](void*) { pool->EndSnapshot(); });
+    snapshot_ = held;
+    return held;
+}
+
 std::shared_ptr<Command> NewOdbcCommand(OdbcConnections& connections) {
     return std::make_shared<OdbcCommand>(connections.Pool());
 }

@@ -21,10 +21,15 @@ class OdbcConnections {
     /// thread: when it says yes the query ends with error 3709.
     explicit OdbcConnections(std::function<bool()> cancelled = {});
 
+    /// While an object that this gave lives, every query sees the database as it was at the first
+    /// of them, whoever writes meanwhile; on PostgreSQL, elsewhere nothing changes.
+    std::shared_ptr<void> HoldSnapshot();
+
     const std::shared_ptr<OdbcPool>& Pool() const { return pool_; }
 
   private:
     std::shared_ptr<OdbcPool> pool_;
+    std::weak_ptr<void> snapshot_;
 };
 
 /// A query over ODBC. Its connection string is an ODBC one ("Driver={PostgreSQL Unicode};…");

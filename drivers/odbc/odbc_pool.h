@@ -1,11 +1,14 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "drivers/odbc/odbc_connection.h"
+#include "drivers/odbc/odbc_snapshot.h"
 #include "drivers/odbc/odbc_watch.h"
 
 namespace varnel::drivers {
@@ -15,19 +18,31 @@ class OdbcPool {
   public:
     explicit OdbcPool(std::function<bool()> cancelled) : watch_(std::move(cancelled)) {}
 
+    /// A connection that reads; within a snapshot, as of that.
     std::unique_ptr<OdbcConnection> Take(const std::string& connection_string);
     /// Ends its transaction and keeps it, unless it has failed or enough are kept.
     void Give(const std::string& connection_string, std::unique_ptr<OdbcConnection> connection);
 
+    /// From now on every connection reads as of the same moment, that of the first one taken.
+    void BeginSnapshot() { in_snapshot_ = true; }
+    void EndSnapshot();
+
     OdbcWatch& Watch() { return watch_; }
 
   private:
+    using Clock = std::chrono::steady_clock;
     struct Idle {
         std::string connection_string;
         std::unique_ptr<OdbcConnection> connection;
+        Clock::time_point since;
     };
+
+    std::unique_ptr<OdbcConnection> TakeAny(const std::string& connection_string);
+
+    OdbcWatch watch_;  // Outlives the connections.
     std::vector<Idle> idle_;
-    OdbcWatch watch_;
+    bool in_snapshot_ = false;
+    std::map<std::string, OdbcSnapshot, std::less<>> snapshots_;  // By connection string.
 };
 
 }  // namespace varnel::drivers

@@ -126,7 +126,10 @@ void dsrRealizedExchProfitloss::ActiveReport_ReportStart() {
     });
 }
 
-void dsrRealizedExchProfitloss::ActiveReport_Terminate() { accounts_.reset(); }
+void dsrRealizedExchProfitloss::ActiveReport_Terminate() {
+    accounts_.reset();
+    ReportBase::ActiveReport_Terminate();
+}
 
 // Before the rows are asked for: a query beside an open row set may end it in some databases.
 void dsrRealizedExchProfitloss::LoadAccounts() {

@@ -96,7 +96,10 @@ void dsrUnRealExchProfitloss::ActiveReport_ReportStart() {
     });
 }
 
-void dsrUnRealExchProfitloss::ActiveReport_Terminate() { accounts_.reset(); }
+void dsrUnRealExchProfitloss::ActiveReport_Terminate() {
+    accounts_.reset();
+    ReportBase::ActiveReport_Terminate();
+}
 
 std::string dsrUnRealExchProfitloss::BuildStatement() {
     std::string statement(kSelect);

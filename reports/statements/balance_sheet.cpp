@@ -68,6 +68,11 @@ void dsrBalanceSheet::SetLines(Lines lines) {
     SetRowLine(lines_.row);
 }
 
+void dsrBalanceSheet::ActiveReport_Terminate() {
+    control_accounts_.reset();
+    StatementReport::ActiveReport_Terminate();
+}
+
 // A report that could not start knows no total.
 void dsrBalanceSheet::ActiveReport_ReportStart() {
     Guard("ActiveReport_ReportStart", [&] {

@@ -20,7 +20,7 @@ class dsrBalanceSheet : public StatementReport {
 
     std::string IExcelAddInExport_ExcelAddInTemplate() override { return "BalanceSheet"; }
     void ActiveReport_ReportStart() override;
-    void ActiveReport_Terminate() override { control_accounts_.reset(); }
+    void ActiveReport_Terminate() override;
 
   protected:
     /// Printed lines, as a layout names their controls.

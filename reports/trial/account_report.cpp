@@ -16,6 +16,11 @@ void AccountReport::IReport_Initialize() {
     });
 }
 
+void AccountReport::ActiveReport_Terminate() {
+    amounts_.reset();
+    ReportBase::ActiveReport_Terminate();
+}
+
 void AccountReport::StartAmounts(const AccountAmounts::Period& period) {
     Mark(), earnings_ = ReadEarningsAccounts(CurrentCompany());
     Mark(), amounts_.emplace(CurrentCompany(), Rates(), earnings_, period);

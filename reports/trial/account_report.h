@@ -17,7 +17,7 @@ class AccountReport : public framework::ReportBase,
                       public framework::FilterableReport {
   public:
     void IReport_Initialize() override;
-    void ActiveReport_Terminate() override { amounts_.reset(); }
+    void ActiveReport_Terminate() override;
 
   protected:
     AccountReport(const Layout& layout, const Facts& facts);

@@ -13,6 +13,7 @@ from varnel import main
 FAILED, MESSAGES = 1, 3
 SERVER_SCRIPT = pathlib.Path(__file__).resolve().parents[1] / "support" / "postgres_server"
 DETAIL = ["run", "trial-balance-detail", "--from", "2024-01-01", "--company"]
+PLACE = r"in Varnel\.\w+\.\w+ at line [1-9]\d*\n"
 # A condition that is true and takes a millisecond a row.
 SLOW = "pg_sleep(0.001) IS NOT NULL"
 
@@ -30,6 +31,8 @@ class Failures(ServerTest):
         code, _, errors = self.run_varnel(*arguments, **options)
         self.assertIn(code, codes, errors)
         self.assertIn(message, errors)
+        if arguments[0] == "run":
+            self.assertRegex(errors, PLACE)
         self.assertEqual(before, sorted(self.folder.iterdir()))
 
     def run_to_file(self, report, company, *arguments):
@@ -47,6 +50,8 @@ class Failures(ServerTest):
         _, errors = process.communicate(timeout=30)
         self.assertIn(process.returncode, (FAILED, MESSAGES), errors)
         self.assertIn(message, errors.decode())
+        if process.args[1] == "run":
+            self.assertRegex(errors.decode(), PLACE)
         self.assertFalse((self.folder / "out.csv").exists())
 
     def test_sessions_that_end_in_the_middle_of_a_report(self):
@@ -71,7 +76,7 @@ class Failures(ServerTest):
                  f"'{self.database}' AND pid <> pg_backend_pid()")
         _, errors = process.communicate(timeout=30)
         self.assertIn(process.returncode, (FAILED, MESSAGES), errors)
-        self.assertIn("SQLSTATE", errors.decode())
+        self.assertRegex(errors.decode(), f"SQLSTATE(.|\n)*{PLACE}")
 
     def test_a_server_that_stops_in_the_middle_of_a_report(self):
         with tempfile.TemporaryDirectory(dir="/tmp") as folder:
@@ -120,12 +125,14 @@ class Failures(ServerTest):
             self.assertEqual("12000", self.sql("SELECT count(*) FROM GLDet"))
 
     def test_waiting_for_a_lock_ends_by_an_interrupt(self):
-        with self.locked("GLDet"):
-            process = self.start(*self.run_to_file("general-journal", self.server))
-            self.wait_for_sessions("wait_event_type = 'Lock'")
-            process.send_signal(2)
-            process.communicate(timeout=10)
-            self.assertEqual(130, process.returncode)
+        for arguments in (self.run_to_file("general-journal", self.server),
+                          ["copy", "shop.db", self.server, "--force"]):
+            with self.locked("GLDet"):
+                process = self.start(*arguments)
+                self.wait_for_sessions("wait_event_type = 'Lock'")
+                process.send_signal(2)
+                process.communicate(timeout=10)
+                self.assertEqual(130, process.returncode)
 
     def test_a_server_that_does_not_answer_is_given_up(self):
         with socket.create_server(("127.0.0.1", 0)) as silent:

@@ -8,8 +8,10 @@ void DemoDatabase::Close::operator()(sqlite3* handle) const { sqlite3_close(hand
 
 DemoDatabase::DemoDatabase(std::int64_t lines, std::uint64_t seed) {
     const auto file = folder_ / "demo.db";
-    CreateDemoCompany(file,
-                      {.lines = lines, .seed = seed, .overwrite = false, .progress = nullptr});
+    DemoOptions options;
+    options.lines = lines;
+    options.seed = seed;
+    CreateDemoCompany(file, options);
     sqlite3* handle = nullptr;
     sqlite3_open_v2(file.c_str(), &handle, SQLITE_OPEN_READONLY, nullptr);
     handle_.reset(handle);

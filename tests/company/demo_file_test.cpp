@@ -12,7 +12,10 @@ namespace {
 namespace fs = std::filesystem;
 
 DemoOptions Small(std::uint64_t seed = 1) {
-    return {.lines = 2'000, .seed = seed, .overwrite = false, .progress = nullptr};
+    DemoOptions options;
+    options.lines = 2'000;
+    options.seed = seed;
+    return options;
 }
 
 std::string Refusal(const fs::path& file, const DemoOptions& options) {
@@ -62,10 +65,12 @@ TEST(DemoFile, LeavesNothingWhenItIsStopped) {
     const TemporaryFolder folder;
     DemoOptions options = Small();
     std::int64_t most = 0;
+    bool half = false;
     options.progress = [&](std::int64_t done, std::int64_t lines) {
         most = done;
-        return done * 2 < lines;
+        half = done * 2 >= lines;
     };
+    options.cancelled = [&] { return half; };
     EXPECT_THAT(Refusal(folder / "shop.db", options), testing::HasSubstr("stopped"));
     EXPECT_GE(most, 1'000);
     EXPECT_TRUE(fs::is_empty(folder.Path()));

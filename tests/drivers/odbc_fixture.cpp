@@ -7,6 +7,7 @@
 
 #include "company/schema/schema.h"
 #include "drivers/odbc/odbc_connection.h"
+#include "drivers/odbc/odbc_watch.h"
 
 namespace varnel::drivers {
 
@@ -24,7 +25,8 @@ OdbcFixture::OdbcFixture() {
 OdbcFixture::~OdbcFixture() { Prepare("DROP SCHEMA " + schema_ + " CASCADE"); }
 
 void OdbcFixture::Prepare(const std::string& script) {
-    const OdbcConnection connection(ConnectionString(), OdbcAccess::kWrite);
+    OdbcWatch watch({});
+    const OdbcConnection connection(ConnectionString(), OdbcAccess::kWrite, watch);
     connection.Execute(script);
     connection.Commit();
 }

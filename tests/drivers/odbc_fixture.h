@@ -19,6 +19,7 @@ class OdbcFixture final : public DriverFixture {
     void Prepare(const std::string& script) override;
     std::shared_ptr<Command> NewCommand() override { return NewOdbcCommand(connections_); }
     std::string ConnectionString() override;
+    std::shared_ptr<void> HoldSnapshot() { return connections_.HoldSnapshot(); }
 
   private:
     std::string schema_;

@@ -4,6 +4,7 @@
 #include <clocale>
 #include <cstdlib>
 #include <filesystem>
+#include <thread>
 
 #include "tests/drivers/odbc_fixture.h"
 
@@ -158,6 +159,32 @@ TEST_F(OdbcReading, ConnectionsServeOneQueryAfterTheOther) {
     EXPECT_EQ(process(), first);
     const auto streaming = database_->Query("SELECT i FROM generate_series(1, 9000) i");
     EXPECT_NE(process(), first);
+}
+
+TEST_F(OdbcReading, AConnectionThatWasLostWhileItRestedIsReplaced) {
+    const auto lost = database_->Value("SELECT pg_backend_pid()");
+    database_->Prepare("SELECT pg_terminate_backend(" + lost + ")");
+    std::this_thread::sleep_for(std::chrono::milliseconds(1'100));
+    EXPECT_NE(database_->Value("SELECT pg_backend_pid()"), lost);
+}
+
+TEST_F(OdbcReading, AllQueriesOfASnapshotSeeOneMoment) {
+    database_->Prepare("CREATE TABLE T (Id INTEGER NOT NULL)");
+    const auto post = [&] { database_->Prepare("INSERT INTO T SELECT generate_series(1, 6000)"); };
+    const auto count = [&] { return database_->Value("SELECT COUNT(*) FROM T"); };
+    post();
+    auto held = database_->HoldSnapshot();
+    EXPECT_EQ(count(), "6000");
+    const auto streaming = database_->Query("SELECT Id FROM T");
+    post();
+    EXPECT_EQ(count(), "6000");
+    EXPECT_EQ(database_->HoldSnapshot(), held);
+    EXPECT_NE(database_->Failure("SELECT 1 / 0").Number(), 0);
+    EXPECT_EQ(count(), "6000");
+    held.reset();
+    EXPECT_EQ(count(), "12000");
+    held = database_->HoldSnapshot();
+    EXPECT_EQ(count(), "12000");
 }
 
 }  // namespace

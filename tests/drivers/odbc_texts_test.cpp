@@ -30,8 +30,8 @@ TEST(ConnectionString, IsRefusedWithoutItsValuesBeingShown) {
 }
 
 TEST(ConnectionString, HasTheSettingsThatReadingRestsOnWhateverItSays) {
-    EXPECT_EQ(WithReadingSettings("DSN=shop;boolsaschar=1;UseDeclareFetch=1"),
-              "DSN=shop;UseDeclareFetch=0;BoolsAsChar=0;");
+    EXPECT_EQ(WithReadingSettings("DSN=shop;boolsaschar=1;UseDeclareFetch=1;keepalivetime=5"),
+              "DSN=shop;keepalivetime=5;UseDeclareFetch=0;BoolsAsChar=0;KeepaliveInterval=10;");
 }
 
 TEST(OneQuery, IsSentFromItsFirstWordToItsLast) {

@@ -149,5 +149,13 @@ TEST_F(ReportBaseTest, CaptionsAreTranslatedWithoutAcceleratorsBeforeTheRun) {
     EXPECT_THAT(host_->message_boxes, testing::IsEmpty());
 }
 
+TEST_F(ReportBaseTest, ARunReadsTheCompanyAsItWasAtItsStart) {
+    report_->IReport_Application(host_);
+    report_->ActiveReport_Initialize();
+    EXPECT_TRUE(host_->database.SnapshotIsHeld());
+    report_->ActiveReport_Terminate();
+    EXPECT_FALSE(host_->database.SnapshotIsHeld());
+}
+
 }  // namespace
 }  // namespace varnel::framework

@@ -66,6 +66,12 @@ class CountedRows final : public Recordset {
 
 }  // namespace
 
+std::shared_ptr<void> MemoryDatabase::HoldSnapshot() {
+    const std::shared_ptr<void> held = std::make_shared<int>();
+    snapshot_ = held;
+    return held;
+}
+
 std::shared_ptr<Command> MemoryDatabase::NewCommand() {
     calls_.Note("NewCommand");
     commands_.push_back(std::make_shared<RecordedCommand>());

@@ -41,6 +41,8 @@ class MemoryDatabase final : public CompanyDatabase {
     std::string ConnectionString() override { return "memory"; }
     int DatabaseType() override { return type; }
     std::shared_ptr<Command> NewCommand() override;
+    std::shared_ptr<void> HoldSnapshot() override;
+    bool SnapshotIsHeld() const { return !snapshot_.expired(); }
     void BindParameters(Command& command, std::span<const Variant> parameters) override;
 
     // For its commands.
@@ -48,6 +50,7 @@ class MemoryDatabase final : public CompanyDatabase {
 
   private:
     HostCalls& calls_;
+    std::weak_ptr<void> snapshot_;
     std::vector<std::pair<std::string, RowSet>> answers_;
     std::vector<std::shared_ptr<RecordedCommand>> commands_;
 };
