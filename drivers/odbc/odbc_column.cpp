@@ -21,6 +21,14 @@ namespace {
 constexpr std::size_t kTextWidth = 256 * sizeof(SQLWCHAR);
 constexpr std::size_t kDecimalWidth = 64;
 constexpr std::size_t kPiece = 8 * 1024;
+constexpr SQLLEN kDateWidth = 10;  // Shown as 2025-03-31, without a time.
+
+SQLLEN Attribute(void* statement, SQLUSMALLINT number, SQLUSMALLINT field) {
+    SQLLEN value = 0;
+    const auto result = SQLColAttributeW(statement, number, field, nullptr, 0, nullptr, &value);
+    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement).Describe());
+    return value;
+}
 
 template <class Value>
 Value Load(const char* bytes) {
@@ -79,8 +87,6 @@ OdbcColumn::Kind OdbcColumn::KindOf(short sql_type) {
         case SQL_NUMERIC:
         case SQL_DECIMAL:
             return Kind::kDecimal;
-        case SQL_TYPE_DATE:
-            return Kind::kDate;
         case SQL_BINARY:
         case SQL_VARBINARY:
         case SQL_LONGVARBINARY:
@@ -92,13 +98,16 @@ OdbcColumn::Kind OdbcColumn::KindOf(short sql_type) {
 
 OdbcColumn::OdbcColumn(void* statement, unsigned short number) : number_(number) {
     std::array<SQLWCHAR, 256> name{};
-    SQLSMALLINT length = 0, type = 0, decimals = 0, nullable = 0;
-    SQLULEN size = 0;
-    const auto result = SQLDescribeColW(statement, number, name.data(), name.size(), &length, &type,
-                                        &size, &decimals, &nullable);
+    SQLSMALLINT length = 0;
+    const auto result = SQLDescribeColW(statement, number, name.data(), name.size(), &length,
+                                        nullptr, nullptr, nullptr, nullptr);
     if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement).Describe());
     name_ = ToUtf8(name.data());
-    kind_ = KindOf(type);
+    // The precise type, of dates for one, has the driver look tables up on the server.
+    const auto type = Attribute(statement, number, SQL_DESC_TYPE);
+    const bool is_date =
+        type == SQL_DATETIME && Attribute(statement, number, SQL_DESC_DISPLAY_SIZE) == kDateWidth;
+    kind_ = is_date ? Kind::kDate : KindOf(static_cast<short>(type));
 }
 
 short OdbcColumn::CType() const {
