@@ -9,6 +9,8 @@ import unittest
 from varnel import VarnelTest
 
 SERVER = os.environ.get("VARNEL_POSTGRES", "")
+if SERVER:
+    os.environ["ODBCSYSINI"] = SERVER
 
 
 @unittest.skipUnless(SERVER and pathlib.Path(SERVER).exists(),

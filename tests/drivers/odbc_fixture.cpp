@@ -13,7 +13,9 @@ namespace varnel::drivers {
 
 std::string ServerFolder() {
     const char* folder = std::getenv("VARNEL_POSTGRES");
-    return folder != nullptr && std::filesystem::exists(folder) ? folder : "";
+    if (folder == nullptr || !std::filesystem::exists(folder)) return "";
+    ::setenv("ODBCSYSINI", folder, 1);
+    return folder;
 }
 
 OdbcFixture::OdbcFixture() {
