@@ -3,13 +3,8 @@
 
 #include "tests/journal/journal_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::Amount;
-using test::CollectedBand;
-using test::JournalLine;
-using test::JournalRun;
 
 JournalLine InDollars(const char* home, const char* foreign) {
     auto line = Amount(home);
@@ -31,7 +26,7 @@ class ForeignAmountTest : public testing::TestWithParam<ForeignCase> {};
 TEST_P(ForeignAmountTest, IsShownWhenAllThreeConditionsHold) {
     const auto& [several_currencies, flag, foreign_line, shown] = GetParam();
     JournalRun run;
-    if (!several_currencies) run.host->company.currency_info.records.pop_back();
+    if (!several_currencies) run.host->company.currency_info.records.resize(1);
     run.report->IReport_DisplayForeignCurrency(flag);
     const auto bands = run({foreign_line ? InDollars("135", "100") : Amount("135")});
     const auto line = bands.Of("Detail").at(0);
@@ -66,7 +61,7 @@ TEST(ForeignAmountsTest, AreInTheFormatOfTheLinesOwnCurrency) {
     EXPECT_TRUE(lines[2]["txtForeign"].visible);
 }
 
-Box PlaceOf(const test::CollectedBands& bands, const char* section, const char* control) {
+Box PlaceOf(const CollectedBands& bands, const char* section, const char* control) {
     return bands.Of(section).at(0)[control].box;
 }
 
@@ -115,4 +110,4 @@ TEST(ForeignAmountsTest, LeaveTheColumnsWhereTheyWereInARunWithoutThem) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

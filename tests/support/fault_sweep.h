@@ -21,6 +21,13 @@ struct Swept {
     const char* when_empty = "";
 };
 
+/// A report over its rows.
+template <class Run, class Row>
+struct RunOver : Run {
+    std::vector<Row> rows;
+    CollectedBands operator()() { return Run::operator()(rows); }
+};
+
 /// Sets the report up again and runs it, call `failing` of the host from then on failing; 0 lets
 /// all pass. Nothing when that ends it with an error for the caller.
 template <class Run>
