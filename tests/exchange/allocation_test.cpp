@@ -5,37 +5,34 @@
 #include "tests/exchange/unrealized_run.h"
 #include "tests/support/allocations_between.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::AllocationsBetween;
-
 long AllocationsOfPayments(std::size_t count) {
-    test::RealizedRun run;
+    RealizedRun run;
     run.host->calls.StopCounting();
-    auto payment = test::Paid("980");
+    auto payment = Paid("980");
     payment.discount = Currency::FromWhole(20);
     payment.name = "A customer whose name is longer than what a text holds in place";
-    const std::vector<test::PaymentRow> same(count, payment);
-    run.host->database.Answer("FROM CurrPmtDet_View", test::PaymentRows(same));
+    const std::vector<PaymentRow> same(count, payment);
+    run.host->database.Answer("FROM CurrPmtDet_View", PaymentRows(same));
     return AllocationsBetween("ghCurrency", "gfCurrPmtType", *run.report->IReport_ReportDesigner());
 }
 
 long AllocationsOfBalances(std::size_t count) {
-    test::UnrealizedRun run;
+    UnrealizedRun run;
     run.host->calls.StopCounting();
-    const std::vector<test::ForeignRow> same(count, {1'060, 2, "12.34", "15"});
-    run.host->database.Answer("SUM(ForeignAmnt)", test::ForeignRows(same));
+    const std::vector<ForeignRow> same(count, {1'060, 2, "12.34", "15"});
+    run.host->database.Answer("SUM(ForeignAmnt)", ForeignRows(same));
     return AllocationsBetween("ghCurrency", "gfAccountType", *run.report->IReport_ReportDesigner());
 }
 
 long AllocationsOfLines(std::size_t count) {
-    test::DetailRun run;
+    DetailRun run;
     run.host->calls.StopCounting();
-    auto line = test::Line("12.34", "15");
+    auto line = Line("12.34", "15");
     line.description = "Goods delivered in two parts, the second one late";
-    run.host->database.Answer(test::kLinesStatement,
-                              test::LineRows(std::vector<test::ForeignLine>(count, line)));
+    run.host->database.Answer(kLinesStatement, LineRows(std::vector<ForeignLine>(count, line)));
     return AllocationsBetween("ghGLAcct", "gfGLAcct", run.Designer());
 }
 
@@ -56,4 +53,4 @@ TEST(ExchangeAllocationTest, ARowAllocatesNothing) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

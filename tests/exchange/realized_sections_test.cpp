@@ -3,12 +3,9 @@
 
 #include "tests/exchange/realized_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::Paid;
-using test::PaymentRow;
-using test::RealizedRun;
 using testing::ElementsAre;
 
 PaymentRow Deposited(std::int32_t account_id) {
@@ -25,7 +22,7 @@ TEST(RealizedPageTest, IsTheRealizedGainOrLossOfThePeriod) {
     EXPECT_FALSE(run.report->IReport_NoHeaders());
     const auto header = run({}).Of("PageHeader").at(0);
     EXPECT_EQ(header.Text("hdrTitle"), "Realized Gain");
-    EXPECT_EQ(header.Text("lblDateFromDateTo"), "From 2025-01-01 to 2025-03-31");
+    EXPECT_EQ(header.Text("lblDateFromDateTo"), "From 2025-02-01 to 2025-03-31");
     EXPECT_EQ(header.Text("lblPaidCap"), "Paid");
     EXPECT_EQ(header["lblGainCap"].box.top, header["StandardHeader"].box.Bottom() + 90);
     EXPECT_EQ(header.height, header["lblGainCap"].box.Bottom());
@@ -140,4 +137,4 @@ TEST(RealizedTotalsTest, WithoutRowsAreAZero) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,11 +3,9 @@
 
 #include "tests/exchange/unrealized_detail_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DetailRun;
-using test::Line;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -70,4 +68,4 @@ TEST(UnrealizedDetailFailureTest, AnAccountThatTheCompanyDoesNotHaveEndsTheStart
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

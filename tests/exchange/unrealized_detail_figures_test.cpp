@@ -3,19 +3,14 @@
 
 #include "tests/exchange/unrealized_detail_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DetailFigures;
-using test::DetailRun;
-using test::FooterFigures;
-using test::ForwardFigures;
-using test::Line;
 using testing::ElementsAre;
 
 TEST(UnrealizedDetailFiguresTest, AZeroAmountIsNotPrintedAndCountsAllTheSame) {
     DetailRun run;
-    test::ForeignLine null = Line("0", "7");
+    ForeignLine null = Line("0", "7");
     null.foreign = Variant::Null{};
     const auto bands = run({Line("100", "130"), Line("0", "-5.50"), Line("20", "0"), null});
     EXPECT_THAT(DetailFigures(bands), ElementsAre("100.00 130.00 137.25 7.25", "- -5.50 0.00 5.50",
@@ -54,4 +49,4 @@ TEST(UnrealizedDetailFiguresTest, ForeignAmountsHaveTheDecimalsOfTheirCurrencyHo
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

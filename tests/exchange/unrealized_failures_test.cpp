@@ -3,10 +3,9 @@
 
 #include "tests/exchange/unrealized_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::UnrealizedRun;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::MatchesRegex;
@@ -50,4 +49,4 @@ TEST(UnrealizedFailureTest, ABalanceThatCannotBeValuedLeavesBlankWhatItBelongsTo
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

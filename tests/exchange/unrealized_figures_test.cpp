@@ -5,12 +5,9 @@
 
 #include "tests/exchange/unrealized_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::CollectedBand;
-using test::CollectedBands;
-using test::UnrealizedRun;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -48,12 +45,6 @@ TEST(UnrealizedFiguresTest, AreInTheFormatOfTheirCurrency) {
     EXPECT_THAT(bands.Texts("gfAccountType", "txtForeign"), ElementsAre("1,000"));
     EXPECT_THAT(Figures(bands), ElementsAre("1,300.000 1,372.500 72.500"));
     EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre("72.500"));
-}
-
-TEST(UnrealizedFiguresTest, AreAtTheBookedRateWhenNothingIsRevalued) {
-    UnrealizedRun run;
-    run.report->IReport_ReportDesigner()->Put("RatesPreset", true);
-    EXPECT_THAT(Figures(run({{1'060, 2, "100", "130"}})), ElementsAre("130.00 125.00 -5.00"));
 }
 
 TEST(UnrealizedFiguresTest, AreThoseBookedInACompanyOfOneCurrency) {
@@ -94,4 +85,4 @@ TEST(UnrealizedPageTest, SaysClosingDateRatesAndSegments) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test
