@@ -41,18 +41,14 @@ auto UnrealizedDetail() {
 }
 
 TEST(ExchangeFaultSweepTest, OfTheRealizedReportTellsEveryFailureAndShowsNoWrongFigure) {
-    const auto right = SweepFaults({"dsrRealizedExchProfitloss",
-                                    {{"Detail", {"txtPmtDate"}},
-                                     {"Detail", {"txtExchangeRate"}},
-                                     {"Detail", {"txtPmtRate"}},
-                                     {"Detail", {"txtPaid"}},
-                                     {"Detail", {"txtGain"}},
-                                     {"ghCurrency", {"txtCurrency"}},
-                                     {"ghCurrPmtType", {"txtAccount"}},
-                                     {"gfCurrPmtType", {"txtPaidTotal"}},
-                                     {"gfCurrPmtType", {"txtGainTotal"}},
-                                     {"ReportFooter", {"txtGainGrandTotal"}}}},
-                                   Realized);
+    const auto right = SweepFaults(
+        {"dsrRealizedExchProfitloss",
+         {{"Detail", {"txtPmtDate", "txtExchangeRate", "txtPmtRate", "txtPaid", "txtGain"}},
+          {"ghCurrency", {"txtCurrency"}},
+          {"ghCurrPmtType", {"txtAccount"}},
+          {"gfCurrPmtType", {"txtPaidTotal", "txtGainTotal"}},
+          {"ReportFooter", {"txtGainGrandTotal"}}}},
+        Realized);
     // 0.0225 on each dollar and yen.
     EXPECT_THAT(Shown(right, "gfCurrPmtType", {"txtPaidTotal", "txtGainTotal"}),
                 ElementsAre("1,400.00|31.50", "600.00|-13.50", "150,000.00|-3,375.00"));
@@ -60,17 +56,12 @@ TEST(ExchangeFaultSweepTest, OfTheRealizedReportTellsEveryFailureAndShowsNoWrong
 }
 
 TEST(ExchangeFaultSweepTest, OfTheUnrealizedReportTellsEveryFailureAndShowsNoWrongFigure) {
-    const auto right = SweepFaults({"dsrUnRealExchProfitloss",
-                                    {{"gfAccountType", {"txtAccount"}},
-                                     {"gfAccountType", {"txtForeign"}},
-                                     {"gfAccountType", {"txtBooked"}},
-                                     {"gfAccountType", {"txtRevalued"}},
-                                     {"gfAccountType", {"txtGain"}},
-                                     {"gfCurrency", {"txtBookedTotal"}},
-                                     {"gfCurrency", {"txtRevaluedTotal"}},
-                                     {"gfCurrency", {"txtGainTotal"}},
-                                     {"ReportFooter", {"txtGainGrandTotal"}}}},
-                                   Unrealized);
+    const auto right = SweepFaults(
+        {"dsrUnRealExchProfitloss",
+         {{"gfAccountType", {"txtAccount", "txtForeign", "txtBooked", "txtRevalued", "txtGain"}},
+          {"gfCurrency", {"txtBookedTotal", "txtRevaluedTotal", "txtGainTotal"}},
+          {"ReportFooter", {"txtGainGrandTotal"}}}},
+        Unrealized);
     // 147 - 150 + 1,098 - 1,030 + 13.73 - 13.
     EXPECT_THAT(right.Texts("gfAccountType", "txtGain"), ElementsAre("-3.00", "68.00", "0.73"));
     EXPECT_THAT(right.Texts("gfCurrency", "txtGainTotal"), ElementsAre("-3.00", "68.73"));

@@ -32,19 +32,14 @@ auto RunBefore() {
 }
 
 TEST(JournalFaultSweepTest, EveryFailureIsToldAndEveryFigureIsRightOrBlank) {
-    const auto right = SweepFaults({"dsrGeneralJournal",
-                                    {{"ghSeqNo", {"txtSeqNo"}},
-                                     {"ghSeqNo", {"txtDate"}},
-                                     {"Detail", {"txtDebit"}},
-                                     {"Detail", {"txtCredit"}},
-                                     {"Detail", {"txtForeign"}},
-                                     {"gfSeqNo", {"txtDebitTotal"}},
-                                     {"gfSeqNo", {"txtCreditTotal"}},
-                                     {"ReportFooter", {"txtDebitGrandTotal"}},
-                                     {"ReportFooter", {"txtCreditGrandTotal"}},
-                                     {"ReportFooter", {"txtCount"}}},
-                                    "0 entries"},
-                                   RunBefore);
+    const auto right =
+        SweepFaults({"dsrGeneralJournal",
+                     {{"ghSeqNo", {"txtSeqNo", "txtDate"}},
+                      {"Detail", {"txtDebit", "txtCredit", "txtForeign"}},
+                      {"gfSeqNo", {"txtDebitTotal", "txtCreditTotal"}},
+                      {"ReportFooter", {"txtDebitGrandTotal", "txtCreditGrandTotal", "txtCount"}}},
+                     "0 entries"},
+                    RunBefore);
     EXPECT_EQ(right.Texts("ReportFooter", "txtDebitGrandTotal").at(0), "200.00");
 }
 

@@ -6,14 +6,9 @@
 #include "tests/engine/micro_report.h"
 #include "tests/trial/trial_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::CollectedBands;
-using test::kRetainedEarnings;
-using test::LedgerRun;
-using test::Shown;
-using test::TrialRun;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -61,10 +56,6 @@ TEST(LedgerByAccountTest, BringsBalancesForwardAndPrintsEveryLineAlsoOfZero) {
     EXPECT_THAT(Subtotals(bands), ElementsAre("1,040.00|90.00|1,000.00|DT", "3.00|0.00|0.00|DT"));
     EXPECT_THAT(GrandTotals(bands), ElementsAre("1,043.00|90.00|1,000.00|DT"));
     EXPECT_THAT(GrandTotals(run()), ElementsAre("1,043.00|90.00|1,000.00|DT")) << "run again";
-}
-
-TEST(LedgerByAccountTest, RevaluesNothing) {
-    EXPECT_EQ(dynamic_cast<IExchangeRates*>(LedgerRun().report.get()), nullptr);
 }
 
 /// Checks both boxes or neither; tells which the dialog showed and which were checked before.
@@ -121,25 +112,6 @@ TEST(LedgerByAccountOptionsTest, RemarksStandUnderTheirLineOnRequest) {
     EXPECT_EQ(lines[2].height, lines[1].height);
 }
 
-TEST(LedgerByAccountTest, ForeignAmountsHaveTheCodeOfTheirLine) {
-    TrialRun run = LedgerRun();
-    run.chart = {{1'030, 1, 2}};
-    run.Post(1'030, "2025-02-10", "2000", "-1234", 3);
-    run.Post(1'030, "2025-02-11", "1", "1", 1);
-    const Lines columns{"txtForeign", "txtCurrencyCode"};
-    const auto plain = run();
-    EXPECT_THAT(Shown(plain, "Detail", columns), ElementsAre("|", "|"));
-    run.report->IReport_DisplayForeignCurrency(true);
-    const auto bands = run();
-    EXPECT_THAT(Shown(bands, "Detail", columns), ElementsAre("-1,234.00 EUR|EUR", "|"));
-    EXPECT_TRUE(bands.Of("PageHeader")[0]["lblForeignCap"].visible);
-    EXPECT_FALSE(plain.Of("PageHeader")[0]["lblForeignCap"].visible);
-    const auto line = bands.Of("Detail")[0], wide = plain.Of("Detail")[0];
-    EXPECT_LT(line["txtDetDesc"].box.Right(), line["txtForeign"].box.left);
-    EXPECT_GT(wide["txtDetDesc"].box.Right(), wide["txtForeign"].box.left);
-    EXPECT_LT(wide["txtDetDesc"].box.Right(), wide["txtDebit"].box.left);
-}
-
 TEST(LedgerByAccountTest, KeysLeadToTheAccountAndToTheDocumentOfALine) {
     TrialRun run = LedgerRun();
     run.chart = {{1'010}, {kRetainedEarnings, 3}};
@@ -161,7 +133,7 @@ TEST(LedgerByAccountTest, AnAmountThatCannotBeReadLeavesOnlyItsOwnTotalsBlank) {
     const auto column = std::find(rows.columns.begin(), rows.columns.end(), "DetAmnt");
     rows.rows[1][static_cast<std::size_t>(column - rows.columns.begin())] = "6,00";
     run.host->database.Answer("LEFT JOIN GLDet ON", rows);
-    const auto bands = test::Collect(*run.report->IReport_ReportDesigner());
+    const auto bands = Collect(*run.report->IReport_ReportDesigner());
     EXPECT_THAT(Shown(bands, "Detail", {"txtDebit", "txtBalance", "lblBalanceType"}),
                 ElementsAre("5.00|5.00|DT", "||", "7.00||", "8.00|8.00|DT"));
     EXPECT_THAT(Subtotals(bands), ElementsAre("|||", "8.00|0.00|8.00|DT"));
@@ -221,4 +193,4 @@ TEST(LedgerByAccountPagesTest, LongRemarksWrapUnderTheDescription) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test
