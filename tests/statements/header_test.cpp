@@ -3,13 +3,9 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::IncomeRun;
-using test::SheetRun;
-using test::Shown;
-using test::StatementRun;
 using testing::ElementsAre;
 
 // What stands over the rows: titles, dates, rates, projects.
@@ -157,4 +153,4 @@ TEST(IncomeHeaderTest, TakesALineForProjectsAndOneForRates) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

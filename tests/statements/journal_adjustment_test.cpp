@@ -5,14 +5,10 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 using reports::dsrGeneralJournalAdjust;
-using test::Collect;
-using test::CollectedBands;
-using test::MemoryHost;
-using test::Shown;
 using testing::ElementsAre;
 
 std::string RowOf(const CollectedBands& bands) {
@@ -43,23 +39,5 @@ TEST(JournalAdjustmentTest, APositiveAmountIsACreditInEachRunAnew) {
     }
 }
 
-TEST(JournalAdjustmentTest, AHostThatFailsIsToldAndTheRunGoesOn) {
-    const auto host = std::make_shared<MemoryHost>();
-    const auto report = std::make_shared<dsrGeneralJournalAdjust>(host);
-    report->AdjustingAmount(Currency::FromWhole(5));
-    Collect(*report);
-    const int calls = host->calls.Count();
-    for (int k = 1; k <= calls; ++k) {
-        host->message_boxes.clear();
-        host->calls.FailAt(host->calls.Count() + k);
-        EXPECT_TRUE(Collect(*report).ended);
-        EXPECT_THAT(host->message_boxes,
-                    ElementsAre(testing::HasSubstr("in Varnel.dsrGeneralJournalAdjust.")))
-            << "host call " << k;
-    }
-    host->calls.FailAt(0);
-    EXPECT_EQ(RowOf(Collect(*report)), "8571||5.00");
-}
-
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -14,12 +14,14 @@
 
 namespace varnel::test {
 
+/// Figures by the section they stand in, each by itself: one may be blank where another is right.
+/// Those of several controls are joined by blanks.
+using Figures = std::vector<std::pair<const char*, std::vector<std::string>>>;
+
 /// What a fault sweep looks at.
 struct Swept {
     const char* object;
-    /// Figures by the section they stand in, each by itself: one may be blank where another is
-    /// right. Those of several controls are joined by blanks.
-    std::vector<std::pair<const char*, std::vector<std::string>>> figures;
+    Figures figures;
     /// What a figure may be in a report without rows besides blank.
     const char* when_empty = "";
 };
