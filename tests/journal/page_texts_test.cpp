@@ -26,7 +26,7 @@ TEST(JournalPageTest, TheNoteOnItemAdjustmentsHasABandInThatModeOnly) {
     run.host->company.item_adjustment_start = Date::ParseIso("2025-02-01");
     const auto footers = run({}).Of("PageFooter");
     ASSERT_EQ(footers.size(), 1u);
-    EXPECT_EQ(footers[0].Text("lblWarningInvMaj"), "12802 (2025-02-01)");
+    EXPECT_EQ(footers[0].Text("lblWarningInvMaj"), "12802 Orvotech (date 2025-02-01)");
     EXPECT_TRUE(footers[0]["lblWarningInvMaj"].visible);
     run.host->company.settings["ItemAdjustGL"] = "False";
     EXPECT_TRUE(run({}).Of("PageFooter").empty());

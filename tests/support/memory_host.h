@@ -51,7 +51,7 @@ class MemoryHost final : public Application,
     Company& CurrentCompany() override;
     CompanyDatabase& Database() override;
 
-    /// "12802 (2025-01-01)": number and arguments.
+    /// "12802 Orvotech (date 2025-01-01)": number, source and arguments.
     std::string Message(std::int32_t number, std::string_view source,
                         std::span<const Variant> arguments) override;
     void ShowMessageBox(const std::string& text) override;
