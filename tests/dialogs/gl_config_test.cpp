@@ -117,23 +117,5 @@ TEST(GLConfig, OkAndTheCloseBoxBothKeepTheChoice) {
     }
 }
 
-TEST(GLConfig, ConfirmingWithoutAChangeGivesTheValueThatWasSet) {
-    MemoryHost host;
-    host.use_dialog = [](Form& form) { form.Click(*form.Buttons()[0]); };
-    for (const bool current : {true, false})
-        EXPECT_EQ(AskIncludeZeroBalance(host, current), current);
-}
-
-TEST(GLConfig, AFailureIsShownWithObjectAndProcedureAndTheDialogGoesOn) {
-    auto host = std::make_shared<MemoryHost>();
-    host->calls.FailAt(1);
-    frmGLConfig form;
-    form.PrepareInvConfigDialog(host, 1);
-    EXPECT_THAT(host->message_boxes,
-                ElementsAre(MatchesRegex("Host call 1, GetText, failed\r\nin "
-                                         "Varnel.frmGLConfig.TranslateForm at line [1-9][0-9]*")));
-    EXPECT_TRUE(form.Shown());
-}
-
 }  // namespace
 }  // namespace varnel::framework
