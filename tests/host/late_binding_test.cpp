@@ -6,11 +6,8 @@
 #include "host/surface.h"
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::DescriptionOf;
-using test::ErrorOf;
 
 /// A class with one member of each sort.
 class Counter : public Object {
@@ -131,4 +128,4 @@ TEST_F(ControlMembersTest, ANewTextDropsTheValueBehindTheFormerOne) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -6,11 +6,8 @@
 
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::DescriptionOf;
-using test::ErrorOf;
 
 constexpr Column At(std::uint32_t index) { return {index}; }
 
@@ -193,4 +190,4 @@ TEST(ColumnsTest, AnUnknownColumnIsAnErrorThatListsTheColumns) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

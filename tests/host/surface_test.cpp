@@ -4,7 +4,7 @@
 
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 const Layout kLayout{
@@ -24,8 +24,8 @@ const Layout kLayout{
 
 TEST(SurfaceTest, AnUnknownControlOrSectionStopsTheReportNamingLayoutAndControl) {
     Surface surface(kLayout);
-    EXPECT_EQ(test::ErrorOf([&] { surface.At("txtCredit"); }), error_number::kUnknownMember);
-    EXPECT_EQ(test::DescriptionOf([&] { surface.SectionAt("PageFooter"); }),
+    EXPECT_EQ(ErrorOf([&] { surface.At("txtCredit"); }), error_number::kUnknownMember);
+    EXPECT_EQ(DescriptionOf([&] { surface.SectionAt("PageFooter"); }),
               "dsrTried has no member \"PageFooter\"");
 }
 
@@ -81,4 +81,4 @@ TEST(SurfaceTest, SkippingLeavesOutOneInstanceHidingAllThatFollow) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -7,11 +7,8 @@
 
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::DescriptionOf;
-using test::ErrorOf;
 
 const Date kDay = Date::ParseIso("2025-03-31");
 const Currency kAmount = Currency::Parse("1234.50");
@@ -115,4 +112,4 @@ TEST(VariantTest, AReferenceMayBeEmpty) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test
