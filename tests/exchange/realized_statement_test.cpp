@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/exchange/realized_run.h"
-#include "tests/journal/picking_tool.h"
+#include "tests/support/picking_tool.h"
 
 namespace varnel::test {
 namespace {

@@ -1,7 +1,7 @@
 #include "tests/support/fault_sweep.h"
 
 #include "tests/journal/journal_run.h"
-#include "tests/journal/picking_tool.h"
+#include "tests/support/picking_tool.h"
 
 namespace varnel::test {
 namespace {

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "tests/journal/journal_run.h"
-#include "tests/journal/picking_tool.h"
+#include "tests/support/picking_tool.h"
 
 namespace varnel::test {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "tests/journal/picking_tool.h"
 #include "tests/statements/statement_run.h"
+#include "tests/support/picking_tool.h"
 
 namespace varnel::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "reports/trial/trial_balance_detail.h"
-#include "tests/journal/picking_tool.h"
+#include "tests/support/picking_tool.h"
 #include "tests/trial/trial_run.h"
 
 namespace varnel::test {
