@@ -33,7 +33,9 @@ TEST(RealizedDetailTest, NullsCountAsZeroAndADateThatIsMissingIsBlank) {
     auto empty = Paid("0");
     empty.amount = empty.discount = empty.invoice_rate = empty.payment_rate = empty.date =
         Variant::Null{};
-    const auto line = run({Paid("1000"), empty}).Of("Detail").at(1);
+    const auto bands = run({Paid("1000"), empty});
+    EXPECT_EQ(bands.Of("Detail").at(0).Text("txtPmtDate"), "2025-01-15");
+    const auto line = bands.Of("Detail").at(1);
     EXPECT_EQ(line.Text("txtPaid"), "0.00");
     EXPECT_EQ(line.Text("txtExchangeRate"), "0.0000");
     EXPECT_EQ(line.Text("txtGain"), "0.00");

@@ -26,10 +26,7 @@ namespace varnel::test {
 ///     host->message_boxes                                // What it told the user.
 ///
 /// `calls` counts what the host is asked and makes one call fail.
-class MemoryHost final : public Application,
-                         public Context,
-                         public MessageService,
-                         public DialogService {
+class MemoryHost : public Application, public Context, public MessageService, public DialogService {
   public:
     HostCalls calls;
     std::map<std::int16_t, std::string> texts;
