@@ -103,21 +103,6 @@ TEST(CurrentReconciliationTest, RowsWithoutAColumnAreToldAtOnceAndNotTaken) {
     }
 }
 
-TEST(CurrentReconciliationTest, TheRowsCanBeSetAndNotRead) {
-    std::string description;
-    EXPECT_EQ(ErrorOf([] { CurrentRun().Properties().Get("ConcilDataSet"); }, &description), 438);
-    EXPECT_THAT(description, HasSubstr("only be set"));
-}
-
-TEST(CurrentReconciliationTest, ADateThatCannotBeReadIsToldAndTheFeedGoesOn) {
-    BankRun run = CurrentRun();
-    run.items = {{3, Money("-2"), Variant::Null{}, "yesterday"}, {3, Money("-1")}, {4, Money("4")}};
-    const auto bands = run();
-    EXPECT_THAT(Listed(bands), ElementsAre("3046", "R1 2.00", "R2 1.00", "3045", "R3 4.00"));
-    EXPECT_THAT(bands.Texts("gfTransactionType", "txtGroupTotal"), ElementsAre("3.00", "4.00"));
-    EXPECT_THAT(run.host->message_boxes, ElementsAre(HasSubstr("yesterday")));
-}
-
 // Nobody can tell whether it is a withdrawal or a deposit.
 TEST(CurrentReconciliationTest, AnAmountThatCannotBeReadBlanksTheTotalItIsListedWith) {
     for (const std::int32_t account : {kBank, kYenBank}) {

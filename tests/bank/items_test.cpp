@@ -126,15 +126,6 @@ TEST_P(ReconciliationTest, ACustomFilterTakesNothingAway) {
     EXPECT_EQ(run().bands, all.bands);
 }
 
-TEST_P(ReconciliationTest, WithoutItemsThereAreHeadersAndTheSummary) {
-    run.SetFigures({"5", "0", "0", "5", "0"});
-    const auto bands = run();
-    EXPECT_EQ(bands.Of("PageHeader").size(), 1u);
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtAdjustedBal"), ElementsAre("5.00"));
-    for (const char* section : {"ghTransactionType", "Detail", "gfTransactionType"})
-        EXPECT_TRUE(bands.Of(section).empty()) << section;
-}
-
 TEST_P(ReconciliationTest, AnUnknownAccountIsToldOnceAndNothingIsListed) {
     run.Properties().Put("ExConcilAcctId", kYenBank);
     run.SetFigures({"5.5", "0", "0", "5.5", "0"});

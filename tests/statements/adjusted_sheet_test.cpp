@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "reports/statements/journal_adjustment.h"
 #include "tests/engine/micro_report.h"
 #include "tests/statements/statement_run.h"
 
@@ -164,6 +165,28 @@ TEST(AdjustedSheetTest, OfAnUnknownComparisonLeavesItBlank) {
                       {"txtTypeTotal", "txtTypeTotal2", "txtTotalDiffDollar", "txtTotalPassCap",
                        "txtTotalPassCapPassed", "lblTotalPassDiffPercent"}),
                 ElementsAre("40.00|||100.00||"));
+}
+
+TEST(JournalAdjustmentTest, APositiveAmountIsACreditInEachRunAnew) {
+    struct Sided {
+        const char *amount, *row, *footer;
+    };
+    constexpr Sided kCases[] = {{"-125.50", "8571|125.50|", "1641|125.50|"},
+                                {"125.50", "8571||125.50", "1641||125.50"},
+                                {"125.50", "8571||125.50", "1641||125.50"},
+                                {"-0.01", "8571|0.01|", "1641|0.01|"},
+                                {"0", "||", "||"}};
+    const auto report =
+        std::make_shared<reports::dsrGeneralJournalAdjust>(std::make_shared<MemoryHost>());
+    for (const auto& tried : kCases) {
+        report->AdjustingAmount(Currency::Parse(tried.amount));
+        const auto bands = Collect(*report);
+        EXPECT_THAT(Shown(bands, "Detail", {"txtAccountDescr", "txtDebit", "txtCredit"}),
+                    ElementsAre(tried.row));
+        EXPECT_THAT(Shown(bands, "ReportFooter", {"lblTotal", "txtDebitTotal", "txtCreditTotal"}),
+                    ElementsAre(tried.footer));
+        EXPECT_THAT(bands.Texts("PageHeader", "lblTitle"), ElementsAre("8323"));
+    }
 }
 
 }  // namespace
