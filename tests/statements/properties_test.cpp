@@ -112,20 +112,5 @@ TEST(Statements, OfTheSegmentsAndOfNoneAddUpToTheCompanys) {
     });
 }
 
-TEST(IncomeStatement, OfTwoProjectsAddsUpThoseOfEach) {
-    ForEveryCompany(250, [](const StatementBooks& books, const Host& host, Random& random) {
-        StatementQuestion question = Anything(books, random);
-        question.revalue = false;
-        std::vector<PrintedStatement> parts;
-        for (int project = 1; project <= kProjects; ++project) {
-            question.projects = {project};
-            parts.push_back(RunIncomeStatement(host, question));
-        }
-        question.projects = {2, 1};
-        SCOPED_TRACE(InWords(question));
-        ExpectParts(RunIncomeStatement(host, question), parts, books, 2);
-    });
-}
-
 }  // namespace
 }  // namespace varnel::test
