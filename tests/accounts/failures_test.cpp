@@ -95,7 +95,17 @@ TEST_F(AccountsFailureTest, WrongArgumentsFailInTheNameOfTheMemberOnce) {
     EXPECT_THAT(call("Init", {ObjectRef(host_), "all"}),
                 MatchesRegex(Through("[^(]*\"all\"", {"Init"})));
     EXPECT_THAT(call("Add", {"all"}), MatchesRegex(Through("[^(]*\"all\"", {"Add"})));
-    EXPECT_EQ(call("Clear", {}), "CGLAccts has no member \"Clear\"");
+}
+
+TEST_F(AccountsFailureTest, AMemberAnswersOnlyToWhatItIs) {
+    const auto expect_unknown = [](const std::string& member, auto&& action) {
+        EXPECT_EQ(DescriptionOf(action), "CGLAccts has no member \"" + member + "\"");
+        EXPECT_EQ(ErrorOf(action), error_number::kUnknownMember);
+    };
+    expect_unknown("Clear", [&] { accounts_.Call("Clear", {}); });
+    expect_unknown("Count", [&] { accounts_.Call("Count", {}); });
+    expect_unknown("Count", [&] { accounts_.Put("Count", 1); });
+    expect_unknown("Add", [&] { accounts_.Get("Add"); });
 }
 
 TEST_F(AccountsFailureTest, WhicheverCallOfTheHostFailsTheLoadTellsSoAndKeepsWhatItHas) {

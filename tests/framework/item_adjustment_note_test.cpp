@@ -43,13 +43,5 @@ TEST(ItemAdjustmentNoteTest, ShowsFromTheStartDateOnInThatModeOnly) {
     }
 }
 
-TEST(ItemAdjustmentNoteTest, ALaterRunWithoutItHidesItAgain) {
-    test::MemoryHost host;
-    Surface surface(kLayout);
-    ShowItemAdjustmentNote(host, surface, kOpenStart, kOpenEnd);
-    ShowItemAdjustmentNote(host, surface, std::nullopt, kOpenEnd);
-    EXPECT_FALSE(surface.SectionAt("PageFooter").Visible());
-}
-
 }  // namespace
 }  // namespace varnel::framework

@@ -53,14 +53,6 @@ TEST(IncomePeriodTest, CumulativeDatesOfTheHostAreReachedByName) {
                 ElementsAre("2025-02-01 3012 2025-03-31|2024-05-01 3012 2025-02-09"));
 }
 
-TEST(IncomePeriodTest, TheFactoryTakesTheLastCumulativeDateFirst) {
-    StatementRun run = OfOneRow(
-        StatementRun(clsReport().IncomeStatementProj("7", Day("2025-06-30"), Day("2024-07-01"))));
-    EXPECT_EQ(run.Properties().Get("ProjIds").ToText(), "7");
-    EXPECT_THAT(Captions(run),
-                ElementsAre("2025-02-01 3012 2025-03-31|2024-07-01 3012 2025-06-30"));
-}
-
 TEST(IncomePeriodTest, WithoutThemTheYearIsFoundAnewByEachRun) {
     StatementRun run = OfOneRow(IncomeRun());
     EXPECT_THAT(Captions(run),
