@@ -60,13 +60,40 @@ TEST(IncomeSectionTest, EndsWithItsTotalAndFromExpensesOnWithTheResult) {
     }
 }
 
-TEST(IncomeUnrealizedTest, AGainThatCannotBeWorkedOutLeavesItsTotalsBlank) {
+/// Of 7 booked on the account of unrealized gains; 3.45 have been gained.
+StatementRun UnrealizedRun() {
     StatementRun run = IncomeRun();
     run.chart = {{kUnrealized, 5}, {5'910, 5}};
     run.Post(kUnrealized, "2025-02-10", "7");
     run.Post(5'910, "2025-02-10", "1");
     run.HoldForeignAmount();
     run.Revalue();
+    return run;
+}
+
+TEST(IncomeUnrealizedTest, IsAskedOnceForEachDayThatAColumnEndsWithProjectsAndSegments) {
+    StatementRun run = UnrealizedRun();
+    run.host->database.Answer("ProjInfo", {{"ProjId", "Descr"}, {}});
+    run.Properties().Put("ProjIds", "8");
+    run.FilterSegments("3", true);
+    for (const Date cumul_to : {run.to, Date::ParseIso("2025-04-30")}) {
+        run.Properties().Put("CumulDateTo", cumul_to);
+        run();
+    }
+    std::vector<std::string> days;
+    for (const auto& command : run.host->database.Commands()) {
+        if (command->text.find("AcctBalHome") == std::string::npos) continue;
+        days.push_back(command->parameters.back().ToDate().ToIso());
+        EXPECT_THAT(
+            command->text,
+            testing::HasSubstr("AND GLDet.DetDate <= ?  AND ExProjId IN ( 8 )  AND "
+                               "(GLDet.ExSegmentId IN (3) OR GLDet.ExSegmentId IS NULL) GROUP BY"));
+    }
+    EXPECT_THAT(days, ElementsAre("2025-03-31", "2025-03-31", "2025-04-30"));
+}
+
+TEST(IncomeUnrealizedTest, AGainThatCannotBeWorkedOutLeavesItsTotalsBlank) {
+    StatementRun run = UnrealizedRun();
     dynamic_cast<IExchangeRates&>(*run.report)
         .IExchangeRates_ExchangeRates(std::make_shared<RateCollection>());
     const auto bands = run();
