@@ -1,6 +1,5 @@
 #include "framework/filter_sort_subreport.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "framework/standard_header.h"

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "tests/statements/books_sums.h"
 #include "tests/statements/expected_statement.h"
 #include "tests/statements/statement_questions.h"

@@ -37,25 +37,17 @@ Lines GrandTotals(const CollectedBands& bands) {
                   "lblBalanceGrandTotalType"});
 }
 
-TEST(LedgerByAccountTest, BringsBalancesForwardAndPrintsEveryLineAlsoOfZero) {
+// Balances are worked out for many companies: see properties_test.cpp.
+TEST(LedgerByAccountTest, PrintsEveryLineAlsoOfZero) {
     TrialRun run = LedgerRun();
-    run.chart = {{1'010}, {1'020}};
+    run.chart = {{1'010}};
     run.Post(1'010, "2025-01-31", "50");
     run.Post(1'010, "2025-02-01", "-90");
     run.Post(1'010, "2025-02-02", "0");
-    run.Post(1'010, "2025-03-31", "1040");
-    run.Post(1'020, "2025-01-31", "-3");
-    run.Post(1'020, "2025-02-02", "3");
-    run.Post(1'020, "2025-04-01", "8");
     const auto bands = run();
-    EXPECT_THAT(Accounts(bands), ElementsAre("1010", "1020"));
-    EXPECT_THAT(Forwards(bands), ElementsAre("50.00|DT", "3.00|CT"));
     EXPECT_THAT(LedgerLines(bands),
-                ElementsAre("2|2025-02-01||90.00|40.00|CT", "3|2025-02-02|||40.00|CT",
-                            "4|2025-03-31|1,040.00||1,000.00|DT", "6|2025-02-02|3.00||0.00|DT"));
-    EXPECT_THAT(Subtotals(bands), ElementsAre("1,040.00|90.00|1,000.00|DT", "3.00|0.00|0.00|DT"));
-    EXPECT_THAT(GrandTotals(bands), ElementsAre("1,043.00|90.00|1,000.00|DT"));
-    EXPECT_THAT(GrandTotals(run()), ElementsAre("1,043.00|90.00|1,000.00|DT")) << "run again";
+                ElementsAre("2|2025-02-01||90.00|40.00|CT", "3|2025-02-02|||40.00|CT"));
+    EXPECT_EQ(run().bands, bands.bands) << "run again";
 }
 
 /// Checks both boxes or neither; tells which the dialog showed and which were checked before.

@@ -155,27 +155,6 @@ TEST(TrialFilterTest, TellsTheToolItsTablesAndRefusesCriteriaThatWantOneWithout)
     }
 }
 
-TEST(TrialBalanceRequestTest, TakesTheSegmentClauseInParenthesesAndTheProjects) {
-    for (TrialRun run : {DetailRun(), LedgerRun()}) {
-        const bool has_projects = dynamic_cast<reports::dsrTrialBalanceDetail*>(run.report.get());
-        std::vector<std::string> clauses;
-        run.host->company.in_segments = [&](const auto&, const std::string& clause) {
-            clauses.push_back(clause);
-            return true;
-        };
-        run.chart = {{1'010}};
-        for (const char* amount : {"5", "7"}) run.Post(1'010, "2025-01-15", amount);
-        run.host->company.ledger.back().project_id = 9;
-        run.FilterSegments("3,5", true);
-        if (has_projects) run.report->IReport_ReportDesigner()->Put("ProjIds", "8,9");
-        const auto bands = run();
-        EXPECT_THAT(bands.Texts(has_projects ? "ghAccount" : "ghForward", "txtBalanceForward"),
-                    ElementsAre(has_projects ? "7.00" : "12.00"));
-        EXPECT_THAT(clauses,
-                    testing::Each("(GLDet.ExSegmentId IN (3,5) OR GLDet.ExSegmentId IS NULL)"));
-    }
-}
-
 TEST(DetailSelectionTest, IsReachedByNameAndTheFactoryHidesInactiveAccounts) {
     TrialRun run = DetailRun(true);
     const auto report = run.report->IReport_ReportDesigner();
