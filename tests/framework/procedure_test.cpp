@@ -128,8 +128,7 @@ TEST_F(NoHostTest, AHostThatCannotShowAMessageDoesNotHideTheFailure) {
 TEST(FormBTest, RaisesAgainWithTheProcedureAppendedAndNumberAndSourceUnchanged) {
     try {
         GuardFormB("clsReport", "BalanceSheet", [] {
-            Mark(77);
-            throw Error(error_number::kCannotCreateObject, "Host", "Not there");
+            Mark(77), throw Error(error_number::kCannotCreateObject, "Host", "Not there");
         });
         FAIL();
     } catch (const Error& error) {

@@ -157,16 +157,6 @@ TEST(AdjustedSheetTest, StandsInTheColumnsOfTheSheetOnWiderPaper) {
     EXPECT_EQ(SpanOf(footer, "8322"), SpanOf(footer, "8324"));
 }
 
-TEST(AdjustedSheetTest, OfAnUnknownComparisonLeavesItBlank) {
-    StatementRun run = OfSegments(ComparativeSheetRun());
-    run.FilterSegments("3");
-    run.host->database.Answer("FiscalYearDet", {{"BegDate"}, {{run.from}}});
-    EXPECT_THAT(Shown(AdjustmentIn(run(), 1), "ReportFooter",
-                      {"txtTypeTotal", "txtTypeTotal2", "txtTotalDiffDollar", "txtTotalPassCap",
-                       "txtTotalPassCapPassed", "lblTotalPassDiffPercent"}),
-                ElementsAre("40.00|||100.00||"));
-}
-
 TEST(JournalAdjustmentTest, APositiveAmountIsACreditInEachRunAnew) {
     struct Sided {
         const char *amount, *row, *footer;
