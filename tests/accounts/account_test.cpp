@@ -5,11 +5,9 @@
 #include "framework/create_object.h"
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DescriptionOf;
-using test::ErrorOf;
 using testing::MatchesRegex;
 
 /// A property with a value that it keeps and, where there is one, a value that it cannot read.
@@ -99,4 +97,4 @@ TEST(AccountTest, AnUnknownPropertyIsAnErrorOfTheObject) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -5,11 +5,9 @@
 #include "accounts/collection_enumerator.h"
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DescriptionOf;
-using test::ErrorOf;
 using testing::ElementsAre;
 
 class CollectionTest : public testing::Test {
@@ -111,4 +109,4 @@ TEST_F(CollectionTest, AnEnumeratorSurvivesChangesAndTheOwnerOfTheCollection) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

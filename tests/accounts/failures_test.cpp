@@ -6,12 +6,9 @@
 #include "tests/support/error_of.h"
 #include "tests/support/memory_host.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::AccountRows;
-using test::DescriptionOf;
-using test::ErrorOf;
 using testing::MatchesRegex;
 
 /// Form B of each member that a failure went through, innermost first.
@@ -26,12 +23,12 @@ class AccountsFailureTest : public testing::Test {
   protected:
     AccountsFailureTest() { Answer({{.id = 5}, {.id = 6}}); }
 
-    void Answer(const std::vector<test::AccountRow>& rows) {
+    void Answer(const std::vector<AccountRow>& rows) {
         host_->database.Answer("GLAcct", AccountRows(rows));
     }
     void Init() { accounts_.Init(host_, 0); }
 
-    std::shared_ptr<test::MemoryHost> host_ = std::make_shared<test::MemoryHost>();
+    std::shared_ptr<MemoryHost> host_ = std::make_shared<MemoryHost>();
     CGLAccts accounts_;
 };
 
@@ -98,13 +95,23 @@ TEST_F(AccountsFailureTest, WrongArgumentsFailInTheNameOfTheMemberOnce) {
     EXPECT_THAT(call("Init", {ObjectRef(host_), "all"}),
                 MatchesRegex(Through("[^(]*\"all\"", {"Init"})));
     EXPECT_THAT(call("Add", {"all"}), MatchesRegex(Through("[^(]*\"all\"", {"Add"})));
-    EXPECT_EQ(call("Clear", {}), "CGLAccts has no member \"Clear\"");
+}
+
+TEST_F(AccountsFailureTest, AMemberAnswersOnlyToWhatItIs) {
+    const auto expect_unknown = [](const std::string& member, auto&& action) {
+        EXPECT_EQ(DescriptionOf(action), "CGLAccts has no member \"" + member + "\"");
+        EXPECT_EQ(ErrorOf(action), error_number::kUnknownMember);
+    };
+    expect_unknown("Clear", [&] { accounts_.Call("Clear", {}); });
+    expect_unknown("Count", [&] { accounts_.Call("Count", {}); });
+    expect_unknown("Count", [&] { accounts_.Put("Count", 1); });
+    expect_unknown("Add", [&] { accounts_.Get("Add"); });
 }
 
 TEST_F(AccountsFailureTest, WhicheverCallOfTheHostFailsTheLoadTellsSoAndKeepsWhatItHas) {
     int k = 1;
     for (;; ++k) {
-        auto host = std::make_shared<test::MemoryHost>();
+        auto host = std::make_shared<MemoryHost>();
         host->database.Answer("GLAcct", AccountRows({{.id = 5}, {.id = 6}}));
         host->calls.FailAt(k);
         CGLAccts accounts;
@@ -122,4 +129,4 @@ TEST_F(AccountsFailureTest, WhicheverCallOfTheHostFailsTheLoadTellsSoAndKeepsWha
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

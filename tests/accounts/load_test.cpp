@@ -7,22 +7,21 @@
 #include "tests/support/error_of.h"
 #include "tests/support/memory_host.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::AccountRows;
 using testing::ElementsAre;
 
 class LoadTest : public testing::Test {
   protected:
     /// The one account that is loaded from this row.
-    const CGLAcct& Load(const test::AccountRow& row) {
+    const CGLAcct& Load(const AccountRow& row) {
         host_->database.Answer("GLAcct", AccountRows({row}));
         accounts_.Init(host_, 0);
         return *accounts_.Item(1);
     }
 
-    std::shared_ptr<test::MemoryHost> host_ = std::make_shared<test::MemoryHost>();
+    std::shared_ptr<MemoryHost> host_ = std::make_shared<MemoryHost>();
     CGLAccts accounts_;
 };
 
@@ -69,9 +68,9 @@ TEST_F(LoadTest, AllAccountsAreAskedForOrThoseOfACurrency) {
     accounts_.Init(host_, 7);
     const auto& commands = host_->database.Commands();
     ASSERT_EQ(commands.size(), 2u);
-    EXPECT_EQ(commands[0]->text, test::kLoadAll);
+    EXPECT_EQ(commands[0]->text, kLoadAll);
     EXPECT_TRUE(commands[0]->parameters.empty());
-    EXPECT_EQ(commands[1]->text, test::kLoadOneCurrency);
+    EXPECT_EQ(commands[1]->text, kLoadOneCurrency);
     ASSERT_EQ(commands[1]->parameters.size(), 1u);
     EXPECT_TRUE(commands[1]->parameters[0].Holds<std::int32_t>());
     EXPECT_EQ(commands[1]->parameters[0].ToInteger32(), 7);
@@ -92,11 +91,11 @@ TEST_F(LoadTest, AccountsKeepTheOrderOfTheRowsAndAnswerToTheirInternalIds) {
 }
 
 TEST_F(LoadTest, AnAccountWithoutInternalIdHasNoKey) {
-    const test::AccountRow nameless{.id = Variant::Null{}};
+    const AccountRow nameless{.id = Variant::Null{}};
     host_->database.Answer("GLAcct", AccountRows({nameless, nameless}));
     accounts_.Init(host_, 0);
     EXPECT_EQ(accounts_.Count(), 2);
-    EXPECT_EQ(test::ErrorOf([&] { accounts_.Item("0"); }), error_number::kInvalidArgument);
+    EXPECT_EQ(ErrorOf([&] { accounts_.Item("0"); }), error_number::kInvalidArgument);
 }
 
 TEST_F(LoadTest, TheRowSetIsKeptOnItsFirstRowUntilTheNextLoad) {
@@ -146,4 +145,4 @@ TEST_F(LoadTest, HostsUseThemLateBound) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

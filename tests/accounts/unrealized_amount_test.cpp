@@ -6,11 +6,9 @@
 #include "tests/support/error_of.h"
 #include "tests/support/memory_host.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DescriptionOf;
-using test::ErrorOf;
 using testing::ElementsAre;
 using testing::MatchesRegex;
 
@@ -43,7 +41,7 @@ class UnrealizedAmountTest : public testing::Test {
         const char* home;
     };
     void Answer(const std::vector<Balance>& balances) {
-        test::RowSet rows{{"ExCurrencyId", "ExChangeRate", "AcctBalForeign", "AcctBalHome"}, {}};
+        RowSet rows{{"ExCurrencyId", "ExChangeRate", "AcctBalForeign", "AcctBalHome"}, {}};
         for (const auto& balance : balances)
             rows.rows.push_back({balance.currency_id, "1.25", Currency::Parse(balance.foreign),
                                  Currency::Parse(balance.home)});
@@ -54,7 +52,7 @@ class UnrealizedAmountTest : public testing::Test {
     }
 
     const Date end = Date::ParseIso("2025-03-31");
-    std::shared_ptr<test::MemoryHost> host = std::make_shared<test::MemoryHost>();
+    std::shared_ptr<MemoryHost> host = std::make_shared<MemoryHost>();
     std::shared_ptr<RateCollection> rates = std::make_shared<RateCollection>();
     CGLAcctHelper helper;
 };
@@ -141,4 +139,4 @@ TEST_F(UnrealizedAmountTest, FailsInFormBWhateverHostCallFails) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

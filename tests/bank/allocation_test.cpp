@@ -3,17 +3,17 @@
 #include "tests/bank/bank_run.h"
 #include "tests/support/allocations_between.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 long AllocationsOf(int items, bool current) {
-    test::BankRun run(current);
-    run.items.assign(static_cast<std::size_t>(items), {3, test::Money("-1000.5")});
+    BankRun run(current);
+    run.items.assign(static_cast<std::size_t>(items), {3, Money("-1000.5")});
     run.note = "a description that is too long to be kept without memory of its own";
     run.host->calls.StopCounting();
     run.Prepare();
-    const long count = test::AllocationsBetween("ghTransactionType", "gfTransactionType",
-                                                *run.report->IReport_ReportDesigner());
+    const long count = AllocationsBetween("ghTransactionType", "gfTransactionType",
+                                          *run.report->IReport_ReportDesigner());
     EXPECT_TRUE(run.host->message_boxes.empty());
     return count;
 }
@@ -24,4 +24,4 @@ TEST(ReconciliationAllocationTest, AnItemAllocatesNothing) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

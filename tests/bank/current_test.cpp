@@ -4,23 +4,15 @@
 #include "tests/bank/bank_run.h"
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 using drivers::MemoryRecordset;
-using test::BankRun;
-using test::Collect;
-using test::CurrentRun;
-using test::kYenBank;
-using test::Money;
-using test::Shown;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
 /// Without giving it rows.
-test::CollectedBands RunAsItIs(BankRun& run) {
-    return Collect(*run.report->IReport_ReportDesigner());
-}
+CollectedBands RunAsItIs(BankRun& run) { return Collect(*run.report->IReport_ReportDesigner()); }
 
 std::shared_ptr<MemoryRecordset> Screen(const BankRun& run) {
     const auto rows = run.Rows();
@@ -28,7 +20,7 @@ std::shared_ptr<MemoryRecordset> Screen(const BankRun& run) {
 }
 
 /// Types, references and amounts in the order of the report.
-std::vector<std::string> Listed(const test::CollectedBands& bands) {
+std::vector<std::string> Listed(const CollectedBands& bands) {
     std::vector<std::string> lines;
     for (const auto& band : bands.bands) {
         if (band.section == "ghTransactionType") lines.push_back(band.Text("lblTransactionType"));
@@ -111,25 +103,9 @@ TEST(CurrentReconciliationTest, RowsWithoutAColumnAreToldAtOnceAndNotTaken) {
     }
 }
 
-TEST(CurrentReconciliationTest, TheRowsCanBeSetAndNotRead) {
-    std::string description;
-    EXPECT_EQ(test::ErrorOf([] { CurrentRun().Properties().Get("ConcilDataSet"); }, &description),
-              438);
-    EXPECT_THAT(description, HasSubstr("only be set"));
-}
-
-TEST(CurrentReconciliationTest, ADateThatCannotBeReadIsToldAndTheFeedGoesOn) {
-    BankRun run = CurrentRun();
-    run.items = {{3, Money("-2"), Variant::Null{}, "yesterday"}, {3, Money("-1")}, {4, Money("4")}};
-    const auto bands = run();
-    EXPECT_THAT(Listed(bands), ElementsAre("3046", "R1 2.00", "R2 1.00", "3045", "R3 4.00"));
-    EXPECT_THAT(bands.Texts("gfTransactionType", "txtGroupTotal"), ElementsAre("3.00", "4.00"));
-    EXPECT_THAT(run.host->message_boxes, ElementsAre(HasSubstr("yesterday")));
-}
-
 // Nobody can tell whether it is a withdrawal or a deposit.
 TEST(CurrentReconciliationTest, AnAmountThatCannotBeReadBlanksTheTotalItIsListedWith) {
-    for (const std::int32_t account : {test::kBank, kYenBank}) {
+    for (const std::int32_t account : {kBank, kYenBank}) {
         BankRun run = CurrentRun();
         run.Properties().Put("ExConcilAcctId", account);
         run.items = {{4, Money("10"), Money("10")},
@@ -147,4 +123,4 @@ TEST(CurrentReconciliationTest, AnAmountThatCannotBeReadBlanksTheTotalItIsListed
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

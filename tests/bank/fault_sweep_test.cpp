@@ -2,14 +2,9 @@
 
 #include "tests/bank/bank_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::BankRun;
-using test::Day;
-using test::Money;
-using test::Shown;
-using test::Swept;
 using testing::ElementsAre;
 
 /// A report that has run once, over another amount.
@@ -32,13 +27,10 @@ const std::vector<std::string> kSummary{"txtEndBal",      "txtDepCirc", "txtChqC
 
 Swept SweptIn(const char* object) {
     Swept swept{object,
-                {{"PageHeader", {"txtConcDate"}},
-                 {"PageHeader", {"txtCurrency"}},
+                {{"PageHeader", {"txtConcDate", "txtCurrency"}},
                  {"ghTransactionType", {"lblTransactionType"}},
-                 {"Detail", {"txtDetDate"}},
-                 {"Detail", {"txtAmount"}},
+                 {"Detail", {"txtDetDate", "txtAmount"}},
                  {"gfTransactionType", {"txtGroupTotal"}}}};
-    for (const auto& figure : kSummary) swept.figures.push_back({"ReportFooter", {figure}});
     return swept;
 }
 
@@ -47,7 +39,7 @@ TEST(ReconciliationFaultSweepTest, EveryFailureIsToldAndEveryFigureIsRightOrBlan
                                                      {true, "dsrCurrentBankReconciliation"}};
     for (const auto& [current, object] : kReports) {
         const auto right =
-            test::SweepFaults(SweptIn(object), [current = current] { return RunBefore(current); });
+            SweepFaults(SweptIn(object), [current = current] { return RunBefore(current); });
         EXPECT_THAT(right.Texts("gfTransactionType", "txtGroupTotal"),
                     ElementsAre("3.00", "4.00", "5.00", "20.00"));
         EXPECT_THAT(Shown(right, "ReportFooter", kSummary),
@@ -56,4 +48,4 @@ TEST(ReconciliationFaultSweepTest, EveryFailureIsToldAndEveryFigureIsRightOrBlan
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

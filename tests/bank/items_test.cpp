@@ -3,15 +3,9 @@
 
 #include "tests/bank/bank_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::BankRun;
-using test::CollectedBands;
-using test::Day;
-using test::kYenBank;
-using test::Money;
-using test::Shown;
 using testing::ElementsAre;
 
 const Variant kNull = Variant::Null{};
@@ -121,7 +115,7 @@ TEST_P(ReconciliationTest, TheHeaderShowsTitleAccountAndDateAsTheHostSetThem) {
     EXPECT_THAT(run().Texts("PageHeader", "txtCurrency"), ElementsAre("CAD"));
     run.host->company.currency_info.records.resize(1);
     EXPECT_THAT(run().Texts("PageHeader", "txtCurrency"), ElementsAre(""));
-    EXPECT_EQ(run.Properties().Get("ExConcilAcctId").ToInteger32(), test::kBank);
+    EXPECT_EQ(run.Properties().Get("ExConcilAcctId").ToInteger32(), kBank);
     EXPECT_EQ(run.Properties().Get("ConcDate").ToDate(), Date::ParseIso("2025-02-28"));
 }
 
@@ -130,15 +124,6 @@ TEST_P(ReconciliationTest, ACustomFilterTakesNothingAway) {
     const CollectedBands all = run();
     run.Filter("DetAmnt > 0|DetAmnt");
     EXPECT_EQ(run().bands, all.bands);
-}
-
-TEST_P(ReconciliationTest, WithoutItemsThereAreHeadersAndTheSummary) {
-    run.SetFigures({"5", "0", "0", "5", "0"});
-    const auto bands = run();
-    EXPECT_EQ(bands.Of("PageHeader").size(), 1u);
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtAdjustedBal"), ElementsAre("5.00"));
-    for (const char* section : {"ghTransactionType", "Detail", "gfTransactionType"})
-        EXPECT_TRUE(bands.Of(section).empty()) << section;
 }
 
 TEST_P(ReconciliationTest, AnUnknownAccountIsToldOnceAndNothingIsListed) {
@@ -154,4 +139,4 @@ TEST_P(ReconciliationTest, AnUnknownAccountIsToldOnceAndNothingIsListed) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

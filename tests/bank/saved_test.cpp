@@ -3,15 +3,9 @@
 
 #include "tests/bank/bank_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::BankRun;
-using test::Day;
-using test::kYenBank;
-using test::Money;
-using test::SavedRun;
-using test::Shown;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -71,7 +65,7 @@ TEST(SavedReconciliationTest, RefreshedFiguresProveTheBalance) {
 
 TEST(SavedReconciliationTest, AForeignAccountIsRefreshedInItsOwnCurrency) {
     for (const auto& [account, column] :
-         {std::pair(kYenBank, "GLDet.ForeignAmnt"), std::pair(test::kBank, "GLDet.DetAmnt")}) {
+         {std::pair(kYenBank, "GLDet.ForeignAmnt"), std::pair(kBank, "GLDet.DetAmnt")}) {
         BankRun run = SavedRun();
         HaveSums(run, Money("-1"), Money("2"), Money("3"));
         run.Properties().Put("ExConcilAcctId", account);
@@ -126,4 +120,4 @@ TEST(SavedReconciliationTest, ARowThatCannotBeReadIsToldAndBlanksItsGroupsTotalO
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <initializer_list>
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
 #include "company/texts/texts.h"
 #include "host/dialogs.h"
-#include "tests/support/memory_host.h"
 
 namespace varnel::test {
 
@@ -18,11 +18,13 @@ inline std::vector<std::string> CaptionsOf(Form& form) {
     return captions;
 }
 
-/// Gives the host the texts of those numbers as the command's users read them.
-inline void TranslateInto(company::Language language, MemoryHost& host,
-                          std::initializer_list<std::int16_t> numbers) {
-    company::Texts texts(language, {});
-    for (const auto number : numbers) host.texts[number] = texts.Get(number);
+/// The captions are the numbers of texts, as the in-memory host has them; there are such texts.
+inline void ExpectTexts(const std::vector<std::string>& captions) {
+    for (const auto language : {company::Language::kEnglish, company::Language::kFrench}) {
+        company::Texts texts(language, [](std::int16_t number) { ADD_FAILURE() << number; });
+        for (const auto& caption : captions)
+            texts.Get(static_cast<std::int16_t>(std::stoi(caption)));
+    }
 }
 
 }  // namespace varnel::test

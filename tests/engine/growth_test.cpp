@@ -33,20 +33,6 @@ TEST(Growth, TwoThatGrowOneBelowTheOtherAddUp) {
     EXPECT_EQ(controls[2].shift, 250);
 }
 
-TEST(Growth, ASubReportWithoutHeightPushesWhatStandsAtItsPlace) {
-    std::vector<Extent> controls{At(200, 100, 100), SubAt(200, 0, 700), At(0, 200, 200)};
-    EXPECT_EQ(Growth().Settle(controls, kSection), 1300);
-    EXPECT_EQ(controls[0].shift, 700);
-    EXPECT_EQ(controls[1].shift, 0);
-    EXPECT_EQ(controls[2].shift, 0);
-}
-
-TEST(Growth, AnAbsentSubReportGivesItsPlaceAway) {
-    std::vector<Extent> controls{At(0, 200, 200), SubAt(200, 300, 0), At(500, 100, 100)};
-    EXPECT_EQ(Growth().Settle(controls, kSection), 300);
-    EXPECT_EQ(controls[2].shift, -300);
-}
-
 TEST(Growth, NothingMovesUpPastWhatStandsBesideAnAbsentSubReport) {
     std::vector<Extent> controls{At(200, 250, 250), SubAt(200, 300, 0), At(500, 100, 100)};
     EXPECT_EQ(Growth().Settle(controls, kSection), kSection);

@@ -1,8 +1,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <numeric>
-
 #include "tests/engine/micro_report.h"
 #include "tests/support/error_of.h"
 

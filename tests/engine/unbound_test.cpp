@@ -50,6 +50,14 @@ TEST(Unbound, FieldsStayOverRunsAndTheirValuesGo) {
     EXPECT_EQ(report.Data().FieldNames().Size(), 2u);
 }
 
+TEST(Unbound, AFieldAddedTwiceIsOneField) {
+    ReportData data;
+    const Column account = data.AddField("Account");
+    EXPECT_NE(data.AddField("Amount").index, account.index);
+    EXPECT_EQ(data.AddField("ACCOUNT").index, account.index);
+    EXPECT_EQ(data.FieldNames().Size(), 2u);
+}
+
 TEST(Unbound, AFooterSeesTheFieldsOfItsLastRowBesideTheRowSet) {
     MicroReport report(MicroLayout(1), "g0 line", "A 1|A 2|B 3");
     const Column doubled = report.Data().AddField("doubled");

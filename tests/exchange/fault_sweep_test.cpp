@@ -4,26 +4,15 @@
 #include "tests/exchange/unrealized_detail_run.h"
 #include "tests/exchange/unrealized_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::Paid;
-using test::Shown;
-using test::SweepFaults;
 using testing::ElementsAre;
-
-/// A report over its rows.
-template <class Run, class Row>
-struct RunOver : Run {
-    std::vector<Row> rows;
-    Date to = Date::ParseIso("2025-03-31");
-    test::CollectedBands operator()() { return Run::operator()(rows); }
-};
 
 // Each has run once before, over other amounts, so that leftovers would show.
 
 auto Realized() {
-    RunOver<test::RealizedRun, test::PaymentRow> run;
+    RunOver<RealizedRun, PaymentRow> run;
     run.rows = {Paid("7000"), Paid("70", 2)};
     run();
     run.rows = {Paid("1000"), Paid("400"), Paid("600", 2), Paid("150000", 2, 3)};
@@ -31,7 +20,7 @@ auto Realized() {
 }
 
 auto Unrealized() {
-    RunOver<test::UnrealizedRun, test::ForeignRow> run;
+    RunOver<UnrealizedRun, ForeignRow> run;
     run.rows = {{1'060, 2, "7000", "1"}};
     run();
     run.rows = {{1'065, 3, "100", "150"},
@@ -42,28 +31,24 @@ auto Unrealized() {
 }
 
 auto UnrealizedDetail() {
-    RunOver<test::DetailRun, test::ForeignLine> run;
+    RunOver<DetailRun, ForeignLine> run;
     run.Forward({{"1", "1"}});
-    run.rows = {test::Line("7000", "1")};
+    run.rows = {Line("7000", "1")};
     run();
     run.Forward({{"1000", "1250"}, {"500", "735", 3}});
-    run.rows = {test::Line("100", "130"), test::Line("-40", "-52"), test::Line("7", "9")};
+    run.rows = {Line("100", "130"), Line("-40", "-52"), Line("7", "9")};
     return run;
 }
 
 TEST(ExchangeFaultSweepTest, OfTheRealizedReportTellsEveryFailureAndShowsNoWrongFigure) {
-    const auto right = SweepFaults({"dsrRealizedExchProfitloss",
-                                    {{"Detail", {"txtPmtDate"}},
-                                     {"Detail", {"txtExchangeRate"}},
-                                     {"Detail", {"txtPmtRate"}},
-                                     {"Detail", {"txtPaid"}},
-                                     {"Detail", {"txtGain"}},
-                                     {"ghCurrency", {"txtCurrency"}},
-                                     {"ghCurrPmtType", {"txtAccount"}},
-                                     {"gfCurrPmtType", {"txtPaidTotal"}},
-                                     {"gfCurrPmtType", {"txtGainTotal"}},
-                                     {"ReportFooter", {"txtGainGrandTotal"}}}},
-                                   Realized);
+    const auto right = SweepFaults(
+        {"dsrRealizedExchProfitloss",
+         {{"Detail", {"txtPmtDate", "txtExchangeRate", "txtPmtRate", "txtPaid", "txtGain"}},
+          {"ghCurrency", {"txtCurrency"}},
+          {"ghCurrPmtType", {"txtAccount"}},
+          {"gfCurrPmtType", {"txtPaidTotal", "txtGainTotal"}},
+          {"ReportFooter", {"txtGainGrandTotal"}}}},
+        Realized);
     // 0.0225 on each dollar and yen.
     EXPECT_THAT(Shown(right, "gfCurrPmtType", {"txtPaidTotal", "txtGainTotal"}),
                 ElementsAre("1,400.00|31.50", "600.00|-13.50", "150,000.00|-3,375.00"));
@@ -71,17 +56,12 @@ TEST(ExchangeFaultSweepTest, OfTheRealizedReportTellsEveryFailureAndShowsNoWrong
 }
 
 TEST(ExchangeFaultSweepTest, OfTheUnrealizedReportTellsEveryFailureAndShowsNoWrongFigure) {
-    const auto right = SweepFaults({"dsrUnRealExchProfitloss",
-                                    {{"gfAccountType", {"txtAccount"}},
-                                     {"gfAccountType", {"txtForeign"}},
-                                     {"gfAccountType", {"txtBooked"}},
-                                     {"gfAccountType", {"txtRevalued"}},
-                                     {"gfAccountType", {"txtGain"}},
-                                     {"gfCurrency", {"txtBookedTotal"}},
-                                     {"gfCurrency", {"txtRevaluedTotal"}},
-                                     {"gfCurrency", {"txtGainTotal"}},
-                                     {"ReportFooter", {"txtGainGrandTotal"}}}},
-                                   Unrealized);
+    const auto right = SweepFaults(
+        {"dsrUnRealExchProfitloss",
+         {{"gfAccountType", {"txtAccount", "txtForeign", "txtBooked", "txtRevalued", "txtGain"}},
+          {"gfCurrency", {"txtBookedTotal", "txtRevaluedTotal", "txtGainTotal"}},
+          {"ReportFooter", {"txtGainGrandTotal"}}}},
+        Unrealized);
     // 147 - 150 + 1,098 - 1,030 + 13.73 - 13.
     EXPECT_THAT(right.Texts("gfAccountType", "txtGain"), ElementsAre("-3.00", "68.00", "0.73"));
     EXPECT_THAT(right.Texts("gfCurrency", "txtGainTotal"), ElementsAre("-3.00", "68.73"));
@@ -89,7 +69,7 @@ TEST(ExchangeFaultSweepTest, OfTheUnrealizedReportTellsEveryFailureAndShowsNoWro
 }
 
 TEST(ExchangeFaultSweepTest, OfTheUnrealizedDetailTellsEveryFailureAndShowsNoWrongFigure) {
-    test::Swept swept{"dsrUnRealExchProfitlossDetail", {}};
+    Swept swept{"dsrUnRealExchProfitlossDetail", {}};
     const std::pair<const char*, const char*> kPlaces[] = {{"ghGLAcct", "txtForward"},
                                                            {"Detail", "txt"},
                                                            {"ReportFooter", "txtPeriod"},
@@ -102,4 +82,4 @@ TEST(ExchangeFaultSweepTest, OfTheUnrealizedDetailTellsEveryFailureAndShowsNoWro
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/error_of.h"
+#include "tests/support/memory_host.h"
 
 namespace varnel::reports {
 namespace {
@@ -11,25 +12,6 @@ namespace {
 using testing::ElementsAre;
 
 constexpr std::int32_t kCustomer = 1, kSupplier = 2, kDeposit = 3;
-
-/// A rounding service that keeps what it was asked, "10.00 x 1.35" for a product.
-class Rounding : public CurrencyInfo {
-  public:
-    std::vector<std::string> asked;
-
-    std::int32_t CieHomeCurrencyId() override { return 1; }
-    bool CieIsForeignCurrencyUsed() override { return true; }
-    void FormatWorldCurrency(Currency, std::int32_t, std::string&) override {}
-    Currency Round(Currency amount, int decimals) override {
-        asked.push_back(amount.ToText(2) + " to " + std::to_string(decimals));
-        return CurrencyInfo::Round(amount, decimals);
-    }
-    Currency RoundProduct(Currency amount, Rate rate, int decimals) override {
-        asked.push_back(amount.ToText(2) + " x " + rate.ToText() + " to " +
-                        std::to_string(decimals));
-        return CurrencyInfo::RoundProduct(amount, rate, decimals);
-    }
-};
 
 AppliedPayment Applied(std::int32_t type, const char* amount, const char* discount,
                        const char* invoice_rate, const char* payment_rate) {
@@ -67,27 +49,28 @@ TEST(RealizedGainTest, IsTheSheets) {
         // Other kinds of payment realize nothing.
         {0, "1000", "0", "1.35", "1.3725", "0.00"},
         {4, "980", "20", "1.35", "1.3725", "0.00"}};
-    Rounding rounding;
+    test::MemoryHost host;
     for (const auto& [type, amount, discount, invoice_rate, payment_rate, gain] : sheets) {
         const auto payment = Applied(type, amount, discount, invoice_rate, payment_rate);
-        EXPECT_EQ(RealizedGain(rounding, payment).ToText(2), gain) << type << ", " << amount;
+        EXPECT_EQ(RealizedGain(host.company.currency_info, payment).ToText(2), gain)
+            << type << ", " << amount;
     }
 }
 
 TEST(RealizedGainRoundingTest, IsTheHostsOncePerProductAndOnceAtTheEnd) {
-    Rounding plain;
-    RealizedGain(plain, Applied(kCustomer, "1000", "0", "1.35", "1.3725"));
-    EXPECT_THAT(plain.asked, ElementsAre("1000.00 x 0.0225 to 2"));
-    Rounding discounted;
-    RealizedGain(discounted, Applied(kSupplier, "980", "20", "1.35", "1.3725"));
-    EXPECT_THAT(discounted.asked, ElementsAre("1000.00 x 1.3500 to 2", "20.00 x 1.3725 to 2",
-                                              "980.00 x 1.3725 to 2", "-22.50 to 2"));
+    test::MemoryHost plain, discounted;
+    RealizedGain(plain.company.currency_info, Applied(kCustomer, "1000", "0", "1.35", "1.3725"));
+    EXPECT_THAT(plain.calls.Names(), ElementsAre("RoundProduct"));
+    RealizedGain(discounted.company.currency_info,
+                 Applied(kSupplier, "980", "20", "1.35", "1.3725"));
+    EXPECT_THAT(discounted.calls.Names(),
+                ElementsAre("RoundProduct", "RoundProduct", "RoundProduct", "Round"));
 }
 
 TEST(RealizedGainRoundingTest, WhatDoesNotFitIsAnOverflow) {
-    Rounding rounding;
+    test::MemoryHost host;
     const auto gain_of = [&](const AppliedPayment& payment) {
-        return test::ErrorOf([&] { RealizedGain(rounding, payment); });
+        return test::ErrorOf([&] { RealizedGain(host.company.currency_info, payment); });
     };
     // More than 922,337,203,685,477.5807 cannot be held.
     EXPECT_EQ(gain_of(Applied(kCustomer, "900000000000000", "0", "0", "2")), 6);

@@ -20,33 +20,23 @@ RowSet PaymentRows(const std::vector<PaymentRow>& rows) {
     return set;
 }
 
-RealizedRun::RealizedRun() {
+RealizedRun::RealizedRun() : ReportRun(clsReport().RealizedExchProfitLoss()) {
     auto& currencies = host->company.currency_info.records;
-    currencies.push_back({.id = 2,
-                          .code = "USD",
-                          .description = "US dollar",
-                          .ar_account_id = 1'201,
-                          .ap_account_id = 2'101});
-    currencies.push_back({.id = 3, .code = "JPY", .description = "Yen", .decimals = 0});
+    currencies[1].ar_account_id = 1'201;
+    currencies[1].ap_account_id = 2'101;
+    currencies[2] = {.id = 3, .code = "JPY", .description = "Yen", .decimals = 0};
     host->company.account_params = {{"CustGLAR", 1'200}, {"SuppGLAP", 2'100}};
-    host->company.settings["UseAccountNumbers"] = "True";
     host->texts[5846] = "Currency";
     host->database.Answer(kLoadAll, AccountRows({{1'060, "1060", "Bank"},
                                                  {1'200, "1200", "Receivables"},
                                                  {1'201, "1201", "Receivables USD"},
                                                  {2'100, "2100", "Payables"},
                                                  {2'101, "2101", "Payables USD"}}));
-    report->IReport_Application(host);
-    report->IReport_DateFrom(Date::ParseIso("2025-01-01"));
-    report->IReport_DateTo(Date::ParseIso("2025-03-31"));
-    report->IReport_Initialize();
 }
 
 CollectedBands RealizedRun::operator()(const std::vector<PaymentRow>& rows) {
     host->database.Answer("FROM CurrPmtDet_View", PaymentRows(rows));
     return Collect(*report->IReport_ReportDesigner());
 }
-
-const RecordedCommand& RealizedRun::LastQuery() const { return *host->database.Commands().back(); }
 
 }  // namespace varnel::test

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "framework/cls_report.h"
-#include "tests/support/collected_bands.h"
-#include "tests/support/memory_host.h"
+#include "tests/support/report_run.h"
 
 namespace varnel::test {
 
@@ -37,19 +35,13 @@ inline PaymentRow Paid(const char* amount, std::int32_t type = 1, std::int32_t c
     return row;
 }
 
-/// The realized report of a host that a test may change. Home currency 1 is CAD; 2 is USD with
-/// accounts 1201 and 2101; 3 is JPY without decimals or accounts of its own; the company's are 1200
-/// and 2100, deposits go to 1060.
-class RealizedRun {
+/// The realized report. USD has accounts 1201 and 2101; 3 is JPY here, without decimals or accounts
+/// of its own; the company's are 1200 and 2100, deposits go to 1060.
+class RealizedRun : public ReportRun {
   public:
     RealizedRun();
     /// Runs the same report object again with each call.
     CollectedBands operator()(const std::vector<PaymentRow>& rows);
-    /// The statement of the last run over payments.
-    const RecordedCommand& LastQuery() const;
-
-    std::shared_ptr<MemoryHost> host = std::make_shared<MemoryHost>();
-    std::shared_ptr<IReport> report = clsReport().RealizedExchProfitLoss();
 };
 
 }  // namespace varnel::test

@@ -3,12 +3,9 @@
 
 #include "tests/exchange/realized_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::Paid;
-using test::PaymentRow;
-using test::RealizedRun;
 using testing::ElementsAre;
 
 PaymentRow Deposited(std::int32_t account_id) {
@@ -25,7 +22,7 @@ TEST(RealizedPageTest, IsTheRealizedGainOrLossOfThePeriod) {
     EXPECT_FALSE(run.report->IReport_NoHeaders());
     const auto header = run({}).Of("PageHeader").at(0);
     EXPECT_EQ(header.Text("hdrTitle"), "Realized Gain");
-    EXPECT_EQ(header.Text("lblDateFromDateTo"), "From 2025-01-01 to 2025-03-31");
+    EXPECT_EQ(header.Text("lblDateFromDateTo"), "From 2025-02-01 to 2025-03-31");
     EXPECT_EQ(header.Text("lblPaidCap"), "Paid");
     EXPECT_EQ(header["lblGainCap"].box.top, header["StandardHeader"].box.Bottom() + 90);
     EXPECT_EQ(header.height, header["lblGainCap"].box.Bottom());
@@ -36,7 +33,9 @@ TEST(RealizedDetailTest, NullsCountAsZeroAndADateThatIsMissingIsBlank) {
     auto empty = Paid("0");
     empty.amount = empty.discount = empty.invoice_rate = empty.payment_rate = empty.date =
         Variant::Null{};
-    const auto line = run({Paid("1000"), empty}).Of("Detail").at(1);
+    const auto bands = run({Paid("1000"), empty});
+    EXPECT_EQ(bands.Of("Detail").at(0).Text("txtPmtDate"), "2025-01-15");
+    const auto line = bands.Of("Detail").at(1);
     EXPECT_EQ(line.Text("txtPaid"), "0.00");
     EXPECT_EQ(line.Text("txtExchangeRate"), "0.0000");
     EXPECT_EQ(line.Text("txtGain"), "0.00");
@@ -139,5 +138,47 @@ TEST(RealizedTotalsTest, WithoutRowsAreAZero) {
     EXPECT_TRUE(run.host->message_boxes.empty());
 }
 
+testing::Matcher<std::string> FormA(const std::string& description, const std::string& procedure) {
+    return testing::MatchesRegex(description + "\r\nin Varnel\\.dsrRealizedExchProfitloss\\." +
+                                 procedure + " at line [1-9][0-9]*");
+}
+
+TEST(RealizedFailureTest, AnUnknownCurrencyCostsATextAndNoTotal) {
+    RealizedRun run;
+    const auto bands = run({Paid("1000", 3, 99)});
+    EXPECT_THAT(run.host->message_boxes,
+                ElementsAre(FormA("There is no currency 99", "Detail_Format")));
+    EXPECT_THAT(bands.Texts("Detail", "txtPaid"), ElementsAre(""));
+    EXPECT_THAT(bands.Texts("Detail", "txtGain"), ElementsAre("22.50"));
+    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtPaidTotal"), ElementsAre("1,000.00"));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre("22.50"));
+}
+
+TEST(RealizedFailureTest, AnAmountThatCannotBeReadLeavesTheTotalsItBelongsToBlank) {
+    RealizedRun run;
+    auto unreadable = Paid("0");
+    unreadable.amount = "12,50";
+    const auto bands = run({Paid("1000"), unreadable, Paid("2000"), Paid("400", 2)});
+    EXPECT_THAT(run.host->message_boxes,
+                ElementsAre(FormA("\"12,50\" is not an amount.*", "Detail_Format")));
+    EXPECT_THAT(bands.Texts("Detail", "txtPaid"),
+                ElementsAre("1,000.00", "", "2,000.00", "400.00"));
+    EXPECT_THAT(bands.Texts("Detail", "txtGain"), ElementsAre("22.50", "", "45.00", "-9.00"));
+    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtPaidTotal"), ElementsAre("", "400.00"));
+    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtGainTotal"), ElementsAre("", "-9.00"));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre(""));
+}
+
+TEST(RealizedFailureTest, AnAccountThatTheChartDoesNotHaveIsBlankWithoutAKey) {
+    RealizedRun run;
+    auto deposit = Paid("1000", 3);
+    deposit.account_id = 5;
+    const auto bands = run({Paid("1000"), deposit});
+    EXPECT_THAT(run.host->message_boxes, ElementsAre(FormA(".*", "ghCurrPmtType_Format")));
+    EXPECT_EQ(bands.Of("ghCurrPmtType").at(1)["txtAccount"].text, "");
+    EXPECT_EQ(bands.Of("ghCurrPmtType").at(1)["txtAccount"].tag, "");
+    EXPECT_THAT(bands.Texts("gfCurrPmtType", "txtGainTotal"), ElementsAre("22.50", "22.50"));
+}
+
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -2,13 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "tests/exchange/realized_run.h"
-#include "tests/journal/picking_tool.h"
+#include "tests/support/picking_tool.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::PickingTool;
-using test::RealizedRun;
 using testing::ElementsAre;
 
 // Texts are joined by JOINED.
@@ -33,21 +31,19 @@ TEST(RealizedQueryTest, IsExactlyThis) {
         bool also_none;
         const char* filter;
         const char* statement;
-    } cases[] = {
-        {"", false, "|", PAYMENTS IN_ORDER},
-        {"3,7", false, "", PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3,7)) " IN_ORDER},
-        {"", false, "|Name DESC", PAYMENTS BY_DATE_AND "Name DESC"},
-        {"3", true, "PmtAmnt > 5|Name",
-         PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3) OR "
-                  "CurrPmtDet_View.ExSegmentId IS NULL)  AND (PmtAmnt > 5) " BY_DATE_AND "Name"}};
+    } cases[] = {{"", false, "|", PAYMENTS IN_ORDER},
+                 {"3", true, "PmtAmnt > 5|Name DESC",
+                  PAYMENTS " AND (CurrPmtDet_View.ExSegmentId IN (3) OR "
+                           "CurrPmtDet_View.ExSegmentId IS NULL)  AND (PmtAmnt > 5) " BY_DATE_AND
+                           "Name DESC"}};
     for (const auto& [segments, also_none, filter, statement] : cases) {
         RealizedRun run;
-        auto& by_segment = dynamic_cast<ISegmentFilter&>(*run.report);
-        by_segment.ISegmentFilter_SegmentFilter(segments);
-        by_segment.ISegmentFilter_SegmentNoneFilter(also_none);
-        dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_Filter(filter);
+        const auto tool = std::make_shared<PickingTool>();
+        run.FilterSegments(segments, also_none);
+        run.Filter(filter, tool);
         run({});
-        EXPECT_EQ(run.LastQuery().text, statement);
+        EXPECT_EQ(run.Command().text, statement);
+        EXPECT_EQ(tool->tables, "CurrPmtDet_View, WorldCurrency");
     }
 }
 
@@ -59,7 +55,7 @@ TEST(RealizedQueryTest, JoinsTextsAsTheDatabaseDoes) {
           std::pair{-1, PAYMENTS_JOINED_BY("+") IN_ORDER}}) {
         run.host->database.type = type;
         run({});
-        EXPECT_EQ(run.LastQuery().text, statement) << "database type " << type;
+        EXPECT_EQ(run.Command().text, statement) << "database type " << type;
     }
 }
 
@@ -69,18 +65,16 @@ TEST(RealizedQueryTest, HasBothDatesAsTheyAreAndTheHomeCurrency) {
     run.report->IReport_Initialize();
     run.report->IReport_DateFrom(kOpenStart);
     run({});
-    const auto& query = run.LastQuery();
-    EXPECT_THAT(query.calls,
-                ElementsAre("timeout 0", "connection memory", "text", "parameter 1899-12-31",
-                            "parameter 2025-03-31", "parameter 7", "execute -1"));
-    EXPECT_TRUE(query.parameters.at(0).Holds<Date>());
-    EXPECT_TRUE(query.parameters.at(1).Holds<Date>());
-    EXPECT_TRUE(query.parameters.at(2).Holds<std::int32_t>());
+    const auto& query = run.Command();
+    ASSERT_EQ(query.parameters.size(), 3u);
+    EXPECT_EQ(query.parameters[0].ToDate(), kOpenStart);
+    EXPECT_EQ(query.parameters[1].ToDate(), run.to);
+    EXPECT_EQ(query.parameters[2].ToInteger32(), 7);
 }
 
 TEST(RealizedQueryTest, AccountsAreLoadedOnceARunBeforeThePayments) {
     RealizedRun run;
-    run({test::Paid("1", 1), test::Paid("1", 2), test::Paid("1", 1, 3)});
+    run({Paid("1", 1), Paid("1", 2), Paid("1", 1, 3)});
     run({});
     std::vector<std::string> starts;
     for (const auto& command : run.host->database.Commands())
@@ -89,13 +83,5 @@ TEST(RealizedQueryTest, AccountsAreLoadedOnceARunBeforeThePayments) {
                 ElementsAre("Select * from", "SELECT CurrPm", "Select * from", "SELECT CurrPm"));
 }
 
-TEST(RealizedQueryTest, TheFilterToolLearnsWhichTablesCriteriaMayName) {
-    RealizedRun run;
-    const auto tool = std::make_shared<PickingTool>();
-    dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_FilterTool(tool);
-    run({});
-    EXPECT_EQ(tool->tables, "CurrPmtDet_View, WorldCurrency");
-}
-
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

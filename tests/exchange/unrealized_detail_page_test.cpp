@@ -3,11 +3,9 @@
 
 #include "tests/exchange/unrealized_detail_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DetailRun;
-using test::Line;
 using testing::ElementsAre;
 
 TEST(UnrealizedDetailPageTest, IsTheDetailOfThePeriodAtItsRates) {
@@ -20,7 +18,7 @@ TEST(UnrealizedDetailPageTest, IsTheDetailOfThePeriodAtItsRates) {
     EXPECT_EQ(run.report->IReport_DateDisplayOptions(), DateDisplay::kFromTo);
     const auto header = run({}).Of("PageHeader").at(0);
     EXPECT_EQ(header.Text("hdrTitle"), "Unrealized Detail");
-    EXPECT_EQ(header.Text("lblDateFromDateTo"), "From 2025-01-01 to 2025-03-31");
+    EXPECT_EQ(header.Text("lblDateFromDateTo"), "From 2025-02-01 to 2025-03-31");
     EXPECT_EQ(header.Text("txtExchangeRate"), "Exchange rates (USD 1.3725)");
     EXPECT_EQ(header.Text("lblForeignCap"), "Currency USD");
     EXPECT_EQ(header.height, header["lblForeignCap"].box.Bottom());
@@ -35,7 +33,7 @@ TEST(UnrealizedDetailPageTest, TheAccountHeaderNamesAccountCurrencyAndDayOfTheFo
     EXPECT_EQ(header[0].Text("txtAccount"), "1060 - Bank USD");
     EXPECT_EQ(header[0]["txtAccount"].tag, "ACC|1060");
     EXPECT_EQ(header[0].Text("txtCurrency"), "USD");
-    EXPECT_EQ(header[0]["txtForwardDate"].value, ControlValue(Date::ParseIso("2024-12-31")));
+    EXPECT_EQ(header[0]["txtForwardDate"].value, ControlValue(Date::ParseIso("2025-01-31")));
     run.report->IReport_DateFrom(kOpenStart);
     EXPECT_EQ(run({Line("1", "1")}).Of("ghGLAcct")[0].Text("txtForwardDate"), "");
 }
@@ -88,4 +86,4 @@ TEST(UnrealizedDetailPageTest, RatesThatTheHostHasSetAreTakenAndNoneAskedFor) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -25,16 +25,11 @@ RowSet BalanceRows(const std::vector<BalanceRow>& rows) {
     return set;
 }
 
-DetailRun::DetailRun(std::shared_ptr<MemoryHost> its_host) : host(std::move(its_host)) {
-    auto& currencies = host->company.currency_info;
-    currencies.records.push_back({.id = 2, .code = "USD", .description = "US dollar"});
-    currencies.rate_table[2][Date::ParseIso("2025-01-01")] = Rate::Parse("1.3725");
+DetailRun::DetailRun() : ReportRun(clsReport().UnRealExchProfitLossDetail()) {
+    host->company.currency_info.records.pop_back();
+    host->company.currency_info.rate_table[2][Date::ParseIso("2025-01-01")] = Rate::Parse("1.3725");
     host->database.Answer(kLoadAll, AccountRows({{1'060, "1060", "Bank USD"}}));
     Forward({});
-    report->IReport_Application(host);
-    report->IReport_DateFrom(Date::ParseIso("2025-01-01"));
-    report->IReport_DateTo(Date::ParseIso("2025-03-31"));
-    report->IReport_Initialize();
     Designer().Put("GLAcctId", 1'060);
     Designer().Put("ExCurrencyId", 2);
 }

@@ -4,8 +4,7 @@
 #include <vector>
 
 #include "framework/cls_report.h"
-#include "tests/support/collected_bands.h"
-#include "tests/support/memory_host.h"
+#include "tests/support/report_run.h"
 
 namespace varnel::test {
 
@@ -38,21 +37,17 @@ inline constexpr const char* kLinesStatement = "ForeignAmnt As AcctBalForeign, D
 RowSet LineRows(const std::vector<ForeignLine>& lines);
 RowSet BalanceRows(const std::vector<BalanceRow>& rows);
 
-/// The unrealized detail of account 1060, "1060 - Bank USD", in USD, from 2025-01-01 to 2025-03-31,
-/// over a host that a test may change. Home currency 1 is CAD; 2 is USD at 1.3725 from 2025-01-01.
+/// The unrealized detail of account 1060, "1060 - Bank USD", in USD at 1.3725 from 2025-01-01.
 /// Nothing is brought forward unless the test says so.
-class DetailRun {
+class DetailRun : public ReportRun {
   public:
-    explicit DetailRun(std::shared_ptr<MemoryHost> its_host = std::make_shared<MemoryHost>());
+    DetailRun();
     /// Runs the same report object again with each call.
     CollectedBands operator()(const std::vector<ForeignLine>& lines);
     void Forward(const std::vector<BalanceRow>& rows);
     /// The statements of that kind so far, with their parameters.
     std::vector<RecordedCommand> Asked(const std::string& part) const;
     BandedReport& Designer() { return *report->IReport_ReportDesigner(); }
-
-    std::shared_ptr<MemoryHost> host;
-    std::shared_ptr<IReport> report = clsReport().UnRealExchProfitLossDetail();
 };
 
 /// "foreign home revalued gain" of each line.

@@ -3,13 +3,9 @@
 
 #include "tests/exchange/unrealized_detail_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DetailRun;
-using test::kBalanceStatement;
-using test::kLinesStatement;
-using test::Line;
 using testing::ElementsAre;
 
 #define LINES                                                                             \
@@ -37,14 +33,13 @@ TEST(UnrealizedDetailQueryTest, IsExactlyThisAndTheForwardTakesTheSameSegments) 
     run({});
     EXPECT_EQ(run.Asked(kLinesStatement).at(0).text, LINES IN_ORDER);
     EXPECT_EQ(run.Asked(kBalanceStatement).at(0).text, BALANCE GROUPED);
-    auto& segments = dynamic_cast<ISegmentFilter&>(*run.report);
-    segments.ISegmentFilter_SegmentFilter("3,7");
+    run.FilterSegments("3,7");
     run({});
     EXPECT_EQ(run.Asked(kLinesStatement).at(1).text,
               LINES " AND (GLDet.ExSegmentId IN (3,7)) " IN_ORDER);
     EXPECT_EQ(run.Asked(kBalanceStatement).at(1).text,
               BALANCE "AND GLDet.ExSegmentId IN (3,7) " GROUPED);
-    segments.ISegmentFilter_SegmentNoneFilter(true);
+    run.FilterSegments("3,7", true);
     run({});
     EXPECT_EQ(run.Asked(kLinesStatement).at(2).text,
               LINES " AND (GLDet.ExSegmentId IN (3,7) OR GLDet.ExSegmentId IS NULL) " IN_ORDER);
@@ -63,11 +58,11 @@ TEST(UnrealizedDetailQueryTest,
     DetailRun run;
     run({});
     const auto lines = run.Asked(kLinesStatement).at(0).parameters;
-    EXPECT_THAT(Texts(lines), ElementsAre("2", "1060", "2025-01-01", "2025-03-31"));
+    EXPECT_THAT(Texts(lines), ElementsAre("2", "1060", "2025-02-01", "2025-03-31"));
     for (const std::size_t id : {0u, 1u}) EXPECT_TRUE(lines[id].Holds<std::int32_t>());
     for (const std::size_t limit : {2u, 3u}) EXPECT_TRUE(lines[limit].Holds<Date>());
     const auto balance = run.Asked(kBalanceStatement).at(0).parameters;
-    EXPECT_THAT(Texts(balance), ElementsAre("1060", "2024-12-31"));
+    EXPECT_THAT(Texts(balance), ElementsAre("1060", "2025-01-31"));
     EXPECT_TRUE(balance[0].Holds<std::int32_t>() && balance[1].Holds<Date>());
 }
 
@@ -91,11 +86,11 @@ TEST(UnrealizedDetailQueryTest, TheDayAfterTheOpenStartIsNotOpen) {
 
 TEST(UnrealizedDetailQueryTest, TheFilterIsNoPartOfTheStatementsNorOfThePage) {
     DetailRun run;
-    dynamic_cast<IFilterableReport&>(*run.report).IFilterableReport_Filter("USD=1.40|GLAcctId");
+    run.Filter("USD=1.40|GLAcctId");
     const auto bands = run({});
     EXPECT_EQ(run.Asked(kLinesStatement).at(0).text, LINES IN_ORDER);
     for (const auto& band : bands.bands) EXPECT_EQ(band.depth, 0);
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

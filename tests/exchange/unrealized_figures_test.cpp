@@ -5,14 +5,12 @@
 
 #include "tests/exchange/unrealized_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::CollectedBand;
-using test::CollectedBands;
-using test::UnrealizedRun;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::MatchesRegex;
 
 /// "booked revalued gain" of each account.
 std::vector<std::string> Figures(const CollectedBands& bands) {
@@ -48,12 +46,6 @@ TEST(UnrealizedFiguresTest, AreInTheFormatOfTheirCurrency) {
     EXPECT_THAT(bands.Texts("gfAccountType", "txtForeign"), ElementsAre("1,000"));
     EXPECT_THAT(Figures(bands), ElementsAre("1,300.000 1,372.500 72.500"));
     EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre("72.500"));
-}
-
-TEST(UnrealizedFiguresTest, AreAtTheBookedRateWhenNothingIsRevalued) {
-    UnrealizedRun run;
-    run.report->IReport_ReportDesigner()->Put("RatesPreset", true);
-    EXPECT_THAT(Figures(run({{1'060, 2, "100", "130"}})), ElementsAre("130.00 125.00 -5.00"));
 }
 
 TEST(UnrealizedFiguresTest, AreThoseBookedInACompanyOfOneCurrency) {
@@ -93,5 +85,27 @@ TEST(UnrealizedPageTest, SaysClosingDateRatesAndSegments) {
     EXPECT_EQ(note->Text("txtFilter"), "");
 }
 
+TEST(UnrealizedFailureTest, ABalanceWithoutARateLeavesBlankWhatItBelongsToAndIsToldOnce) {
+    UnrealizedRun run;
+    run.host->company.currency_info.rate_table[3].clear();
+    run({{1'060, 2, "100", "130"}});
+    EXPECT_TRUE(run.host->message_boxes.empty()) << "no balance in EUR";
+    const auto bands = run({{1'065, 3, "1", "1"},
+                            {1'065, 3, "2", "2"},
+                            {1'060, 2, "100", "130"},
+                            {1'200, 2, "10", "13"}});
+    EXPECT_THAT(
+        run.host->message_boxes,
+        ElementsAre(MatchesRegex("There is no exchange rate for EUR on or before 2025-03-31\r\n"
+                                 "in Varnel.dsrUnRealExchProfitloss.Detail_Format at "
+                                 "line [1-9][0-9]*")));
+    EXPECT_THAT(bands.Texts("gfAccountType", "txtAccount"),
+                ElementsAre("1065 - Bank EUR", "1060 - Bank USD", "1200 - Receivables"));
+    EXPECT_THAT(bands.Texts("gfAccountType", "txtGain"), ElementsAre("", "7.25", "0.73"));
+    EXPECT_THAT(bands.Texts("gfAccountType", "txtForeign"), ElementsAre("", "100.00", "10.00"));
+    EXPECT_THAT(bands.Texts("gfCurrency", "txtGainTotal"), ElementsAre("", "7.98"));
+    EXPECT_THAT(bands.Texts("ReportFooter", "txtGainGrandTotal"), ElementsAre(""));
+}
+
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -20,13 +20,11 @@ RowSet ForeignRows(const std::vector<ForeignRow>& rows) {
     return set;
 }
 
-UnrealizedRun::UnrealizedRun() {
+UnrealizedRun::UnrealizedRun() : ReportRun(clsReport().UnRealExchProfitLoss()) {
     auto& currencies = host->company.currency_info;
-    currencies.records.push_back({.id = 2, .code = "USD", .description = "US dollar"});
-    currencies.records.push_back({.id = 3, .code = "EUR", .description = "Euro"});
-    const auto from = Date::ParseIso("2025-01-01");
-    currencies.rate_table[2][from] = Rate::Parse("1.3725");
-    currencies.rate_table[3][from] = Rate::Parse("1.47");
+    const auto start = Date::ParseIso("2025-01-01");
+    currencies.rate_table[2][start] = Rate::Parse("1.3725");
+    currencies.rate_table[3][start] = Rate::Parse("1.47");
     currencies.control_account_ids = "1200,2100";
     host->company.other_revalued_account_ids = "1500";
     host->texts[2710] = "Subtotal:";
@@ -34,9 +32,6 @@ UnrealizedRun::UnrealizedRun() {
     host->database.Answer(kLoadAll, AccountRows({{1'060, "1060", "Bank USD"},
                                                  {1'065, "1065", "Bank EUR"},
                                                  {1'200, "1200", "Receivables"}}));
-    report->IReport_Application(host);
-    report->IReport_DateTo(Date::ParseIso("2025-03-31"));
-    report->IReport_Initialize();
 }
 
 CollectedBands UnrealizedRun::operator()(const std::vector<ForeignRow>& rows) {

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "framework/cls_report.h"
-#include "tests/support/collected_bands.h"
-#include "tests/support/memory_host.h"
+#include "tests/support/report_run.h"
 
 namespace varnel::test {
 
@@ -21,17 +19,14 @@ struct ForeignRow {
 /// Account numbers are the ids; currency 1 is CAD, 2 USD and 3 EUR.
 RowSet ForeignRows(const std::vector<ForeignRow>& rows);
 
-/// The unrealized report of a host that a test may change. Home currency 1 is CAD; 2 is USD at
-/// 1.3725 and 3 is EUR at 1.47, from 2025-01-01; accounts are 1060, 1065 and 1200.
-class UnrealizedRun {
+/// The unrealized report. USD is at 1.3725 and EUR at 1.47, from 2025-01-01; accounts are 1060,
+/// 1065 and 1200.
+class UnrealizedRun : public ReportRun {
   public:
     UnrealizedRun();
     /// Runs the same report object again with each call.
     CollectedBands operator()(const std::vector<ForeignRow>& rows);
     IExchangeRates& Rates() { return dynamic_cast<IExchangeRates&>(*report); }
-
-    std::shared_ptr<MemoryHost> host = std::make_shared<MemoryHost>();
-    std::shared_ptr<IReport> report = clsReport().UnRealExchProfitLoss();
 };
 
 }  // namespace varnel::test

@@ -2,91 +2,50 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <map>
+#include <functional>
 #include <set>
-#include <sstream>
+
+#include "company/texts/texts.h"
 
 namespace varnel::framework {
 namespace {
 
-std::vector<CatalogueEntry> BuiltReports() {
-    std::vector<CatalogueEntry> built;
-    for (const auto& entry : Catalogue())
-        if (entry.make != nullptr) built.push_back(entry);
-    return built;
+/// Gives `look` each control of the report as designed.
+void ForEachControl(const CatalogueEntry& entry,
+                    const std::function<void(const ControlLayout& control)>& look) {
+    const auto report = entry.make();
+    for (const auto& section : report->IReport_ReportDesigner()->GetSurface().Design().sections)
+        for (const auto& control : section.controls) look(control);
 }
 
-struct Translation {
-    std::string english, french;
-};
-
-std::map<int, Translation> ReadTexts() {
-    std::ifstream in(VARNEL_SOURCE_DIR "/company/texts/texts.tsv");
-    std::map<int, Translation> texts;
-    for (std::string line; std::getline(in, line);) {
-        std::istringstream fields(line);
-        std::string number;
-        Translation text;
-        std::getline(fields, number, '\t');
-        std::getline(fields, text.english, '\t');
-        std::getline(fields, text.french, '\t');
-        if (!number.starts_with('#')) texts[std::stoi(number)] = text;
-    }
-    return texts;
-}
-
-void ExpectInBothLanguages(const std::map<int, Translation>& texts, int number,
-                           std::string_view of) {
-    const auto text = texts.find(number);
-    ASSERT_NE(text, texts.end()) << of << ": there is no text " << number;
-    EXPECT_FALSE(text->second.english.empty()) << number;
-    EXPECT_FALSE(text->second.french.empty()) << number;
-}
-
-TEST(CatalogueTest, EveryTitleIsATextInBothLanguages) {
-    const auto texts = ReadTexts();
-    for (const auto& entry : Catalogue())
-        ExpectInBothLanguages(texts, entry.title_text, entry.class_name);
-}
-
-/// The sections of a report as designed.
-class ReportLayoutTest : public testing::TestWithParam<CatalogueEntry> {
-  protected:
-    const std::vector<SectionLayout>& Sections() {
-        return report_->IReport_ReportDesigner()->GetSurface().Design().sections;
-    }
-
-  private:
-    std::shared_ptr<IReport> report_ = GetParam().make();
-};
-
-TEST_P(ReportLayoutTest, NamesEachColumnOfADataExportOnce) {
-    std::set<std::string_view> columns;
-    for (const auto& section : Sections()) {
-        for (const auto& control : section.controls) {
-            const bool fresh = control.column.empty() || columns.insert(control.column).second;
-            EXPECT_TRUE(fresh) << control.column;
+TEST(CatalogueTest, EveryTitleAndCaptionIsATextInBothLanguages) {
+    for (const auto language : {company::Language::kEnglish, company::Language::kFrench}) {
+        for (const auto& entry : Catalogue()) {
+            company::Texts texts(language, [&](std::int16_t number) {
+                ADD_FAILURE() << entry.class_name << ": there is no text " << number;
+            });
+            texts.Get(entry.title_text);
+            int captions = 0;
+            ForEachControl(entry, [&](const ControlLayout& control) {
+                if (control.caption == 0) return;
+                ++captions;
+                texts.Get(control.caption);
+            });
+            EXPECT_GT(captions, 0) << entry.class_name;
         }
     }
-    EXPECT_FALSE(columns.empty());
 }
 
-TEST_P(ReportLayoutTest, TakesItsCaptionsFromTextsInBothLanguages) {
-    const auto texts = ReadTexts();
-    int captions = 0;
-    for (const auto& section : Sections()) {
-        for (const auto& control : section.controls) {
-            if (control.caption == 0) continue;
-            ++captions;
-            ExpectInBothLanguages(texts, control.caption, control.name);
-        }
+TEST(CatalogueTest, EveryReportNamesEachColumnOfADataExportOnce) {
+    for (const auto& entry : Catalogue()) {
+        std::set<std::string_view> columns;
+        ForEachControl(entry, [&](const ControlLayout& control) {
+            EXPECT_TRUE(control.column.empty() || columns.insert(control.column).second)
+                << entry.class_name << ": " << control.column;
+        });
+        EXPECT_FALSE(columns.empty()) << entry.class_name;
     }
-    EXPECT_GT(captions, 0);
 }
-
-INSTANTIATE_TEST_SUITE_P(Reports, ReportLayoutTest, testing::ValuesIn(BuiltReports()),
-                         [](const auto& report) { return std::string(report.param.class_name); });
 
 }  // namespace
 }  // namespace varnel::framework

@@ -49,13 +49,6 @@ TEST_F(ComparingTest, RowsCarryTheSettingAsItWasAtTheStart) {
     }
 }
 
-TEST_F(ComparingTest, AGroupEndsOnceAndStorageForgetsTheRowBefore) {
-    report.StartComparing(host);
-    report.Group();
-    EXPECT_THAT(sink->told,
-                ElementsAre("begin 7 Seven", "1: debit=2.5000|credit=|PurgeIncl=False", "end"));
-}
-
 TEST_F(ComparingTest, NobodyIsAskedOrToldWithoutASinkOrWithOneThatCameDuringTheRun) {
     report.IComparableReport_ComparableReportGen(nullptr);
     report.StartComparing(host);

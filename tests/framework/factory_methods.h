@@ -1,7 +1,8 @@
 #pragma once
 
-#include <ostream>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "framework/cls_report.h"
@@ -11,17 +12,15 @@ namespace varnel::test {
 
 /// A method of the factory, called both ways.
 struct FactoryMethod {
-    const char* name;
+    std::string name;
     const char* class_name;
-    std::shared_ptr<IReport> (*call)(clsReport& factory);
+    std::function<std::shared_ptr<IReport>(clsReport& factory)> call;
     std::vector<Variant> arguments = {};
-    std::vector<std::string> options = {};
-    const char* type_caption = "";
+    /// What the report must then answer, late-bound.
+    std::vector<std::pair<const char*, const char*>> options = {};
     /// Shows a message and gives null when it fails; the others raise the error again.
     bool shows_message = false;
 };
-
-inline void PrintTo(const FactoryMethod& method, std::ostream* out) { *out << method.name; }
 
 inline std::vector<FactoryMethod> FactoryMethods() {
     const Date to = Date::ParseIso("2025-12-31");
@@ -31,61 +30,44 @@ inline std::vector<FactoryMethod> FactoryMethods() {
          "dsrTrialBalanceDetail",
          [](clsReport& f) { return f.TrialBalanceDetail(true); },
          {true},
-         {"HideInactiveAccounts = True"},
-         "",
+         {{"HideInactiveAccounts", "True"}},
          true},
-        {"BalanceSheet", "dsrBalanceSheet", [](clsReport& f) { return f.BalanceSheet(); }},
-        {"IncomeStatement",
-         "dsrIncomeStatement",
-         [](clsReport& f) { return f.IncomeStatement(); },
-         {},
-         {},
-         "",
-         true},
+        {"BalanceSheet", "dsrBalanceSheet", &clsReport::BalanceSheet},
+        {"IncomeStatement", "dsrIncomeStatement", &clsReport::IncomeStatement, {}, {}, true},
         {"IncomeStatementProj",
          "dsrIncomeStatement",
-         [](clsReport& f) {
-             return f.IncomeStatementProj("3,7", Date::ParseIso("2025-12-31"),
-                                          Date::ParseIso("2025-01-01"));
-         },
+         [=](clsReport& f) { return f.IncomeStatementProj("3,7", to, from); },
          {"3,7", to, from},
-         {"ProjIds = 3,7", "CumulDateTo = 2025-12-31", "CumulDateFrom = 2025-01-01"},
-         "",
+         {{"ProjIds", "3,7"}, {"CumulDateTo", "2025-12-31"}, {"CumulDateFrom", "2025-01-01"}},
          true},
         {"ComparativeIncomeStatement",
          "dsrComparativeIncomeStatement",
-         [](clsReport& f) { return f.ComparativeIncomeStatement(); },
+         &clsReport::ComparativeIncomeStatement,
          {},
-         {"IsBudgetComparative = False"}},
+         {{"IsBudgetComparative", "False"}}},
         {"ComparativeIncomeStatementBudget",
          "dsrComparativeIncomeStatement",
-         [](clsReport& f) { return f.ComparativeIncomeStatementBudget(); },
+         &clsReport::ComparativeIncomeStatementBudget,
          {},
-         {"IsBudgetComparative = True"}},
+         {{"IsBudgetComparative", "True"}}},
         {"ComparativeBalanceSheet", "dsrComparativeBalanceSheet",
-         [](clsReport& f) { return f.ComparativeBalanceSheet(); }},
-        {"BankReconciliation", "dsrBankReconciliation",
-         [](clsReport& f) { return f.BankReconciliation(); }},
+         &clsReport::ComparativeBalanceSheet},
+        {"BankReconciliation", "dsrBankReconciliation", &clsReport::BankReconciliation},
         {"CurrentBankReconciliation", "dsrCurrentBankReconciliation",
-         [](clsReport& f) { return f.CurrentBankReconciliation(); }},
+         &clsReport::CurrentBankReconciliation},
         {"GeneralLedger",
          "dsrGeneralLedger",
-         [](clsReport& f) { return f.GeneralLedger(0); },
-         {std::int16_t{0}},
-         {},
-         "0"},
-        {"GeneralLedgerByAccount", "dsrGeneralLedgerByAccount",
-         [](clsReport& f) { return f.GeneralLedgerByAccount(); }},
-        {"GeneralJournal", "dsrGeneralJournal", [](clsReport& f) { return f.GeneralJournal(); }},
-        {"TrialBalanceSummary", "dsrTrialBalanceSummary",
-         [](clsReport& f) { return f.TrialBalanceSummary(); }},
-        {"UnRealExchProfitLoss", "dsrUnRealExchProfitloss",
-         [](clsReport& f) { return f.UnRealExchProfitLoss(); }},
+         [](clsReport& f) { return f.GeneralLedger(4); },
+         {std::int16_t{4}},
+         {{"lblType", "4"}}},
+        {"GeneralLedgerByAccount", "dsrGeneralLedgerByAccount", &clsReport::GeneralLedgerByAccount},
+        {"GeneralJournal", "dsrGeneralJournal", &clsReport::GeneralJournal},
+        {"TrialBalanceSummary", "dsrTrialBalanceSummary", &clsReport::TrialBalanceSummary},
+        {"UnRealExchProfitLoss", "dsrUnRealExchProfitloss", &clsReport::UnRealExchProfitLoss},
         {"UnRealExchProfitLossDetail", "dsrUnRealExchProfitlossDetail",
-         [](clsReport& f) { return f.UnRealExchProfitLossDetail(); }},
-        {"RealizedExchProfitLoss", "dsrRealizedExchProfitloss",
-         [](clsReport& f) { return f.RealizedExchProfitLoss(); }},
-        {"GIFIReport", "dsrGIFIReport", [](clsReport& f) { return f.GIFIReport(); }},
+         &clsReport::UnRealExchProfitLossDetail},
+        {"RealizedExchProfitLoss", "dsrRealizedExchProfitloss", &clsReport::RealizedExchProfitLoss},
+        {"GIFIReport", "dsrGIFIReport", &clsReport::GIFIReport},
     };
 }
 

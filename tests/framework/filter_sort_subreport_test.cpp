@@ -1,11 +1,11 @@
 #include "framework/filter_sort_subreport.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "framework/standard_header.h"
 #include "tests/support/collected_bands.h"
 #include "tests/support/memory_host.h"
+#include "tests/support/picking_tool.h"
 
 namespace varnel::framework {
 namespace {
@@ -16,10 +16,6 @@ struct InfoCase {
     Info info;
     std::vector<std::string> lines;
 };
-
-void PrintTo(const InfoCase& tried, std::ostream* out) {
-    *out << testing::PrintToString(tried.lines);
-}
 
 /// The lines of a band from top to bottom, caption and text side by side.
 std::vector<std::string> LinesOf(const test::CollectedBand& band) {
@@ -40,43 +36,28 @@ std::vector<std::string> LinesOf(const test::CollectedBand& band) {
     return found;
 }
 
-class FilterSubReportTest : public testing::TestWithParam<InfoCase> {};
+const InfoCase kInfos[] = {
+    {{}, {}},
+    {{"East", "", ""}, {"Segments: East"}},
+    {{"", "", "by account"}, {"Sorted by: by account"}},
+    {{"East", "", "by account"}, {"Segments: East", "Sorted by: by account"}},
+    {{"East", "Amount > 5", "by account"},
+     {"Segments: East", "Filter: Amount > 5", "Sorted by: by account"}}};
 
-TEST_P(FilterSubReportTest, TakesOneLineForEachThingThatThereIsToSay) {
+TEST(FilterSubReportTest, TakesOneLineForEachThingThatThereIsToSay) {
     const auto host = std::make_shared<test::MemoryHost>();
     host->texts = {{30041, "&Segments"}, {30042, "Filter"}, {30043, "Sorted by"}};
-    const auto report = std::make_shared<dsrFilterAndSortByInfoSubreport>(host, GetParam().info);
-    for (int run = 1; run <= 2; ++run) {
-        const auto collected = test::Collect(*report);
-        const auto& lines = GetParam().lines;
-        ASSERT_EQ(collected.bands.size(), lines.empty() ? 0u : 1u) << "run " << run;
-        if (lines.empty()) continue;
-        EXPECT_EQ(LinesOf(collected.bands[0]), lines);
-        EXPECT_EQ(collected.bands[0].height, 220 * static_cast<Twips>(lines.size()));
+    for (const auto& [info, lines] : kInfos) {
+        const auto report = std::make_shared<dsrFilterAndSortByInfoSubreport>(host, info);
+        for (int run = 1; run <= 2; ++run) {
+            const auto collected = test::Collect(*report);
+            ASSERT_EQ(collected.bands.size(), lines.empty() ? 0u : 1u) << "run " << run;
+            if (lines.empty()) continue;
+            EXPECT_EQ(LinesOf(collected.bands[0]), lines);
+            EXPECT_EQ(collected.bands[0].height, 220 * static_cast<Twips>(lines.size()));
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Infos, FilterSubReportTest,
-    testing::Values(InfoCase{{}, {}}, InfoCase{{"East", "", ""}, {"Segments: East"}},
-                    InfoCase{{"", "", "by account"}, {"Sorted by: by account"}},
-                    InfoCase{{"East", "", "by account"},
-                             {"Segments: East", "Sorted by: by account"}},
-                    InfoCase{{"East", "Amount > 5", "by account"},
-                             {"Segments: East", "Filter: Amount > 5", "Sorted by: by account"}}));
-
-/// Puts criteria into words by quoting them.
-class QuotingTool final : public FilterTool {
-  public:
-    void SetTables(std::string_view) override {}
-    std::vector<std::string> SelectedDocuments() override { return {}; }
-    std::string Describe(std::string_view criteria) override { return Quoted(criteria); }
-    std::string DescribeOrdering(std::string_view ordering) override { return Quoted(ordering); }
-    std::string ResolveAccounts(std::string_view) override { return "-1"; }
-
-  private:
-    static std::string Quoted(std::string_view text) { return "<" + std::string(text) + ">"; }
-};
 
 std::string ShownIn(const std::shared_ptr<Application>& host, FilterTool* tool,
                     const char* control) {
@@ -93,7 +74,7 @@ std::string ShownIn(const std::shared_ptr<Application>& host, FilterTool* tool,
 
 TEST(FilterSubReportTest, UsesTheWordsOfTheHostsFilterToolOrElseTheTextsThemselves) {
     const auto host = std::make_shared<test::MemoryHost>();
-    QuotingTool tool;
+    test::PickingTool tool;
     EXPECT_EQ(ShownIn(host, &tool, "txtFilter"), "<A = 1>");
     EXPECT_EQ(ShownIn(host, &tool, "txtSortedBy"), "<B>");
     EXPECT_EQ(ShownIn(host, nullptr, "txtFilter"), "A = 1");

@@ -13,6 +13,9 @@ const Layout kLayout{.name = "dsrTried",
                                    .kind = SectionKind::kPageFooter,
                                    .controls = {ItemAdjustmentNoteControl()}}}};
 
+/// The host's message of that number and source, with a date to put in.
+constexpr const char* kNote = "12802 Orvotech (date 2025-02-01)";
+
 struct NoteCase {
     const char* setting;
     const char* start;  // Empty is none.
@@ -20,60 +23,24 @@ struct NoteCase {
     const char* note;  // Empty is hidden.
 };
 
-class ItemAdjustmentNoteTest : public testing::TestWithParam<NoteCase> {};
+constexpr NoteCase kModes[] = {{"True", "2025-02-01", "2025-02-01", kNote},
+                               {"True", "2025-02-01", "9999-12-31", kNote},
+                               {"True", "2025-02-01", "2025-01-31", ""},
+                               {"True", "", "2025-02-01", ""},
+                               {"False", "2025-02-01", "2025-02-01", ""}};
 
-TEST_P(ItemAdjustmentNoteTest, ShowsFromTheStartDateOnInThatModeOnly) {
-    const auto& [setting, start, date_to, note] = GetParam();
-    test::MemoryHost host;
-    host.company.settings["ItemAdjustGL"] = setting;
-    if (*start != '\0') host.company.item_adjustment_start = Date::ParseIso(start);
-    Surface surface(kLayout);
-    ShowItemAdjustmentNote(host, surface, InitGLtAjust(host), Date::ParseIso(date_to));
-
-    const bool shown = *note != '\0';
-    EXPECT_EQ(surface.SectionAt("PageFooter").Visible(), shown);
-    EXPECT_EQ(surface.At("lblWarningInvMaj").Visible(), shown);
-    EXPECT_EQ(surface.At("lblWarningInvMaj").Text(), note);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Modes, ItemAdjustmentNoteTest,
-    testing::Values(NoteCase{"True", "2025-02-01", "2025-02-01", "12802 (2025-02-01)"},
-                    NoteCase{"True", "2025-02-01", "9999-12-31", "12802 (2025-02-01)"},
-                    NoteCase{"True", "2025-02-01", "2025-01-31", ""},
-                    NoteCase{"True", "", "2025-02-01", ""},
-                    NoteCase{"False", "2025-02-01", "2025-02-01", ""}));
-
-TEST(ItemAdjustmentNoteTest, ALaterRunWithoutItHidesItAgain) {
-    test::MemoryHost host;
-    Surface surface(kLayout);
-    ShowItemAdjustmentNote(host, surface, kOpenStart, kOpenEnd);
-    ShowItemAdjustmentNote(host, surface, std::nullopt, kOpenEnd);
-    EXPECT_FALSE(surface.SectionAt("PageFooter").Visible());
-}
-
-TEST(ItemAdjustmentNoteTest, TheMessageComesFromItsOwnSourceWithADateAsArgument) {
-    struct Listener final : Application, MessageService {
-        std::string GetText(std::int16_t) override { return {}; }
-        Date SessionDate() override { return {}; }
-        Context& CurrentContext() override { RaiseUnknownMember("Listener", "CurrentContext"); }
-        Formats& GetFormats() override { RaiseUnknownMember("Listener", "GetFormats"); }
-        MessageService& Messages() override { return *this; }
-        void ShowMessageBox(const std::string&) override {}
-        std::string Message(std::int32_t number, std::string_view source,
-                            std::span<const Variant> arguments) override {
-            asked = std::to_string(number) + " " + std::string(source);
-            argument_is_date = arguments.size() == 1 && arguments[0].Holds<Date>();
-            return "the host's words";
-        }
-        std::string asked;
-        bool argument_is_date = false;
-    } host;
-    Surface surface(kLayout);
-    ShowItemAdjustmentNote(host, surface, kOpenStart, kOpenEnd);
-    EXPECT_EQ(host.asked, "12802 Orvotech");
-    EXPECT_TRUE(host.argument_is_date);
-    EXPECT_EQ(surface.At("lblWarningInvMaj").Text(), "the host's words");
+TEST(ItemAdjustmentNoteTest, ShowsFromTheStartDateOnInThatModeOnly) {
+    for (const auto& [setting, start, date_to, note] : kModes) {
+        test::MemoryHost host;
+        host.company.settings["ItemAdjustGL"] = setting;
+        if (*start != '\0') host.company.item_adjustment_start = Date::ParseIso(start);
+        Surface surface(kLayout);
+        ShowItemAdjustmentNote(host, surface, InitGLtAjust(host), Date::ParseIso(date_to));
+        const bool shown = *note != '\0';
+        EXPECT_EQ(surface.SectionAt("PageFooter").Visible(), shown);
+        EXPECT_EQ(surface.At("lblWarningInvMaj").Visible(), shown);
+        EXPECT_EQ(surface.At("lblWarningInvMaj").Text(), note);
+    }
 }
 
 }  // namespace

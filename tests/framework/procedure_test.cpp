@@ -8,21 +8,11 @@
 namespace varnel::framework {
 namespace {
 
-/// A host that fails at whatever it is asked, its message box included.
-class BrokenHost final : public Application, public MessageService {
-  public:
-    std::string GetText(std::int16_t) override { Fail(); }
-    Date SessionDate() override { Fail(); }
-    Context& CurrentContext() override { Fail(); }
-    Formats& GetFormats() override { Fail(); }
-    MessageService& Messages() override { return *this; }
-    std::string Message(std::int32_t, std::string_view, std::span<const Variant>) override {
-        Fail();
+/// A host that cannot even show a message.
+struct BrokenHost final : test::MemoryHost {
+    void ShowMessageBox(const std::string&) override {
+        throw std::runtime_error("the host is broken");
     }
-    void ShowMessageBox(const std::string&) override { Fail(); }
-
-  private:
-    [[noreturn]] static void Fail() { throw std::runtime_error("the host is broken"); }
 };
 
 std::string InLine(const std::string& description, int line) {
@@ -138,8 +128,7 @@ TEST_F(NoHostTest, AHostThatCannotShowAMessageDoesNotHideTheFailure) {
 TEST(FormBTest, RaisesAgainWithTheProcedureAppendedAndNumberAndSourceUnchanged) {
     try {
         GuardFormB("clsReport", "BalanceSheet", [] {
-            Mark(77);
-            throw Error(error_number::kCannotCreateObject, "Host", "Not there");
+            Mark(77), throw Error(error_number::kCannotCreateObject, "Host", "Not there");
         });
         FAIL();
     } catch (const Error& error) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/error_of.h"
 #include "tests/support/memory_host.h"
 
 namespace varnel::framework {
@@ -42,14 +43,10 @@ TEST(QueryRunnerTest, ASettingThatIsNotThereIsOff) {
 TEST(QueryRunnerTest, ASettingThatIsNeitherOnNorOffIsNamed) {
     test::MemoryHost host;
     host.company.settings["ItemAdjustGL"] = "no";
-    try {
-        ReadSwitch(host, "ItemAdjustGL");
-        FAIL() << "no error";
-    } catch (const Error& error) {
-        EXPECT_EQ(error.Number(), error_number::kTypeMismatch);
-        EXPECT_STREQ(error.what(),
-                     "The company's setting ItemAdjustGL is \"no\": set it to True or False");
-    }
+    std::string description;
+    EXPECT_EQ(test::ErrorOf([&] { ReadSwitch(host, "ItemAdjustGL"); }, &description),
+              error_number::kTypeMismatch);
+    EXPECT_EQ(description, "The company's setting ItemAdjustGL is \"no\": set it to True or False");
 }
 
 }  // namespace

@@ -75,16 +75,6 @@ TEST_F(Revaluing, TakesTheKeyedRateWhetherItIsOnOrOff) {
               error_number::kObjectNotSet);
 }
 
-TEST_F(Revaluing, AnswersToTheNamesOfTheInterface) {
-    const auto given = std::make_shared<RateCollection>();
-    EXPECT_TRUE(rates.Put("IExchangeRates_ExchangeRates", ObjectRef(given)));
-    EXPECT_TRUE(rates.Put("IExchangeRates_ExchangeRatesDate", "2025-03-31"));
-    EXPECT_TRUE(rates.Put("IExchangeRates_Reevaluate", "False"));
-    EXPECT_EQ(rates.IExchangeRates_ExchangeRates(), given);
-    EXPECT_EQ(rates.IExchangeRates_ExchangeRatesDate(), "2025-03-31");
-    EXPECT_FALSE(rates.IExchangeRates_Reevaluate());
-}
-
 const Layout kLayout{
     .name = "dsrTried",
     .sections = {{.name = "PageHeader",

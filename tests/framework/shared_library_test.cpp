@@ -9,7 +9,7 @@
 #include "tests/support/error_of.h"
 #include "tests/support/memory_host.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 using CreateFunction = int (*)(const char* identifier, void* object, const char** message);
@@ -40,7 +40,7 @@ class SharedLibraryTest : public testing::Test {
 CreateFunction SharedLibraryTest::create_ = nullptr;
 
 TEST_F(SharedLibraryTest, TheFactoryWorksLateBoundFromOutside) {
-    const auto host = std::make_shared<test::MemoryHost>();
+    const auto host = std::make_shared<MemoryHost>();
     host->texts[6173] = "&General Journal";
     const ObjectRef factory = Create("Varnel.clsReport");
     const ObjectRef journal = factory->Call("GeneralJournal", {}).ToObject();
@@ -58,7 +58,7 @@ TEST_F(SharedLibraryTest, TheFactoryWorksLateBoundFromOutside) {
 TEST_F(SharedLibraryTest, ErrorsKeepTheirNumberAcrossTheBorder) {
     const ObjectRef factory = Create("Varnel.clsReport");
     std::string description;
-    EXPECT_EQ(test::ErrorOf([&] { factory->Call("Nothing", {}); }, &description),
+    EXPECT_EQ(ErrorOf([&] { factory->Call("Nothing", {}); }, &description),
               error_number::kUnknownMember);
     EXPECT_EQ(description, "clsReport has no member \"Nothing\"");
 
@@ -79,4 +79,4 @@ TEST_F(SharedLibraryTest, CompanionInterfacesAreReachedByCast) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -37,16 +37,6 @@ TEST(StandardHeaderTest, CaptionsStand90TwipsUnderTheBlockAndEndTheSection) {
     EXPECT_EQ(surface.At("StandardHeader").Place().top, 40);
 }
 
-TEST(StandardHeaderTest, PlacingTheCaptionsAgainChangesNothing) {
-    Surface surface(kLayout);
-    Section& header = surface.SectionAt("PageHeader");
-    ReplacePageHeaderControls(header);
-    const Twips height = header.Height();
-    ReplacePageHeaderControls(header);
-    EXPECT_EQ(header.Height(), height);
-    EXPECT_EQ(surface.At("lblFirst").Place().top, 990);
-}
-
 TEST(StandardHeaderTest, WithoutCaptionsTheSectionEndsUnderTheBlock) {
     const Layout layout{.name = "dsrTried",
                         .sections = {{.name = "PageHeader",

@@ -9,10 +9,8 @@
 
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::ErrorOf;
 
 constexpr auto kLargest = Currency::FromScaled(std::numeric_limits<std::int64_t>::max());
 constexpr auto kSmallest = Currency::FromScaled(std::numeric_limits<std::int64_t>::min());
@@ -46,20 +44,22 @@ struct TextCase {
     std::int64_t scaled;
 };
 
-class CurrencyTextTest : public testing::TestWithParam<TextCase> {};
+constexpr TextCase kTexts[] = {{"50", 500'000},
+                               {"-1234.50", -12'345'000},
+                               {"+0.0001", 1},
+                               {".5", 5'000},
+                               {"7.", 70'000},
+                               {"000000000000000000000000000012", 120'000},
+                               {"0.00004999", 0},
+                               {"0.00005", 1},
+                               {"-0.00005", -1},
+                               {"922337203685477.5807", std::numeric_limits<std::int64_t>::max()},
+                               {"-922337203685477.5808", std::numeric_limits<std::int64_t>::min()}};
 
-TEST_P(CurrencyTextTest, IsReadExactly) {
-    EXPECT_EQ(Currency::Parse(GetParam().text).Scaled(), GetParam().scaled);
+TEST(CurrencyTest, TextIsReadExactly) {
+    for (const auto& [text, scaled] : kTexts)
+        EXPECT_EQ(Currency::Parse(text).Scaled(), scaled) << text;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Amounts, CurrencyTextTest,
-    testing::Values(TextCase{"0", 0}, TextCase{"50", 500'000}, TextCase{"-1234.50", -12'345'000},
-                    TextCase{"+0.0001", 1}, TextCase{".5", 5'000}, TextCase{"7.", 70'000},
-                    TextCase{"000000000000000000000000000012", 120'000}, TextCase{"0.00004999", 0},
-                    TextCase{"0.00005", 1}, TextCase{"-0.00005", -1},
-                    TextCase{"922337203685477.5807", std::numeric_limits<std::int64_t>::max()},
-                    TextCase{"-922337203685477.5808", std::numeric_limits<std::int64_t>::min()}));
 
 TEST(CurrencyTest, TextThatIsNoAmountIsError13NamingIt) {
     for (const char* text : {"", "-", ".", "+-1", "1,234.50", " 1", "1 ", "1.2.3", "12a", "1e3",
@@ -90,24 +90,21 @@ struct RoundCase {
     const char* rounded;
 };
 
-class CurrencyRoundTest : public testing::TestWithParam<RoundCase> {};
+constexpr RoundCase kRounded[] = {{"1.005", 2, "1.01"},
+                                  {"-1.005", 2, "-1.01"},
+                                  {"1.0049", 2, "1"},
+                                  {"-1.0049", 2, "-1"},
+                                  {"2.675", 2, "2.68"},
+                                  {"2.5", 0, "3"},
+                                  {"-2.5", 0, "-3"},
+                                  {"2.4999", 0, "2"},
+                                  {"1.2345", 4, "1.2345"},
+                                  {"1.25", 1, "1.3"},
+                                  {"922337203685477.5807", 2, "922337203685477.58"}};
 
-TEST_P(CurrencyRoundTest, GoesHalfAwayFromZero) {
-    const auto& [amount, decimals, rounded] = GetParam();
-    EXPECT_EQ(Round(Currency::Parse(amount), decimals), Currency::Parse(rounded)) << amount;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Amounts, CurrencyRoundTest,
-    testing::Values(RoundCase{"1.005", 2, "1.01"}, RoundCase{"-1.005", 2, "-1.01"},
-                    RoundCase{"1.0049", 2, "1"}, RoundCase{"-1.0049", 2, "-1"},
-                    RoundCase{"2.675", 2, "2.68"}, RoundCase{"0.005", 2, "0.01"},
-                    RoundCase{"-0.005", 2, "-0.01"}, RoundCase{"2.5", 0, "3"},
-                    RoundCase{"-2.5", 0, "-3"}, RoundCase{"2.4999", 0, "2"},
-                    RoundCase{"1.2345", 4, "1.2345"}, RoundCase{"1.25", 1, "1.3"},
-                    RoundCase{"922337203685477.5807", 2, "922337203685477.58"}));
-
-TEST(CurrencyTest, RoundingBeyondTheLimitIsError6) {
+TEST(CurrencyTest, RoundingGoesHalfAwayFromZeroAndBeyondTheLimitIsError6) {
+    for (const auto& [amount, decimals, rounded] : kRounded)
+        EXPECT_EQ(Round(Currency::Parse(amount), decimals), Currency::Parse(rounded)) << amount;
     EXPECT_EQ(ErrorOf([] { Round(kLargest, 0); }), error_number::kOverflow);
     EXPECT_EQ(ErrorOf([] { Round(kSmallest, 0); }), error_number::kOverflow);
 }
@@ -138,4 +135,4 @@ TEST(CurrencyTest, BinaryNumbersThatDoNotFitAreError6) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -6,7 +6,7 @@
 
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 TEST(DateTest, DayNumbersCountFromTheZeroDate) {
@@ -43,21 +43,15 @@ struct CarryCase {
     const char* date;
 };
 
-class DateCarryTest : public testing::TestWithParam<CarryCase> {};
+constexpr CarryCase kCarried[] = {
+    {2025, 2, 29, "2025-03-01"}, {1900, 2, 29, "1900-03-01"},  {2025, 13, 1, "2026-01-01"},
+    {2025, 0, 31, "2024-12-31"}, {2025, -11, 1, "2024-01-01"}, {2025, 25, 15, "2027-01-15"},
+    {2025, 3, 0, "2025-02-28"},  {2025, 12, 32, "2026-01-01"}, {2025, 1, -30, "2024-12-01"}};
 
-TEST_P(DateCarryTest, CarriesOver) {
-    const auto& [year, month, day, date] = GetParam();
-    EXPECT_EQ(Date::FromYearMonthDay(year, month, day).ToIso(), date);
+TEST(DateTest, DaysAndMonthsBeyondTheirEndCarryOver) {
+    for (const auto& [year, month, day, date] : kCarried)
+        EXPECT_EQ(Date::FromYearMonthDay(year, month, day).ToIso(), date);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Parts, DateCarryTest,
-    testing::Values(CarryCase{2025, 2, 29, "2025-03-01"}, CarryCase{2024, 2, 29, "2024-02-29"},
-                    CarryCase{1900, 2, 29, "1900-03-01"}, CarryCase{2000, 2, 29, "2000-02-29"},
-                    CarryCase{2025, 13, 1, "2026-01-01"}, CarryCase{2025, 0, 31, "2024-12-31"},
-                    CarryCase{2025, -11, 1, "2024-01-01"}, CarryCase{2025, 25, 15, "2027-01-15"},
-                    CarryCase{2025, 3, 0, "2025-02-28"}, CarryCase{2025, 12, 32, "2026-01-01"},
-                    CarryCase{2025, 1, -30, "2024-12-01"}));
 
 TEST(DateTest, ReadsOnlyIsoDatesThatExist) {
     for (const char* text : {"2025-02-30", "2025-02-29", "2025-13-01", "2025-00-10", "2025-01-00",
@@ -67,7 +61,7 @@ TEST(DateTest, ReadsOnlyIsoDatesThatExist) {
         EXPECT_FALSE(Date::TryParseIso(text, date)) << text;
         EXPECT_EQ(date, kOpenEnd);
         std::string description;
-        EXPECT_EQ(test::ErrorOf([&] { Date::ParseIso(text); }, &description),
+        EXPECT_EQ(ErrorOf([&] { Date::ParseIso(text); }, &description),
                   error_number::kTypeMismatch);
         EXPECT_EQ(description,
                   "\"" + std::string(text) + "\" is not a date; write it like 2025-03-31");
@@ -83,4 +77,4 @@ TEST(DateTest, DifferencesAndOrderCountDays) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -1,72 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <memory>
-
-#include "host/member_table.h"
 #include "host/surface.h"
+#include "host/variant.h"
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::DescriptionOf;
-using test::ErrorOf;
-
-/// A class with one member of each sort.
-class Counter : public Object {
-  public:
-    std::string_view ObjectName() const override { return "Counter"; }
-    Variant Get(std::string_view name) override;
-    void Put(std::string_view name, const Variant& value) override;
-    Variant Call(std::string_view name, std::span<const Variant> arguments) override;
-
-    std::int32_t count = 0;
-};
-
-constexpr Member<Counter> kMembers[] = {
-    {"Count", [](Counter& c) -> Variant { return c.count; },
-     [](Counter& c, const Variant& v) { c.count = v.ToInteger32(); }},
-    {"IsZero", [](Counter& c) -> Variant { return c.count == 0; }},
-    {"Add", nullptr, nullptr,
-     [](Counter& c, std::span<const Variant> arguments) -> Variant {
-         for (const auto& argument : arguments) c.count += argument.ToInteger32();
-         return c.count;
-     }},
-};
-
-Variant Counter::Get(std::string_view name) { return GetMember<Counter>(kMembers, *this, name); }
-
-void Counter::Put(std::string_view name, const Variant& value) {
-    PutMember<Counter>(kMembers, *this, name, value);
-}
-
-Variant Counter::Call(std::string_view name, std::span<const Variant> arguments) {
-    return CallMember<Counter>(kMembers, *this, name, arguments);
-}
-
-TEST(LateBindingTest, MembersAreReachedByNameWhateverTheCase) {
-    Counter counter;
-    counter.Put("COUNT", "5");
-    EXPECT_EQ(counter.Get("count").ToInteger32(), 5);
-    const Variant arguments[] = {std::int16_t{2}, 3};
-    EXPECT_EQ(counter.Call("aDD", arguments).ToInteger32(), 10);
-    EXPECT_FALSE(counter.Get("iszero").ToBool());
-}
-
-TEST(LateBindingTest, WhatAMemberDoesNotOfferIsError438NamingObjectAndMember) {
-    Counter counter;
-    const auto expect_unknown = [](const std::string& member, auto&& action) {
-        std::string description;
-        EXPECT_EQ(ErrorOf(action, &description), error_number::kUnknownMember);
-        EXPECT_EQ(description, "Counter has no member \"" + member + "\"");
-    };
-    expect_unknown("Total", [&] { counter.Get("Total"); });
-    expect_unknown("Total", [&] { counter.Put("Total", 1); });
-    expect_unknown("Total", [&] { counter.Call("Total", {}); });
-    expect_unknown("IsZero", [&] { counter.Put("IsZero", true); });
-    expect_unknown("Add", [&] { counter.Get("Add"); });
-    expect_unknown("Count", [&] { counter.Call("Count", {}); });
-}
 
 TEST(LateBindingTest, AnObjectThatOffersNothingSaysSo) {
     class Silent : public Object {};
@@ -131,4 +70,4 @@ TEST_F(ControlMembersTest, ANewTextDropsTheValueBehindTheFormerOne) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

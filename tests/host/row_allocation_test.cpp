@@ -3,7 +3,7 @@
 #include "host/row.h"
 #include "tests/support/allocation_count.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 TEST(RowAllocationTest, WritingAndReadingARowAgainTakesNoMemory) {
@@ -20,9 +20,9 @@ TEST(RowAllocationTest, WritingAndReadingARowAgainTakesNoMemory) {
         return row.Amount({1});
     };
     write_and_read();
-    const long before = test::AllocationCount();
+    const long before = AllocationCount();
     for (int i = 0; i < 1'000; ++i) write_and_read();
-    EXPECT_EQ(test::AllocationCount(), before);
+    EXPECT_EQ(AllocationCount(), before);
 }
 
 TEST(RowAllocationTest, SettingACellOverAndOverTakesNoMoreMemory) {
@@ -32,12 +32,12 @@ TEST(RowAllocationTest, SettingACellOverAndOverTakesNoMoreMemory) {
     row.AddText("second");
     const Variant texts[] = {"short", "some longer"};
     for (const auto& text : texts) row.Set({0}, text);
-    const long before = test::AllocationCount();
+    const long before = AllocationCount();
     for (int i = 0; i < 1'000; ++i) row.Set({0}, texts[i % 2]);
-    EXPECT_EQ(test::AllocationCount(), before);
+    EXPECT_EQ(AllocationCount(), before);
     EXPECT_EQ(row.Text({0}), "some longer");
     EXPECT_EQ(row.Text({1}), "second");
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -6,11 +6,8 @@
 
 #include "tests/support/error_of.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::DescriptionOf;
-using test::ErrorOf;
 
 constexpr Column At(std::uint32_t index) { return {index}; }
 
@@ -52,47 +49,38 @@ struct ReadingCase {
     const char* plain;
 };
 
-void PrintTo(const ReadingCase& reading, std::ostream* out) { *out << reading.name; }
+const ReadingCase kReadings[] = {
+    {"null", Holding(Variant::Null{}), "0", "0", "0", "-", "", ""},
+    {"integer", Holding(45), "45", "45", "45", "-", "-", "45"},
+    {"whole real", Holding(45.0), "45", "45", "45", "-", "-", "45"},
+    {"real", Holding(1234.5678), "-", "1234.5678", "1234.5678", "-", "-", "1234.5678"},
+    {"amount", Holding(Currency::Parse("50.25")), "-", "50.25", "50.25", "-", "-", "50.25"},
+    {"whole amount", Holding(Currency::Parse("50")), "50", "50", "50", "-", "-", "50"},
+    {"date", Holding(Date::ParseIso("1900-01-11")), "12", "-", "-", "1900-01-11", "-",
+     "1900-01-11"},
+    {"digits", Holding("-17"), "-17", "-17", "-17", "-", "-17", "-17"},
+    {"decimals", Holding("1.3725"), "-", "1.3725", "1.3725", "-", "1.3725", "1.3725"},
+    {"iso", Holding("2025-03-31"), "-", "-", "-", "2025-03-31", "2025-03-31", "2025-03-31"},
+    {"date and time", Holding("2025-03-31 23:59:59"), "-", "-", "-", "2025-03-31",
+     "2025-03-31 23:59:59", "2025-03-31 23:59:59"},
+    {"no such day", Holding("2025-02-30"), "-", "-", "-", "-", "2025-02-30", "2025-02-30"},
+    {"no text", Holding(""), "-", "-", "-", "-", "", ""},
+    {"beyond 64 bits", Holding("99999999999999999999"), "-", "-", "-", "-", "99999999999999999999",
+     "99999999999999999999"},
+    {"word", Holding("word"), "-", "-", "-", "-", "word", "word"}};
 
-class RowReadingTest : public testing::TestWithParam<ReadingCase> {};
-
-TEST_P(RowReadingTest, IsWhatTheReaderAsksForOrAnError) {
-    const ReadingCase& expected = GetParam();
-    const Row& row = expected.row;
-    EXPECT_EQ(Outcome([&] { return std::to_string(row.Integer(At(0))); }), expected.integer);
-    EXPECT_EQ(Outcome([&] { return row.Amount(At(0)).ToText(0); }), expected.amount);
-    EXPECT_EQ(Outcome([&] { return row.ExchangeRate(At(0)).ToText(0); }), expected.rate);
-    EXPECT_EQ(Outcome([&] { return row.Day(At(0)).ToIso(); }), expected.day);
-    EXPECT_EQ(Outcome([&] { return std::string(row.Text(At(0))); }), expected.text);
-    EXPECT_EQ(Plain(row), expected.plain);
+TEST(RowTest, ACellIsReadAsWhatTheReaderAsksForOrAnError) {
+    for (const auto& expected : kReadings) {
+        SCOPED_TRACE(expected.name);
+        const Row& row = expected.row;
+        EXPECT_EQ(Outcome([&] { return std::to_string(row.Integer(At(0))); }), expected.integer);
+        EXPECT_EQ(Outcome([&] { return row.Amount(At(0)).ToText(0); }), expected.amount);
+        EXPECT_EQ(Outcome([&] { return row.ExchangeRate(At(0)).ToText(0); }), expected.rate);
+        EXPECT_EQ(Outcome([&] { return row.Day(At(0)).ToIso(); }), expected.day);
+        EXPECT_EQ(Outcome([&] { return std::string(row.Text(At(0))); }), expected.text);
+        EXPECT_EQ(Plain(row), expected.plain);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cells, RowReadingTest,
-    testing::Values(ReadingCase{"null", Holding(Variant::Null{}), "0", "0", "0", "-", "", ""},
-                    ReadingCase{"integer", Holding(45), "45", "45", "45", "-", "-", "45"},
-                    ReadingCase{"whole real", Holding(45.0), "45", "45", "45", "-", "-", "45"},
-                    ReadingCase{"real", Holding(1234.5678), "-", "1234.5678", "1234.5678", "-", "-",
-                                "1234.5678"},
-                    ReadingCase{"amount", Holding(Currency::Parse("50.25")), "-", "50.25", "50.25",
-                                "-", "-", "50.25"},
-                    ReadingCase{"whole amount", Holding(Currency::Parse("50")), "50", "50", "50",
-                                "-", "-", "50"},
-                    ReadingCase{"date", Holding(Date::ParseIso("1900-01-11")), "12", "-", "-",
-                                "1900-01-11", "-", "1900-01-11"},
-                    ReadingCase{"digits", Holding("-17"), "-17", "-17", "-17", "-", "-17", "-17"},
-                    ReadingCase{"decimals", Holding("1.3725"), "-", "1.3725", "1.3725", "-",
-                                "1.3725", "1.3725"},
-                    ReadingCase{"iso", Holding("2025-03-31"), "-", "-", "-", "2025-03-31",
-                                "2025-03-31", "2025-03-31"},
-                    ReadingCase{"date and time", Holding("2025-03-31 23:59:59"), "-", "-", "-",
-                                "2025-03-31", "2025-03-31 23:59:59", "2025-03-31 23:59:59"},
-                    ReadingCase{"no such day", Holding("2025-02-30"), "-", "-", "-", "-",
-                                "2025-02-30", "2025-02-30"},
-                    ReadingCase{"no text", Holding(""), "-", "-", "-", "-", "", ""},
-                    ReadingCase{"beyond 64 bits", Holding("99999999999999999999"), "-", "-", "-",
-                                "-", "99999999999999999999", "99999999999999999999"},
-                    ReadingCase{"word", Holding("word"), "-", "-", "-", "-", "word", "word"}));
 
 TEST(RowTest, IntegersBeyond32BitsAreReadOnlyAs64) {
     const Row row = OneCell([](Row& r) { r.AddInteger(3'000'000'000); });
@@ -193,4 +181,4 @@ TEST(ColumnsTest, AnUnknownColumnIsAnErrorThatListsTheColumns) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,12 +3,9 @@
 
 #include "tests/journal/journal_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::Amount;
-using test::JournalLine;
-using test::JournalRun;
 using testing::ElementsAre;
 
 JournalLine Described(Variant description, Variant reference) {
@@ -24,47 +21,30 @@ struct DescriptionCase {
     const char* text;
 };
 
-class JournalDescriptionTest : public testing::TestWithParam<DescriptionCase> {};
-
-TEST_P(JournalDescriptionTest, IsDescriptionMarkerAndReferenceWithoutOuterBlanks) {
+TEST(JournalHeaderTest, DescribesByDescriptionMarkerAndReferenceWithoutOuterBlanks) {
+    const DescriptionCase kCases[] = {{"Rent", "R-1", "Rent  #Ref: R-1"},
+                                      {"  Rent ", " R 1 ", "Rent   #Ref:  R 1"},
+                                      {"", Variant::Null{}, "#Ref:"},
+                                      {Variant::Null{}, "R-1", "#Ref: R-1"}};
     JournalRun run;
-    const auto& [description, reference, text] = GetParam();
-    EXPECT_THAT(run({Described(description, reference)}).Texts("ghSeqNo", "txtDescription"),
-                ElementsAre(text));
+    for (const auto& [description, reference, text] : kCases)
+        EXPECT_THAT(run({Described(description, reference)}).Texts("ghSeqNo", "txtDescription"),
+                    ElementsAre(text));
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, JournalDescriptionTest,
-                         testing::Values(DescriptionCase{"Rent", "R-1", "Rent  #Ref: R-1"},
-                                         DescriptionCase{"Rent", "", "Rent  #Ref:"},
-                                         DescriptionCase{"Rent", Variant::Null{}, "Rent  #Ref:"},
-                                         DescriptionCase{"  Rent ", " R 1 ", "Rent   #Ref:  R 1"},
-                                         DescriptionCase{"", "", "#Ref:"},
-                                         DescriptionCase{Variant::Null{}, "R-1", "#Ref: R-1"}));
-
-TEST(JournalHeaderTest, ShowsNumberAndDateWithTheirValues) {
+TEST(JournalHeaderTest, ShowsNumberAndDateWithTheirValuesThatOpenTheSourceDocument) {
     JournalRun run;
-    const auto header = run({Amount("5", 12)}).Of("ghSeqNo").at(0);
-    EXPECT_EQ(header.Text("txtSeqNo"), "12");
-    EXPECT_EQ(header["txtSeqNo"].value, ControlValue(std::int32_t{12}));
-    EXPECT_EQ(header.Text("txtDate"), "2025-01-15");
-    EXPECT_EQ(header["txtDate"].value, ControlValue(Date::ParseIso("2025-01-15")));
-}
-
-TEST(JournalHeaderTest, ALineWithoutDateShowsNoneNotTheOneBefore) {
-    JournalRun run;
-    auto undated = Amount("5", 2);
+    auto undated = Amount("5", 12);
     undated.date = Variant::Null{};
-    const auto bands = run({Amount("5", 1), undated});
-    EXPECT_THAT(bands.Texts("ghSeqNo", "txtDate"), ElementsAre("2025-01-15", ""));
-    EXPECT_EQ(bands.Of("ghSeqNo")[1]["txtDate"].value, ControlValue());
-}
-
-TEST(JournalHeaderTest, NumberDateAndDescriptionOpenTheSourceDocument) {
-    JournalRun run;
-    auto transfer = Amount("5", 2);
-    transfer.source = "BKT";
-    transfer.source_key = "X7";
-    const auto headers = run({Amount("5", 1), transfer}).Of("ghSeqNo");
+    undated.source = "BKT";
+    undated.source_key = "X7";
+    const auto headers = run({Amount("5", 1), undated}).Of("ghSeqNo");
+    EXPECT_EQ(headers.at(0).Text("txtDate"), "2025-01-15");
+    EXPECT_EQ(headers.at(0)["txtDate"].value, ControlValue(Date::ParseIso("2025-01-15")));
+    EXPECT_EQ(headers.at(1).Text("txtDate"), "") << "not the one before";
+    EXPECT_EQ(headers.at(1)["txtDate"].value, ControlValue());
+    EXPECT_EQ(headers.at(1).Text("txtSeqNo"), "12");
+    EXPECT_EQ(headers.at(1)["txtSeqNo"].value, ControlValue(std::int32_t{12}));
     for (const char* control : {"txtSeqNo", "txtDate", "txtDescription"}) {
         EXPECT_EQ(headers.at(0)[control].tag, "GJ|11");
         EXPECT_EQ(headers.at(1)[control].tag, "BKT|X7");
@@ -115,8 +95,6 @@ TEST(JournalAccountTest, ShowsTheNumberOnlyWhenTheCompanyUsesNumbers) {
     JournalRun run;
     const std::vector lines{OfAccount("1000", "Cash"), OfAccount(2100, "Payables"),
                             OfAccount(Variant::Null{}, Variant::Null{})};
-    EXPECT_THAT(run(lines).Texts("Detail", "txtAccount"), ElementsAre("Cash", "Payables", ""));
-    run.host->company.settings["UseAccountNumbers"] = "True";
     EXPECT_THAT(run(lines).Texts("Detail", "txtAccount"),
                 ElementsAre("1000 - Cash", "2100 - Payables", ""));
     run.host->company.settings["UseAccountNumbers"] = "False";
@@ -124,4 +102,4 @@ TEST(JournalAccountTest, ShowsTheNumberOnlyWhenTheCompanyUsesNumbers) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

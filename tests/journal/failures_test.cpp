@@ -6,11 +6,9 @@
 
 #include "tests/journal/journal_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::Amount;
-using test::JournalRun;
 using testing::ElementsAre;
 
 std::string JournalSourceLine(int number) {
@@ -47,45 +45,18 @@ TEST(JournalFailureTest, AFailingHandlerIsToldAndTheRunGoesOnWithRightTotals) {
     EXPECT_THAT(bands.Texts("gfSeqNo", "txtCreditTotal"), ElementsAre("30.00"));
 }
 
-TEST(JournalFailureTest, AQueryThatFailsLeavesAnEmptyReport) {
-    JournalRun run;
-    const auto collected = test::Collect(*run.report->IReport_ReportDesigner());
-    ASSERT_EQ(run.host->message_boxes.size(), 1u);
-    EXPECT_THAT(FailingStatement(run.host->message_boxes[0], "No rows were given for: SELECT.*",
-                                 "ActiveReport_ReportStart"),
-                testing::HasSubstr("RunQuery("));
-    EXPECT_TRUE(collected.Of("Detail").empty());
-    EXPECT_THAT(collected.Texts("ReportFooter", "txtCount"), ElementsAre("0 entries"));
-    EXPECT_THAT(collected.Texts("ReportFooter", "txtDebitGrandTotal"), ElementsAre(""));
-    EXPECT_TRUE(collected.ended);
-}
-
 TEST(JournalFailureTest, AColumnThatTheQueryDoesNotGiveIsNamed) {
     JournalRun run;
-    auto rows = test::JournalRows({Amount("10")});
+    auto rows = JournalRows({Amount("10")});
     rows.columns[3] = "Amount";
     run.host->database.Answer("FROM (((GLDet", rows);
-    const auto collected = test::Collect(*run.report->IReport_ReportDesigner());
+    const auto collected = Collect(*run.report->IReport_ReportDesigner());
     ASSERT_EQ(run.host->message_boxes.size(), 1u);
     EXPECT_THAT(run.host->message_boxes[0],
                 testing::StartsWith("The row set has no column \"DetAmnt\"; it has InGLDetId, "));
     EXPECT_THAT(run.host->message_boxes[0],
                 testing::HasSubstr("\r\nin Varnel.dsrGeneralJournal.ActiveReport_ReportStart at "));
     EXPECT_TRUE(collected.Of("Detail").empty());
-}
-
-TEST(JournalFailureTest, AFailureInTheEntryHeaderLeavesNothingOfTheEntryBefore) {
-    JournalRun run;
-    auto wrong_date = Amount("20", 2);
-    wrong_date.date = "soon";
-    const auto bands = run({Amount("10", 1), wrong_date, Amount("-30", 2)});
-    ASSERT_EQ(run.host->message_boxes.size(), 1u);
-    EXPECT_THAT(run.host->message_boxes[0],
-                testing::HasSubstr("in Varnel.dsrGeneralJournal.ghSeqNo_Format at line "));
-    EXPECT_THAT(bands.Texts("ghSeqNo", "txtSeqNo"), ElementsAre("1", "2"));
-    EXPECT_THAT(bands.Texts("ghSeqNo", "txtDate"), ElementsAre("2025-01-15", ""));
-    EXPECT_THAT(bands.Texts("gfSeqNo", "txtDebitTotal"), ElementsAre("10.00", "20.00"));
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtCount"), ElementsAre("2 entries"));
 }
 
 TEST(JournalFailureTest, ALineWhoseAmountCannotBeReadShowsNoneAndBlanksItsTotals) {
@@ -115,4 +86,4 @@ TEST(JournalFailureTest, AnAmountThatOverflowsATotalBlanksThoseItBelongsTo) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,13 +3,8 @@
 
 #include "tests/journal/journal_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::Amount;
-using test::CollectedBand;
-using test::JournalLine;
-using test::JournalRun;
 
 JournalLine InDollars(const char* home, const char* foreign) {
     auto line = Amount(home);
@@ -26,32 +21,28 @@ struct ForeignCase {
     bool shown;
 };
 
-class ForeignAmountTest : public testing::TestWithParam<ForeignCase> {};
+constexpr ForeignCase kConditions[] = {{true, true, true, true},
+                                       {false, true, true, false},
+                                       {true, false, true, false},
+                                       {true, true, false, false}};
 
-TEST_P(ForeignAmountTest, IsShownWhenAllThreeConditionsHold) {
-    const auto& [several_currencies, flag, foreign_line, shown] = GetParam();
-    JournalRun run;
-    if (!several_currencies) run.host->company.currency_info.records.pop_back();
-    run.report->IReport_DisplayForeignCurrency(flag);
-    const auto bands = run({foreign_line ? InDollars("135", "100") : Amount("135")});
-    const auto line = bands.Of("Detail").at(0);
-    EXPECT_EQ(line["txtForeign"].visible, shown);
-    EXPECT_EQ(line["txtForeignCode"].visible, shown);
-    if (shown) {
+TEST(ForeignAmountsTest, AreShownWhenAllThreeConditionsHold) {
+    for (const auto& [several_currencies, flag, foreign_line, shown] : kConditions) {
+        JournalRun run;
+        if (!several_currencies) run.host->company.currency_info.records.resize(1);
+        run.report->IReport_DisplayForeignCurrency(flag);
+        const auto line =
+            run({foreign_line ? InDollars("135", "100") : Amount("135")}).Of("Detail").at(0);
+        EXPECT_EQ(line["txtForeign"].visible, shown);
+        EXPECT_EQ(line["txtForeignCode"].visible, shown);
+        EXPECT_EQ(line.Text("txtDebit"), "135.00");
+        EXPECT_THAT(run.host->message_boxes, testing::IsEmpty());
+        if (!shown) continue;
         EXPECT_EQ(line.Text("txtForeign"), "100.00");
         EXPECT_EQ(line.Text("txtForeignCode"), "USD");
         EXPECT_EQ(line["txtForeign"].value, ControlValue(Currency::FromWhole(100)));
     }
-    EXPECT_EQ(line.Text("txtDebit"), "135.00");
-    EXPECT_THAT(run.host->message_boxes, testing::IsEmpty());
 }
-
-INSTANTIATE_TEST_SUITE_P(Conditions, ForeignAmountTest,
-                         testing::Values(ForeignCase{true, true, true, true},
-                                         ForeignCase{false, true, true, false},
-                                         ForeignCase{true, false, true, false},
-                                         ForeignCase{true, true, false, false},
-                                         ForeignCase{false, false, false, false}));
 
 TEST(ForeignAmountsTest, AreInTheFormatOfTheLinesOwnCurrency) {
     JournalRun run;
@@ -66,7 +57,7 @@ TEST(ForeignAmountsTest, AreInTheFormatOfTheLinesOwnCurrency) {
     EXPECT_TRUE(lines[2]["txtForeign"].visible);
 }
 
-Box PlaceOf(const test::CollectedBands& bands, const char* section, const char* control) {
+Box PlaceOf(const CollectedBands& bands, const char* section, const char* control) {
     return bands.Of(section).at(0)[control].box;
 }
 
@@ -74,29 +65,26 @@ TEST(ForeignAmountsTest, MakeTheAmountColumnsMoveKeepingGapsOf60Twips) {
     JournalRun run;
     run.report->IReport_DisplayForeignCurrency(true);
     const auto bands = run({InDollars("135", "100")});
-    const Box foreign = PlaceOf(bands, "Detail", "txtForeign");
-    const Box credit = PlaceOf(bands, "Detail", "txtCredit");
-    const Box debit = PlaceOf(bands, "Detail", "txtDebit");
-    const Box project = PlaceOf(bands, "Detail", "txtProject");
-    const Box account = PlaceOf(bands, "Detail", "txtAccount");
-    EXPECT_EQ(foreign.left - credit.Right(), 60);
-    EXPECT_EQ(credit.left - debit.Right(), 60);
-    EXPECT_EQ(debit.left - project.Right(), 60);
-    EXPECT_EQ(project.left - account.Right(), 60);
-    EXPECT_GT(account.width, 0);
-
-    const struct {
-        const char* section;
-        const char* debit;
-        const char* credit;
-    } rows[] = {{"PageHeader", "lblDebitCap", "lblCreditCap"},
-                {"gfSeqNo", "txtDebitTotal", "txtCreditTotal"},
-                {"ReportFooter", "txtDebitGrandTotal", "txtCreditGrandTotal"}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(PlaceOf(bands, row.section, row.debit).Right(), debit.Right()) << row.section;
-        EXPECT_EQ(PlaceOf(bands, row.section, row.credit).Right(), credit.Right()) << row.section;
-    }
-    EXPECT_EQ(PlaceOf(bands, "PageHeader", "lblForeignCap").Right(), foreign.Right());
+    constexpr const char* kColumns[] = {"txtAccount", "txtProject", "txtDebit", "txtCredit",
+                                        "txtForeign"};
+    for (std::size_t i = 1; i < std::size(kColumns); ++i)
+        EXPECT_EQ(PlaceOf(bands, "Detail", kColumns[i]).left -
+                      PlaceOf(bands, "Detail", kColumns[i - 1]).Right(),
+                  60)
+            << kColumns[i];
+    EXPECT_GT(PlaceOf(bands, "Detail", "txtAccount").width, 0);
+    constexpr std::tuple<const char*, const char*, const char*> kUnder[] = {
+        {"PageHeader", "lblDebitCap", "txtDebit"},
+        {"PageHeader", "lblCreditCap", "txtCredit"},
+        {"PageHeader", "lblForeignCap", "txtForeign"},
+        {"gfSeqNo", "txtDebitTotal", "txtDebit"},
+        {"gfSeqNo", "txtCreditTotal", "txtCredit"},
+        {"ReportFooter", "txtDebitGrandTotal", "txtDebit"},
+        {"ReportFooter", "txtCreditGrandTotal", "txtCredit"}};
+    for (const auto& [section, control, column] : kUnder)
+        EXPECT_EQ(PlaceOf(bands, section, control).Right(),
+                  PlaceOf(bands, "Detail", column).Right())
+            << control;
     EXPECT_TRUE(bands.Of("PageHeader").at(0)["lblForeignCap"].visible);
 }
 
@@ -115,4 +103,4 @@ TEST(ForeignAmountsTest, LeaveTheColumnsWhereTheyWereInARunWithoutThem) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

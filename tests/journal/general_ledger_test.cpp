@@ -4,13 +4,11 @@
 #include <algorithm>
 
 #include "tests/journal/journal_run.h"
-#include "tests/journal/picking_tool.h"
+#include "tests/support/picking_tool.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::Amount;
-using test::JournalRun;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -58,7 +56,7 @@ TEST(GeneralLedgerTest, AsksForTheColumnsOfTheJournal) {
 
 TEST(GeneralLedgerTest, SegmentsDocumentsCriteriaAndOrderFollowTheType) {
     JournalRun run = LedgerRun(4);
-    const auto tool = std::make_shared<test::PickingTool>();
+    const auto tool = std::make_shared<PickingTool>();
     tool->picked = {"12"};
     const auto report = run.report->IReport_ReportDesigner();
     report->Put("ISegmentFilter_SegmentFilter", "3");
@@ -99,4 +97,4 @@ TEST(GeneralLedgerTest, ATypeWithoutACaptionIsToldAndItsLinesPrint) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -18,14 +18,8 @@ RowSet JournalRows(const std::vector<JournalLine>& lines) {
     return rows;
 }
 
-JournalRun::JournalRun(std::shared_ptr<IReport> tried) : report(std::move(tried)) {
+JournalRun::JournalRun(std::shared_ptr<IReport> tried) : ReportRun(std::move(tried)) {
     host->texts[5860] = "entries";
-    host->company.currency_info.records.push_back(
-        {.id = 2, .code = "USD", .description = "US dollar"});
-    report->IReport_Application(host);
-    report->IReport_DateFrom(Date::ParseIso("2025-01-01"));
-    report->IReport_DateTo(Date::ParseIso("2025-03-31"));
-    report->IReport_Initialize();
 }
 
 CollectedBands JournalRun::operator()(const std::vector<JournalLine>& lines) {

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "framework/cls_report.h"
-#include "tests/support/collected_bands.h"
-#include "tests/support/memory_host.h"
+#include "tests/support/report_run.h"
 
 namespace varnel::test {
 
@@ -37,16 +35,12 @@ inline JournalLine Amount(const char* amount, std::int32_t entry = 1) {
     return line;
 }
 
-/// A journal, or another report of entries, of a host whose texts and currencies a test may change;
-/// home currency 1 is CAD, 2 is USD.
-class JournalRun {
+/// A journal, or another report of entries.
+class JournalRun : public ReportRun {
   public:
     explicit JournalRun(std::shared_ptr<IReport> tried = clsReport().GeneralJournal());
     /// Runs the same report object again with each call.
     CollectedBands operator()(const std::vector<JournalLine>& lines);
-
-    std::shared_ptr<MemoryHost> host = std::make_shared<MemoryHost>();
-    std::shared_ptr<IReport> report;
 };
 
 }  // namespace varnel::test

@@ -29,7 +29,7 @@ struct Piece {
     std::string_view text;
 };
 
-std::string Write(std::initializer_list<Piece> pieces, TextOptions options = {}) {
+std::string Write(const std::vector<Piece>& pieces, TextOptions options = {}) {
     engine::PlacedBand band{.height = 260, .content = {}};
     for (const Piece& piece : pieces) band.content.Add(piece.item, piece.text);
     return Write(std::vector{band}, options);
@@ -70,57 +70,57 @@ TEST(CellPrefix, KeepsMarksWithTheirCharacterAndWideCharactersWhole) {
     EXPECT_EQ(CellPrefix("漢字", 1), 0u);
 }
 
-TEST(Text, PutsTextAtTheLeftAndFiguresAtTheRightOfTheirBoxes) {
-    EXPECT_EQ(Write({{Figure(20, 10), "1,234.50"}, {Left(2, 10), "Cash"}}),
-              "  Cash" + Blanks(16) + "1,234.50\n");
-}
+struct Laid {
+    const char* name;
+    std::vector<Piece> pieces;
+    std::string text;
+};
 
-TEST(Text, CentresInTheBox) {
-    EXPECT_EQ(Write({{TextItem({0, 0, 2000, 240}, Align::kCenter), "Report"}}),
-              Blanks(7) + "Report\n");
-}
+const Laid kLaid[] = {
+    {"texts at the left, figures at the right of their boxes",
+     {{Figure(20, 10), "1,234.50"}, {Left(2, 10), "Cash"}},
+     "  Cash" + Blanks(16) + "1,234.50\n"},
+    {"centred", {{TextItem({0, 0, 2000, 240}, Align::kCenter), "Report"}}, Blanks(7) + "Report\n"},
+    {"a figure grows over blanks and is never cut",
+     {{Left(0, 10), "Cash"}, {Figure(20, 4), "123,456,789.01"}},
+     "Cash" + Blanks(6) + "123,456,789.01\n"},
+    {"figures move on rather than touch",
+     {{Figure(0, 5), "1,234,567"}, {Figure(5, 5), "7,654,321"}},
+     "1,234,567 7,654,321\n"},
+    {"a text runs on over blanks",
+     {{Left(0, 5), "Accounts"}, {Left(10, 5), "next"}},
+     "Accounts  next\n"},
+    {"up to the next text",
+     {{Left(0, 5), "Accounts receivable"}, {Left(10, 5), "next"}},
+     "Accounts… next\n"},
+    {"up to the next figure",
+     {{Left(0, 5), "Accounts receivable"}, {Figure(12, 5), "12,345.67"}},
+     "Accoun… 12,345.67\n"},
+    {"up to the last column",
+     {{Left(70, 5), "a text that is too long"}},
+     Blanks(70) + "a text th…\n"},
+    {"a text moves out of the way of a figure",
+     {{Left(20, 4), "CAD"}, {Figure(24, 6), "123,456,789.01"}},
+     Blanks(12) + "CAD 123,456,789.01\n"},
+    {"wide characters",
+     {{Left(0, 8), "漢字漢字漢字"}, {Figure(10, 9), "1\u202F234,50"}},
+     "漢字漢字…" + Blanks(2) + "1\u202F234,50\n"},
+    {"marks on characters",
+     {{Left(0, 8), "Cafe\u0301"}, {Figure(10, 10), "1\u00A0234,50"}},
+     "Cafe\u0301" + Blanks(8) + "1\u00A0234,50\n"},
+    {"items of about the same height stand on one line",
+     {{Left(0, 5, 240), "three"},
+      {Left(0, 5, 0), "one"},
+      {Left(10, 5, 30), "two"},
+      {Left(10, 5, 260), "four"}},
+     "one       two\nthree     four\n"},
+    {"no line ends with blanks",
+     {{Left(0, 10), "name   "}, {Figure(20, 10), "50.00 "}},
+     "name" + Blanks(20) + "50.00\n"},
+    {"no text steers the terminal", {{Left(0, 20), "a\x1b[2Jb\tc"}}, "a [2Jb c\n"}};
 
-TEST(Text, NeverCutsAFigureButLetsItGrowOverBlanks) {
-    EXPECT_EQ(Write({{Left(0, 10), "Cash"}, {Figure(20, 4), "123,456,789.01"}}),
-              "Cash" + Blanks(6) + "123,456,789.01\n");
-}
-
-TEST(Text, MovesFiguresOnRatherThanLetThemTouch) {
-    EXPECT_EQ(Write({{Figure(0, 5), "1,234,567"}, {Figure(5, 5), "7,654,321"}}),
-              "1,234,567 7,654,321\n");
-}
-
-TEST(Text, RunsOnOverBlanksUpToTheNextItem) {
-    EXPECT_EQ(Write({{Left(0, 5), "Accounts"}, {Left(10, 5), "next"}}), "Accounts  next\n");
-    EXPECT_EQ(Write({{Left(0, 5), "Accounts receivable"}, {Left(10, 5), "next"}}),
-              "Accounts… next\n");
-    EXPECT_EQ(Write({{Left(0, 5), "Accounts receivable"}, {Figure(12, 5), "12,345.67"}}),
-              "Accoun… 12,345.67\n");
-}
-
-TEST(Text, EndsAtTheLastColumn) {
-    const std::string line = Write({{Left(70, 5), "a text that is too long"}});
-    EXPECT_EQ(line, Blanks(70) + "a text th…\n");
-}
-
-TEST(Text, MovesATextOutOfTheWayOfAFigureWhereItsPlaceIsTaken) {
-    EXPECT_EQ(Write({{Left(20, 4), "CAD"}, {Figure(24, 6), "123,456,789.01"}}),
-              Blanks(12) + "CAD 123,456,789.01\n");
-}
-
-TEST(Text, AlignsWideAndAccentedText) {
-    EXPECT_EQ(Write({{Left(0, 8), "漢字漢字漢字"}, {Figure(10, 9), "1\u202F234,50"}}),
-              "漢字漢字…" + Blanks(2) + "1\u202F234,50\n");
-    EXPECT_EQ(Write({{Left(0, 8), "Cafe\u0301"}, {Figure(10, 10), "1\u00A0234,50"}}),
-              "Cafe\u0301" + Blanks(8) + "1\u00A0234,50\n");
-}
-
-TEST(Text, PutsItemsOfAboutTheSameHeightOnOneLine) {
-    EXPECT_EQ(Write({{Left(0, 5, 240), "three"},
-                     {Left(0, 5, 0), "one"},
-                     {Left(10, 5, 30), "two"},
-                     {Left(10, 5, 260), "four"}}),
-              "one       two\nthree     four\n");
+TEST(Text, IsLaidOutOnTheGrid) {
+    for (const auto& [name, pieces, text] : kLaid) EXPECT_EQ(Write(pieces), text) << name;
 }
 
 TEST(Text, ShowsAGapAsOneBlankLineAtMost) {
@@ -158,15 +158,6 @@ TEST(Text, LeavesOutPageNumbersVerticalRulesAndBlankTexts) {
                      {RuleItem({0, 0, 10, 240}), ""},
                      {Left(0, 5), " \t "}}),
               "");
-}
-
-TEST(Text, EndsNoLineWithBlanks) {
-    EXPECT_EQ(Write({{Left(0, 10), "name   "}, {Figure(20, 10), "50.00 "}}),
-              "name" + Blanks(20) + "50.00\n");
-}
-
-TEST(Text, LetsNoTextSteerTheTerminal) {
-    EXPECT_EQ(Write({{Left(0, 20), "a\x1b[2Jb\tc"}}), "a [2Jb c\n");
 }
 
 TEST(Text, IsBoldOnlyWhenAskedTo) {

@@ -1,19 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "reports/statements/journal_adjustment.h"
 #include "tests/engine/micro_report.h"
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::AdjustmentIn;
-using test::CollectedBands;
-using test::ComparativeSheetRun;
-using test::LedgerLine;
-using test::SheetRun;
-using test::Shown;
-using test::StatementRun;
 using testing::ElementsAre;
 
 // What follows a balance sheet of some segments.
@@ -44,30 +38,6 @@ StatementRun OfSegments(StatementRun run) {
     PostIn(run, 0, 1'010, "2025-02-10", "7");
     PostIn(run, 0, 2'010, "2025-02-10", "-2");
     return run;
-}
-
-struct Reconciled {
-    const char* segments;
-    bool also_none;
-    const char* printed;  // Assets, closing line, adjustment, closing line with it.
-};
-
-TEST(AdjustedSheetTest, BringsAnySegmentsToTheirAssets) {
-    constexpr Reconciled kCases[] = {{"3", false, "100.00|60.00|40.00|100.00"},
-                                     {"3", true, "107.00|62.00|45.00|107.00"},
-                                     {"5", false, "40.00|85.00|-45.00|40.00"},
-                                     {"", true, "7.00|2.00|5.00|7.00"},
-                                     {"4", false, "0.00|0.00|0.00|0.00"}};
-    for (const auto& tried : kCases) {
-        StatementRun run = OfSegments(SheetRun());
-        run.FilterSegments(tried.segments, tried.also_none);
-        const auto bands = run();
-        const auto adjusted = AdjustmentIn(bands, 1);
-        EXPECT_EQ(bands.Texts("gfAcctType", "txtTypeTotal").at(0) + "|" +
-                      bands.Texts("ReportFooter", "txtTotalPassCap").at(0) + "|" +
-                      Shown(adjusted, "ReportFooter", {"txtTypeTotal", "txtTotalPassCap"}).at(0),
-                  tried.printed);
-    }
 }
 
 TEST(AdjustedSheetTest, FollowsTheClosingLineUnderASegmentFilterOnly) {
@@ -137,7 +107,7 @@ TEST(AdjustedSheetTest, TheJournalLineComesBelowUnlessItIsOfNothing) {
 }
 
 /// Where the figures of a line stand.
-std::vector<Box> Columns(const test::CollectedBand& band, const std::vector<std::string>& names) {
+std::vector<Box> Columns(const CollectedBand& band, const std::vector<std::string>& names) {
     std::vector<Box> boxes;
     for (const auto& name : names)
         boxes.push_back({band[name].box.left, 0, band[name].box.width, 0});
@@ -187,15 +157,27 @@ TEST(AdjustedSheetTest, StandsInTheColumnsOfTheSheetOnWiderPaper) {
     EXPECT_EQ(SpanOf(footer, "8322"), SpanOf(footer, "8324"));
 }
 
-TEST(AdjustedSheetTest, OfAnUnknownComparisonLeavesItBlank) {
-    StatementRun run = OfSegments(ComparativeSheetRun());
-    run.FilterSegments("3");
-    run.host->database.Answer("FiscalYearDet", {{"BegDate"}, {{run.from}}});
-    EXPECT_THAT(Shown(AdjustmentIn(run(), 1), "ReportFooter",
-                      {"txtTypeTotal", "txtTypeTotal2", "txtTotalDiffDollar", "txtTotalPassCap",
-                       "txtTotalPassCapPassed", "lblTotalPassDiffPercent"}),
-                ElementsAre("40.00|||100.00||"));
+TEST(JournalAdjustmentTest, APositiveAmountIsACreditInEachRunAnew) {
+    struct Sided {
+        const char *amount, *row, *footer;
+    };
+    constexpr Sided kCases[] = {{"-125.50", "8571|125.50|", "1641|125.50|"},
+                                {"125.50", "8571||125.50", "1641||125.50"},
+                                {"125.50", "8571||125.50", "1641||125.50"},
+                                {"-0.01", "8571|0.01|", "1641|0.01|"},
+                                {"0", "||", "||"}};
+    const auto report =
+        std::make_shared<reports::dsrGeneralJournalAdjust>(std::make_shared<MemoryHost>());
+    for (const auto& tried : kCases) {
+        report->AdjustingAmount(Currency::Parse(tried.amount));
+        const auto bands = Collect(*report);
+        EXPECT_THAT(Shown(bands, "Detail", {"txtAccountDescr", "txtDebit", "txtCredit"}),
+                    ElementsAre(tried.row));
+        EXPECT_THAT(Shown(bands, "ReportFooter", {"lblTotal", "txtDebitTotal", "txtCreditTotal"}),
+                    ElementsAre(tried.footer));
+        EXPECT_THAT(bands.Texts("PageHeader", "lblTitle"), ElementsAre("8323"));
+    }
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,15 +3,8 @@
 #include "tests/statements/statement_run.h"
 #include "tests/support/allocations_between.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
-
-using test::BudgetRun;
-using test::ComparativeIncomeRun;
-using test::ComparativeSheetRun;
-using test::IncomeRun;
-using test::SheetRun;
-using test::StatementRun;
 
 long AllocationsOf(StatementRun run, std::int32_t type, int blocks) {
     for (std::int32_t id = 10'000; id < 10'000 + blocks * 10; id += 10) {
@@ -23,7 +16,7 @@ long AllocationsOf(StatementRun run, std::int32_t type, int blocks) {
     run.host->calls.StopCounting();
     run.Prepare();
     const long count =
-        test::AllocationsBetween("ghAcctType", "gfAcctType", *run.report->IReport_ReportDesigner());
+        AllocationsBetween("ghAcctType", "gfAcctType", *run.report->IReport_ReportDesigner());
     EXPECT_TRUE(run.host->message_boxes.empty());
     return count;
 }
@@ -36,4 +29,4 @@ TEST(StatementAllocationTest, ARowAllocatesNothing) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,13 +3,9 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::CollectedBands;
-using test::SheetRun;
-using test::Shown;
-using test::StatementRun;
 using testing::ElementsAre;
 
 using Lines = std::vector<std::string>;
@@ -116,35 +112,5 @@ TEST(SheetAdjustmentTest, IsCarriedToEquityOnceAndShownOnlyWhereThereIsOne) {
     EXPECT_THAT(run().Of("GroupFooter1"), testing::IsEmpty()) << "booked at what it is worth";
 }
 
-struct Control {
-    const char* name;
-    std::int32_t receivable, payable;  // Of the company.
-    std::int32_t usd_receivable, usd_payable, home_receivable;
-    const char* adjustment;
-};
-
-TEST(SheetAdjustmentTest, IsOfControlAccountsOfTheirOwnForeignCurrency) {
-    constexpr Control kCases[] = {{"the company's receivable", 1'200, 0, 0, 0, 0, "3.45"},
-                                  {"the company's payable", 0, 1'200, 0, 0, 0, "3.45"},
-                                  {"the currency's receivable", 0, 0, 1'200, 0, 0, "3.45"},
-                                  {"the currency's payable", 0, 0, 0, 1'200, 0, "3.45"},
-                                  {"both, once", 1'200, 1'200, 1'200, 1'200, 0, "3.45"},
-                                  {"another currency's", 0, 0, 0, 0, 1'200, ""},
-                                  {"in the home currency", 1'010, 0, 0, 0, 1'010, ""}};
-    for (const auto& tried : kCases) {
-        StatementRun run = ForeignSheet();
-        auto& company = run.host->company;
-        company.account_params["CustGLAR"] = tried.receivable;
-        company.account_params["SuppGLAP"] = tried.payable;
-        auto& currencies = company.currency_info.records;
-        currencies[0].ar_account_id = tried.home_receivable;
-        currencies[1].ar_account_id = tried.usd_receivable;
-        currencies[1].ap_account_id = tried.usd_payable;
-        run.Revalue();
-        const auto shown = Shown(run(), "GroupFooter1", {"txtProfitLoos"});
-        EXPECT_EQ(shown, *tried.adjustment == 0 ? Lines() : Lines{tried.adjustment}) << tried.name;
-    }
-}
-
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

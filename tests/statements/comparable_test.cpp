@@ -4,16 +4,9 @@
 #include "tests/statements/statement_run.h"
 #include "tests/support/collected_rows.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::BudgetRun;
-using test::CollectedRows;
-using test::ComparativeIncomeRun;
-using test::ComparativeSheetRun;
-using test::IncomeRun;
-using test::SheetRun;
-using test::StatementRun;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -48,13 +41,6 @@ TEST(ComparableStatementTest, TheIncomeStatementGivesItsAccountsAndResultsAsThey
     EXPECT_THAT(run.host->message_boxes, SizeIs(1));
 }
 
-TEST(ComparableStatementTest, OnlyTheIncomeStatementCompares) {
-    const StatementRun kOthers[] = {ComparativeIncomeRun(), BudgetRun(), SheetRun(),
-                                    ComparativeSheetRun()};
-    for (const auto& run : kOthers)
-        EXPECT_EQ(dynamic_cast<IComparableReport*>(run.report.get()), nullptr);
-}
-
 /// Sets all that a host can set.
 void TellAll(StatementRun& run) {
     run.FilterSegments("3", true);
@@ -79,7 +65,7 @@ TEST(ComparativeFormTest, PrintsAsAComparativeReportThatWasToldTheSame) {
     ASSERT_NE(form, nullptr);
     EXPECT_EQ(form->ObjectName(), "dsrComparativeIncomeStatement");
     run.report.reset();
-    EXPECT_EQ(test::Collect(dynamic_cast<BandedReport&>(*form)).bands, expected);
+    EXPECT_EQ(Collect(dynamic_cast<BandedReport&>(*form)).bands, expected);
     EXPECT_THAT(run.host->message_boxes, IsEmpty());
 }
 
@@ -123,4 +109,4 @@ TEST(SpreadsheetTest, AProjectIsKnownByItsCodeAndAnUnknownOneByNothing) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,14 +3,9 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::CollectedBands;
-using test::ComparativeSheetRun;
-using test::kCurrentEarnings;
-using test::Shown;
-using test::StatementRun;
 using testing::ElementsAre;
 
 std::vector<std::string> Line(const CollectedBands& bands, const std::string& section,
@@ -90,4 +85,4 @@ TEST(ComparativeSheetTest, ReceivablesAndPayablesAreRevaluedOnBothSides) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

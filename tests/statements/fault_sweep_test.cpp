@@ -2,17 +2,9 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::BudgetRun;
-using test::CollectedBands;
-using test::ComparativeIncomeRun;
-using test::ComparativeSheetRun;
-using test::kUnrealized;
-using test::Shown;
-using test::StatementRun;
-using test::SweepFaults;
 using testing::ElementsAre;
 
 /// A report that has run once, over another amount.
@@ -72,31 +64,21 @@ StatementRun ComparativeSheet() { return SheetOf(ComparativeSheetRun()); }
 
 /// Of a balance sheet, what its segments lack alone.
 struct AdjustedRun : StatementRun {
-    CollectedBands operator()() { return test::AdjustmentIn(StatementRun::operator()(), 1); }
+    CollectedBands operator()() { return AdjustmentIn(StatementRun::operator()(), 1); }
 };
-
-using Figures = std::vector<std::pair<const char*, std::vector<std::string>>>;
-
-/// Each figure by itself: one may be blank where another is right.
-Figures Each(const Figures& sections) {
-    Figures figures;
-    for (const auto& [section, controls] : sections)
-        for (const auto& control : controls) figures.push_back({section, {control}});
-    return figures;
-}
 
 // The comparatives make every call of the plain statements, and more.
 
 TEST(StatementFaultSweepTest, OfTheIncomeStatementsShowsRightFiguresOrNone) {
-    const auto figures = Each(
-        {{"GroupHeader1",
-          {"lblDatePeriod", "lblDateCul", "lblDatePeriodComp", "fldProjects", "txtExchangeRate"}},
-         {"ghAcctType", {"lblAcctType"}},
-         {"Detail", {"txtTotal", "txtTotalCul", "txtTotalComp", "txtTotalDoll", "lblTotalDiff"}},
-         {"gfAcctType",
-          {"txtTypeTotal", "txtTypeTotalCul", "txtTypeTotalComp", "txtTypeTotalDoll",
-           "lblTypeTotalDiff", "txtTotalPassCap", "txtTotalPassCapCul", "txtTotalPassCapComp",
-           "txtTotalPassCapDoll", "lblTotalPassCapDiff"}}});
+    const Figures figures = {
+        {"GroupHeader1",
+         {"lblDatePeriod", "lblDateCul", "lblDatePeriodComp", "fldProjects", "txtExchangeRate"}},
+        {"ghAcctType", {"lblAcctType"}},
+        {"Detail", {"txtTotal", "txtTotalCul", "txtTotalComp", "txtTotalDoll", "lblTotalDiff"}},
+        {"gfAcctType",
+         {"txtTypeTotal", "txtTypeTotalCul", "txtTypeTotalComp", "txtTypeTotalDoll",
+          "lblTypeTotalDiff", "txtTotalPassCap", "txtTotalPassCapCul", "txtTotalPassCapComp",
+          "txtTotalPassCapDoll", "lblTotalPassCapDiff"}}};
     // 100 - (7 - 3.45) - 1, cumulative 20 less; 80 - 30 last year, 90 - 2 by the budget.
     const std::pair<StatementRun (*)(), const char*> kForms[] = {
         {ComparativeIncome, "95.45|75.45|50.00|45.45|90.90"},
@@ -115,16 +97,15 @@ constexpr const char* kPrintedBySheets =
     "dsrComparativeBalanceSheet|dsrBalanceSheetAjust|dsrGeneralJournalAdjust";
 
 TEST(StatementFaultSweepTest, OfTheBalanceSheetsShowsRightFiguresOrNone) {
-    const auto figures =
-        Each({{"PageHeader", {"txtExchangeRate"}},
-              {"ghAcctType", {"lblAcctType"}},
-              {"Detail", {"txtTotal", "txtTotalComp", "txtTotalDoll", "lblTotalDiff"}},
-              {"GroupFooter1", {"txtProfitLoos", "txtProfitLoosComp", "txtProfitLoosDoll"}},
-              {"gfAcctType",
-               {"txtTypeTotal", "txtTypeTotalComp", "txtTypeTotalDoll", "lblTypeTotalDiff"}},
-              {"ReportFooter",
-               {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll",
-                "lblTotalPassCapDiff"}}});
+    const Figures figures = {
+        {"PageHeader", {"txtExchangeRate"}},
+        {"ghAcctType", {"lblAcctType"}},
+        {"Detail", {"txtTotal", "txtTotalComp", "txtTotalDoll", "lblTotalDiff"}},
+        {"GroupFooter1", {"txtProfitLoos", "txtProfitLoosComp", "txtProfitLoosDoll"}},
+        {"gfAcctType",
+         {"txtTypeTotal", "txtTypeTotalComp", "txtTypeTotalDoll", "lblTypeTotalDiff"}},
+        {"ReportFooter",
+         {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll", "lblTotalPassCapDiff"}}};
     const auto right = SweepFaults({kPrintedBySheets, figures}, ComparativeSheet);
     // 30 + 120 + 3.80, which 110 USD booked at 132 have gained; 5 + 0.35 a year before.
     EXPECT_THAT(Shown(right, "ReportFooter",
@@ -133,11 +114,11 @@ TEST(StatementFaultSweepTest, OfTheBalanceSheetsShowsRightFiguresOrNone) {
 }
 
 TEST(StatementFaultSweepTest, OfTheAdjustedBalanceSheetShowsRightFiguresOrNone) {
-    const auto figures = Each(
-        {{"Detail", {"txtTotalAdj", "txtTotalAdjComp", "txtTotalAdjDiff", "txtTotalAdjDiffPerc"}},
-         {"ReportFooter",
-          {"txtTypeTotal", "txtTypeTotal2", "txtTotalDiffDollar", "txtTotalPassCap",
-           "txtTotalPassCapPassed", "txtTotalPassDiffDollar"}}});
+    const Figures figures = {
+        {"Detail", {"txtTotalAdj", "txtTotalAdjComp", "txtTotalAdjDiff", "txtTotalAdjDiffPerc"}},
+        {"ReportFooter",
+         {"txtTypeTotal", "txtTypeTotal2", "txtTotalDiffDollar", "txtTotalPassCap",
+          "txtTotalPassCapPassed", "txtTotalPassDiffDollar"}}};
     const auto right =
         SweepFaults({kPrintedBySheets, figures}, [] { return AdjustedRun(ComparativeSheet()); });
     // Every line fits both clauses of this host: 7 are in the books, and were a year before.
@@ -146,4 +127,4 @@ TEST(StatementFaultSweepTest, OfTheAdjustedBalanceSheetShowsRightFiguresOrNone) 
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,13 +3,9 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::IncomeRun;
-using test::SheetRun;
-using test::Shown;
-using test::StatementRun;
 using testing::ElementsAre;
 
 // What stands over the rows: titles, dates, rates, projects.
@@ -55,14 +51,6 @@ TEST(IncomePeriodTest, CumulativeDatesOfTheHostAreReachedByName) {
     EXPECT_THAT(run.Rows(), ElementsAre("5010|1.00|2.00"));
     EXPECT_THAT(Captions(run),
                 ElementsAre("2025-02-01 3012 2025-03-31|2024-05-01 3012 2025-02-09"));
-}
-
-TEST(IncomePeriodTest, TheFactoryTakesTheLastCumulativeDateFirst) {
-    StatementRun run = OfOneRow(
-        StatementRun(clsReport().IncomeStatementProj("7", Day("2025-06-30"), Day("2024-07-01"))));
-    EXPECT_EQ(run.Properties().Get("ProjIds").ToText(), "7");
-    EXPECT_THAT(Captions(run),
-                ElementsAre("2025-02-01 3012 2025-03-31|2024-07-01 3012 2025-06-30"));
 }
 
 TEST(IncomePeriodTest, WithoutThemTheYearIsFoundAnewByEachRun) {
@@ -157,4 +145,4 @@ TEST(IncomeHeaderTest, TakesALineForProjectsAndOneForRates) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

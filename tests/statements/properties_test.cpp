@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "tests/statements/books_sums.h"
 #include "tests/statements/expected_statement.h"
 #include "tests/statements/statement_questions.h"
@@ -109,21 +107,6 @@ TEST(Statements, OfTheSegmentsAndOfNoneAddUpToTheCompanys) {
                     RunSegments(RunIncomeStatement, host, question), books, 2);
         ExpectParts(RunBalanceSheet(host, question), RunSegments(RunBalanceSheet, host, question),
                     books, 1);
-    });
-}
-
-TEST(IncomeStatement, OfTwoProjectsAddsUpThoseOfEach) {
-    ForEveryCompany(250, [](const StatementBooks& books, const Host& host, Random& random) {
-        StatementQuestion question = Anything(books, random);
-        question.revalue = false;
-        std::vector<PrintedStatement> parts;
-        for (int project = 1; project <= kProjects; ++project) {
-            question.projects = {project};
-            parts.push_back(RunIncomeStatement(host, question));
-        }
-        question.projects = {2, 1};
-        SCOPED_TRACE(InWords(question));
-        ExpectParts(RunIncomeStatement(host, question), parts, books, 2);
     });
 }
 

@@ -3,12 +3,9 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::IncomeRun;
-using test::Shown;
-using test::StatementRun;
 using testing::ElementsAre;
 
 // Sections of the income statement: captions, totals, results.
@@ -33,6 +30,7 @@ struct Sections {
     std::vector<std::string> footers;
 };
 
+// Only the last result stands over the final rules.
 TEST(IncomeSectionTest, EndsWithItsTotalAndFromExpensesOnWithTheResult) {
     const Sections kCases[] = {
         {{4}, {"2674|100.00|150.00|||"}},
@@ -44,40 +42,66 @@ TEST(IncomeSectionTest, EndsWithItsTotalAndFromExpensesOnWithTheResult) {
           "2678|70.00|70.00|2680|-10.00|20.00"}}};
     for (const auto& tried : kCases) {
         StatementRun run = RunOf(tried.types);
-        EXPECT_EQ(Shown(run(), "gfAcctType", kFooter), tried.footers);
-        EXPECT_EQ(Shown(run(), "gfAcctType", kFooter), tried.footers) << "again";
-    }
-}
-
-TEST(IncomeSectionTest, OnlyTheLastResultStandsOverTheFinalRules) {
-    struct Ruled {
-        std::vector<std::int32_t> types;
-        std::vector<bool> result, final;
-    };
-    const Ruled kCases[] = {{{4}, {false}, {false}},
-                            {{4, 5}, {false, true}, {false, true}},
-                            {{4, 5, 9}, {false, true, true}, {false, false, true}}};
-    for (const auto& tried : kCases) {
-        const auto footers = RunOf(tried.types)().Of("gfAcctType");
-        ASSERT_EQ(footers.size(), tried.types.size());
+        const auto bands = run();
+        EXPECT_EQ(Shown(bands, "gfAcctType", kFooter), tried.footers);
+        EXPECT_EQ(run().bands, bands.bands) << "again";
+        const auto headers = bands.Texts("ghAcctType", "lblAcctType");
+        const auto footers = bands.Of("gfAcctType");
         for (std::size_t i = 0; i < footers.size(); ++i) {
-            for (const char* name : {"lblGTot", "linResult", "linResultCul"})
-                EXPECT_EQ(footers[i][name].visible, tried.result[i]) << name << i;
+            EXPECT_EQ(headers.at(i), "Section " + std::to_string(tried.types[i]));
+            const bool result = !tried.footers[i].ends_with("|||");
+            for (const char* name : {"linResult", "linResultCul"})
+                EXPECT_EQ(footers[i][name].visible, result) << name << i;
+            EXPECT_EQ(footers[i].height >= footers[i]["linFinal2"].box.Bottom(), result) << i;
+            const bool final = result && i + 1 == footers.size();
             for (const char* name : {"linFinal", "linFinal2", "linFinalCul", "linFinalCul2"})
-                EXPECT_EQ(footers[i][name].visible, tried.final[i]) << name << i;
+                EXPECT_EQ(footers[i][name].visible, final) << name << i;
         }
     }
 }
 
-TEST(IncomeSectionTest, IsCaptionedByTheHostAndLeavesRoomForAResult) {
-    const auto bands = RunOf({4, 5, 9})();
-    EXPECT_THAT(Shown(bands, "ghAcctType", {"lblAcctType"}),
-                ElementsAre("Section 4", "Section 5", "Section 9"));
-    std::vector<Twips> heights;
-    for (const char* section : {"ghAcctType", "gfAcctType"})
-        for (const auto& band : bands.Of(section)) heights.push_back(band.height);
-    EXPECT_THAT(heights, ElementsAre(570, 570, 570, 675, 1'035, 1'035));
+/// Of 7 booked on the account of unrealized gains; 3.45 have been gained.
+StatementRun UnrealizedRun() {
+    StatementRun run = IncomeRun();
+    run.chart = {{kUnrealized, 5}, {5'910, 5}};
+    run.Post(kUnrealized, "2025-02-10", "7");
+    run.Post(5'910, "2025-02-10", "1");
+    run.HoldForeignAmount();
+    run.Revalue();
+    return run;
+}
+
+TEST(IncomeUnrealizedTest, IsAskedOnceForEachDayThatAColumnEndsWithProjectsAndSegments) {
+    StatementRun run = UnrealizedRun();
+    run.host->database.Answer("ProjInfo", {{"ProjId", "Descr"}, {}});
+    run.Properties().Put("ProjIds", "8");
+    run.FilterSegments("3", true);
+    for (const Date cumul_to : {run.to, Date::ParseIso("2025-04-30")}) {
+        run.Properties().Put("CumulDateTo", cumul_to);
+        run();
+    }
+    std::vector<std::string> days;
+    for (const auto& command : run.host->database.Commands()) {
+        if (command->text.find("AcctBalHome") == std::string::npos) continue;
+        days.push_back(command->parameters.back().ToDate().ToIso());
+        EXPECT_THAT(
+            command->text,
+            testing::HasSubstr("AND GLDet.DetDate <= ?  AND ExProjId IN ( 8 )  AND "
+                               "(GLDet.ExSegmentId IN (3) OR GLDet.ExSegmentId IS NULL) GROUP BY"));
+    }
+    EXPECT_THAT(days, ElementsAre("2025-03-31", "2025-03-31", "2025-04-30"));
+}
+
+TEST(IncomeUnrealizedTest, AGainThatCannotBeWorkedOutLeavesItsTotalsBlank) {
+    StatementRun run = UnrealizedRun();
+    dynamic_cast<IExchangeRates&>(*run.report)
+        .IExchangeRates_ExchangeRates(std::make_shared<RateCollection>());
+    const auto bands = run();
+    EXPECT_THAT(Rows(bands), ElementsAre("5900||", "5910|1.00|1.00"));
+    EXPECT_THAT(Shown(bands, "gfAcctType", {"txtTypeTotal", "txtTotalPassCap"}), ElementsAre("|"));
+    ASSERT_EQ(run.host->message_boxes.size(), 1u);
+    EXPECT_THAT(run.host->message_boxes[0], testing::HasSubstr("no exchange rate for USD"));
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

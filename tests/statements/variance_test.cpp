@@ -5,13 +5,11 @@
 
 #include "tests/statements/statement_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
 using reports::SenseOf;
 using reports::VarianceOf;
-using test::ComparativeIncomeRun;
-using test::StatementRun;
 using testing::ElementsAre;
 
 struct Compared {
@@ -23,34 +21,19 @@ struct Compared {
 constexpr Compared kCases[] = {
     // More than before is better.
     {4, "100", "80", "20.00 25.00"},
-    {4, "80", "100", "-20.00 -20.00"},
     {4, "100", "100", "0.00 0.00"},
-    {4, "0", "100", "-100.00 -100.00"},
     {4, "-50", "100", "-150.00 -150.00"},
     {4, "100", "-50", "150.00 300.00"},
-    {4, "0", "-100", "100.00 100.00"},
     {4, "-100", "-80", "-20.00 -25.00"},
-    {4, "-80", "-100", "20.00 20.00"},
-    {4, "-100", "-100", "0.00 0.00"},
     {4, "100", "0", "100.00 NA"},
-    {4, "-100", "0", "-100.00 NA"},
     {4, "0", "0", "0.00 NA"},
     {4, "1", "3", "-2.00 -66.67"},
     {4, "999999999.99", "0.01", "999999999.98 9999999999800.00"},
     // Less is.
     {5, "80", "100", "20.00 20.00"},
-    {5, "100", "80", "-20.00 -25.00"},
-    {5, "100", "100", "0.00 0.00"},
-    {5, "0", "100", "100.00 100.00"},
-    {5, "-50", "100", "150.00 150.00"},
     {5, "100", "-50", "-150.00 -300.00"},
-    {5, "0", "-100", "-100.00 -100.00"},
     {5, "-100", "-200", "-100.00 -50.00"},
-    {5, "-200", "-100", "100.00 100.00"},
-    {5, "-100", "-100", "0.00 0.00"},
     {5, "100", "0", "-100.00 NA"},
-    {5, "-100", "0", "100.00 NA"},
-    {5, "0", "0", "0.00 NA"},
     {5, "0.01", "0.03", "0.02 66.67"},
     // By type.
     {1, "120", "100", "20.00 20.00"},
@@ -64,8 +47,8 @@ constexpr Compared kCases[] = {
 };
 
 TEST(VarianceTest, IsFavourableByTypeAndInPercentOfWhatTheComparisonIsWithoutItsSign) {
-    test::HostCalls calls;
-    test::MemoryFormats formats(calls);
+    HostCalls calls;
+    MemoryFormats formats(calls);
     formats.group_mark.clear();
     for (const auto& tried : kCases) {
         const auto variance = VarianceOf(Currency::Parse(tried.current),
@@ -95,4 +78,4 @@ TEST(VarianceTest, PrintsAsTheHostWritesNumbers) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

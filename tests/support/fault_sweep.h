@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,13 +14,23 @@
 
 namespace varnel::test {
 
+/// Figures by the section they stand in, each by itself: one may be blank where another is right.
+/// Those of several controls are joined by blanks.
+using Figures = std::vector<std::pair<const char*, std::vector<std::string>>>;
+
 /// What a fault sweep looks at.
 struct Swept {
     const char* object;
-    /// Figures by the section they stand in.
-    std::vector<std::pair<const char*, std::vector<std::string>>> figures;
+    Figures figures;
     /// What a figure may be in a report without rows besides blank.
     const char* when_empty = "";
+};
+
+/// A report over its rows.
+template <class Run, class Row>
+struct RunOver : Run {
+    std::vector<Row> rows;
+    CollectedBands operator()() { return Run::operator()(rows); }
 };
 
 /// Sets the report up again and runs it, call `failing` of the host from then on failing; 0 lets
@@ -35,19 +47,25 @@ std::optional<CollectedBands> RunFailing(Run& run, int failing) {
     }
 }
 
+inline void ExpectRightOrBlank(const Swept& swept, const char* section, const std::string& figure,
+                               const CollectedBands& bands, const CollectedBands& right) {
+    std::istringstream names(figure);
+    const std::vector<std::string> controls(std::istream_iterator<std::string>(names), {});
+    const bool empty = bands.Of("Detail").empty();
+    const auto shown = Shown(bands, section, controls);
+    const auto expected = Shown(right, section, controls);
+    ASSERT_TRUE(empty || shown.size() == expected.size()) << section;
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const bool blank = shown[i].find_first_not_of("|DCT") == std::string::npos;
+        EXPECT_TRUE(blank || shown[i] == expected[i] || (empty && shown[i] == swept.when_empty))
+            << figure << " shows " << shown[i] << " for " << expected[i];
+    }
+}
+
 inline void ExpectRightOrBlank(const Swept& swept, const CollectedBands& bands,
                                const CollectedBands& right) {
-    const bool empty = bands.Of("Detail").empty();
-    for (const auto& [section, controls] : swept.figures) {
-        const auto shown = Shown(bands, section, controls);
-        const auto expected = Shown(right, section, controls);
-        ASSERT_TRUE(empty || shown.size() == expected.size()) << section;
-        for (std::size_t i = 0; i < shown.size(); ++i) {
-            const bool blank = shown[i].find_first_not_of("|DCT") == std::string::npos;
-            EXPECT_TRUE(blank || shown[i] == expected[i] || (empty && shown[i] == swept.when_empty))
-                << controls[0] << " shows " << shown[i] << " for " << expected[i];
-        }
-    }
+    for (const auto& [section, figures] : swept.figures)
+        for (const auto& figure : figures) ExpectRightOrBlank(swept, section, figure, bands, right);
 }
 
 /// Makes each call of the host fail in turn. Every failure is told by the report, every figure is

@@ -41,11 +41,12 @@ CompanyDatabase& MemoryHost::Database() {
     return database;
 }
 
-std::string MemoryHost::Message(std::int32_t number, std::string_view,
+std::string MemoryHost::Message(std::int32_t number, std::string_view source,
                                 std::span<const Variant> arguments) {
     calls.Note("Message");
-    std::string text = std::to_string(number);
-    for (const auto& argument : arguments) text += " (" + argument.ToText() + ")";
+    std::string text = std::to_string(number) + " " + std::string(source);
+    for (const auto& argument : arguments)
+        text += " (" + std::string(argument.TypeName()) + " " + argument.ToText() + ")";
     return text;
 }
 

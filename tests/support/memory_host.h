@@ -26,10 +26,7 @@ namespace varnel::test {
 ///     host->message_boxes                                // What it told the user.
 ///
 /// `calls` counts what the host is asked and makes one call fail.
-class MemoryHost final : public Application,
-                         public Context,
-                         public MessageService,
-                         public DialogService {
+class MemoryHost : public Application, public Context, public MessageService, public DialogService {
   public:
     HostCalls calls;
     std::map<std::int16_t, std::string> texts;
@@ -51,7 +48,7 @@ class MemoryHost final : public Application,
     Company& CurrentCompany() override;
     CompanyDatabase& Database() override;
 
-    /// "12802 (2025-01-01)": number and arguments.
+    /// "12802 Orvotech (date 2025-01-01)": number, source and arguments.
     std::string Message(std::int32_t number, std::string_view source,
                         std::span<const Variant> arguments) override;
     void ShowMessageBox(const std::string& text) override;

@@ -3,10 +3,10 @@
 #include "tests/support/allocations_between.h"
 #include "tests/trial/trial_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-long AllocationsOf(test::TrialRun run, int lines) {
+long AllocationsOf(TrialRun run, int lines) {
     run.chart = {{1'030, 1, 2}};
     for (int i = 0; i < lines; ++i) run.Post(1'030, "2025-02-10", "1000.5", "800.25", 2);
     run.report->IReport_DisplayForeignCurrency(true);
@@ -14,13 +14,13 @@ long AllocationsOf(test::TrialRun run, int lines) {
     run.host->calls.StopCounting();
     run.Prepare();
     const long count =
-        test::AllocationsBetween("ghAccount", "gfAccount", *run.report->IReport_ReportDesigner());
+        AllocationsBetween("ghAccount", "gfAccount", *run.report->IReport_ReportDesigner());
     EXPECT_TRUE(run.host->message_boxes.empty());
     return count;
 }
 
 TEST(TrialAllocationTest, ALineAllocatesNothing) {
-    for (auto* make : {+[] { return test::DetailRun(); }, +[] { return test::LedgerRun(); }}) {
+    for (auto* make : {+[] { return DetailRun(); }, +[] { return LedgerRun(); }}) {
         const long of_ten = AllocationsOf(make(), 10);
         EXPECT_GT(of_ten, 0);
         EXPECT_EQ(AllocationsOf(make(), 2'000), of_ten);
@@ -28,4 +28,4 @@ TEST(TrialAllocationTest, ALineAllocatesNothing) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

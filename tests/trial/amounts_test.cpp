@@ -3,25 +3,14 @@
 
 #include "tests/trial/trial_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::GifiRun;
-using test::kCurrentEarnings;
-using test::kRetainedEarnings;
-using test::kUnrealized;
-using test::Shown;
-using test::SummaryRun;
-using test::TrialRun;
 using testing::ElementsAre;
 
 // Amounts of accounts, in the summary and in the GIFI report.
 
 using Lines = std::vector<std::string>;
-
-Lines SummaryLines(TrialRun& run) {
-    return Shown(run(), "Detail", {"txtAcctId", "txtDebit", "txtCredit"});
-}
 
 Lines GifiLines(TrialRun& run) { return Shown(run(), "Detail", {"txtDescr", "txtAmount"}); }
 
@@ -57,38 +46,6 @@ TEST(TrialAmountTest, AYearThatCouldNotBeAskedForWithTheDateIsAskedForAtTheStart
     run.report->IReport_DateTo(run.to);
     run.report->IReport_Application(run.host);
     EXPECT_EQ(GifiLines(run).back(), "4000 - Account 4000|-3.50");
-}
-
-/// 1030 has 100 USD booked at 130, 1040 10 EUR booked at 15; 6000 stands behind the unrealized
-/// account.
-void PostForeign(TrialRun& run) {
-    run.chart = {{1'030, 1, 2}, {1'040, 1, 3}, {kUnrealized, 5}, {6'000, 1, 2}};
-    run.Post(1'030, "2025-01-10", "130", "100", 2);
-    run.Post(1'040, "2025-02-10", "15", "10", 3);
-    run.Post(kUnrealized, "2025-02-11", "-7");
-    run.Post(6'000, "2025-02-11", "1", "2", 2);
-}
-
-TEST(TrialAmountTest, RevaluedAccountsAreToTheCentAndTheUnrealizedOneCarriesThoseBeforeIt) {
-    TrialRun run = SummaryRun();
-    PostForeign(run);
-    EXPECT_THAT(SummaryLines(run),
-                ElementsAre("1030|130.00|", "1040|15.00|", "5900||7.00", "6000|1.00|"));
-    run.Revalue();
-    // 123.45 - 130 + 15.56 - 15 = -5.99; 6000 comes too late.
-    const Lines revalued{"1030|123.45|", "1040|15.56|", "5900|5.99|", "6000|2.47|"};
-    EXPECT_EQ(SummaryLines(run), revalued);
-    EXPECT_EQ(SummaryLines(run), revalued) << "again";
-}
-
-TEST(TrialAmountTest, OfGifiDependsOnTheOrderOfCodes) {
-    TrialRun run = GifiRun();
-    PostForeign(run);
-    run.Revalue();
-    run.chart = {{1'040, 1, 3}, {kUnrealized, 5}, {1'030, 1, 2}};
-    EXPECT_THAT(GifiLines(run),
-                ElementsAre("1040 - Account 1040|15.56", "5900 - Account 5900|-0.56",
-                            "1030 - Account 1030|123.45"));
 }
 
 TEST(TrialAmountTest, KeysLeadToTheAccountButFromEarnings) {
@@ -149,23 +106,6 @@ TEST(SummaryTest, TheDescriptionTakesTheRoomThatOtherColumnsLeave) {
 
 // The GIFI report's own.
 
-TEST(GifiTest, ACodeOfZerosPrintsItsTotalAndCounts) {
-    TrialRun run = GifiRun();
-    run.host->texts[7630] = "codes";
-    run.chart = {{1'010, 1, 0, false, "100"},
-                 {1'020, 1, 0, false, "100"},
-                 {1'030, 1, 0, false, "100"},
-                 {1'040, 1, 0, false, "200"}};
-    run.Post(1'010, "2025-03-01", "-1500");
-    run.Post(1'030, "2025-03-01", "0.25");
-    const auto bands = run();
-    EXPECT_THAT(Shown(bands, "ghGIFI", {"txtGIFIAcctId"}), ElementsAre("100", "200"));
-    EXPECT_THAT(Shown(bands, "Detail", {"txtDescr", "txtAmount"}),
-                ElementsAre("1010 - Account 1010|-1,500.00", "1030 - Account 1030|0.25"));
-    EXPECT_THAT(Shown(bands, "gfGIFI", {"txtTotal"}), ElementsAre("-1,499.75", "0.00"));
-    EXPECT_THAT(bands.Texts("ReportFooter", "txtCount"), ElementsAre("2 codes"));
-}
-
 TEST(GifiTest, WithoutAccountNumbersTheDescriptionStandsAlone) {
     TrialRun run = GifiRun();
     run.host->company.settings["UseAccountNumbers"] = "False";
@@ -175,4 +115,4 @@ TEST(GifiTest, WithoutAccountNumbersTheDescriptionStandsAlone) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

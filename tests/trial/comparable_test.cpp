@@ -4,13 +4,9 @@
 #include "tests/support/collected_rows.h"
 #include "tests/trial/trial_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::CollectedRows;
-using test::DetailRun;
-using test::SummaryRun;
-using test::TrialRun;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -91,4 +87,4 @@ TEST(ComparableTrialTest, OnlyTheSummaryFillsASpreadsheetTemplate) {
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -3,15 +3,9 @@
 
 #include "tests/trial/trial_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::Collect;
-using test::DetailRun;
-using test::kUnrealized;
-using test::Shown;
-using test::SummaryRun;
-using test::TrialRun;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -90,4 +84,4 @@ TEST(TrialFailureTest, ALineWhoseForeignAmountCannotBeReadMakesTheDifferenceUnkn
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -2,19 +2,9 @@
 
 #include "tests/trial/trial_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DetailRun;
-using test::GifiRun;
-using test::kRetainedEarnings;
-using test::kUnrealized;
-using test::LedgerRun;
-using test::Shown;
-using test::SummaryRun;
-using test::SweepFaults;
-using test::Swept;
-using test::TrialRun;
 using testing::ElementsAre;
 
 TrialRun PlainDetailRun() { return DetailRun(); }
@@ -33,52 +23,36 @@ const SweptTrial kReports[] = {
     {"summary",
      SummaryRun,
      {"dsrTrialBalanceSummary",
-      {{"Detail", {"txtDebit"}},
-       {"Detail", {"txtCredit"}},
-       {"Detail", {"txtCurrency"}},
-       {"ReportFooter", {"txtDebitAdj"}},
-       {"ReportFooter", {"txtCreditAdj"}},
-       {"ReportFooter", {"txtDebitGrandTotal"}},
-       {"ReportFooter", {"txtCreditGrandTotal"}}}},
+      {{"Detail", {"txtDebit", "txtCredit", "txtCurrency"}},
+       {"ReportFooter",
+        {"txtDebitAdj", "txtCreditAdj", "txtDebitGrandTotal", "txtCreditGrandTotal"}}}},
      {"txtDebitGrandTotal", "txtCreditGrandTotal"},
      // 20 + 123.45 + 6.55 + 4 against 1 + 150.
      "154.00|154.00"},
     {"detail",
      PlainDetailRun,
      {"dsrTrialBalanceDetail",
-      {{"ghAccount", {"txtBalanceForward", "lblBalanceForwardType"}},
-       {"ghAccount", {"txtGPUnrealized", "lblGPUnrealizedType"}},
-       {"Detail", {"txtDebit"}},
-       {"Detail", {"txtCredit"}},
-       {"Detail", {"txtCurrency"}},
-       {"Detail", {"txtDetDate"}},
-       {"Detail", {"txtBalance", "lblBalanceType"}},
-       {"gfAccount", {"txtDebitTotal"}},
-       {"gfAccount", {"txtCreditTotal"}},
-       {"gfAccount", {"txtBalanceTotal", "lblBalanceTotalType"}},
-       {"ReportFooter", {"txtDebitAdj"}},
-       {"ReportFooter", {"txtCreditAdj"}},
-       {"ReportFooter", {"txtDebitGrandTotal"}},
-       {"ReportFooter", {"txtCreditGrandTotal"}},
-       {"ReportFooter", {"txtBalanceGrandTotal", "lblBalanceGrandTotalType"}}}},
+      {{"ghAccount",
+        {"txtBalanceForward lblBalanceForwardType", "txtGPUnrealized lblGPUnrealizedType"}},
+       {"Detail",
+        {"txtDebit", "txtCredit", "txtCurrency", "txtDetDate", "txtBalance lblBalanceType"}},
+       {"gfAccount", {"txtDebitTotal", "txtCreditTotal", "txtBalanceTotal lblBalanceTotalType"}},
+       {"ReportFooter",
+        {"txtDebitAdj", "txtCreditAdj", "txtDebitGrandTotal", "txtCreditGrandTotal",
+         "txtBalanceGrandTotal lblBalanceGrandTotalType"}}}},
      {"txtDebitGrandTotal", "txtCreditGrandTotal"},
      // 20 and 24.69 against 25.
      "44.69|44.69"},
     {"ledger by account",
      LedgerRun,
      {"dsrGeneralLedgerByAccount",
-      {{"ghForward", {"txtBalanceForward", "lblBalanceForwardType"}},
-       {"Detail", {"txtDebit"}},
-       {"Detail", {"txtCredit"}},
-       {"Detail", {"txtForeign"}},
-       {"Detail", {"txtDetDate"}},
-       {"Detail", {"txtBalance", "lblBalanceType"}},
-       {"gfAccount", {"txtDebitTotal"}},
-       {"gfAccount", {"txtCreditTotal"}},
-       {"gfAccount", {"txtBalanceTotal", "lblBalanceTotalType"}},
-       {"ReportFooter", {"txtDebitGrandTotal"}},
-       {"ReportFooter", {"txtCreditGrandTotal"}},
-       {"ReportFooter", {"txtBalanceGrandTotal", "lblBalanceGrandTotalType"}}}},
+      {{"ghForward", {"txtBalanceForward lblBalanceForwardType"}},
+       {"Detail",
+        {"txtDebit", "txtCredit", "txtForeign", "txtDetDate", "txtBalance lblBalanceType"}},
+       {"gfAccount", {"txtDebitTotal", "txtCreditTotal", "txtBalanceTotal lblBalanceTotalType"}},
+       {"ReportFooter",
+        {"txtDebitGrandTotal", "txtCreditGrandTotal",
+         "txtBalanceGrandTotal lblBalanceGrandTotalType"}}}},
      {"txtDebitGrandTotal", "txtCreditGrandTotal", "txtBalanceGrandTotal"},
      // 20 and 24 against 25; 106 - 1 - 125 + 1 + 4 brought forward.
      "44.00|25.00|4.00"},
@@ -129,4 +103,4 @@ TEST_P(TrialFaultSweepTest, EveryFailureIsToldAndEveryFigureIsRightOrBlank) {
 INSTANTIATE_TEST_SUITE_P(Reports, TrialFaultSweepTest, testing::ValuesIn(kReports));
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
-#include <map>
 
 #include "tests/support/book_companies.h"
 #include "tests/trial/books_figures.h"
@@ -196,40 +195,6 @@ TEST(TrialSummary, LeadsFromEachAccountToLinesThatAddUpToIt) {
                 EXPECT_EQ(line.amount, AddedUpBehind(line.key, books, question)) << line.account;
         }
         EXPECT_LE(without_key, 2U) << "only earnings lead nowhere";
-    });
-}
-
-TEST(TrialDetail, LeadsFromEachLineToItsDocument) {
-    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
-        const Question question = SomePeriod(books, random);
-        SCOPED_TRACE(InWords(question));
-        std::map<std::string, Units> printed, posted;
-        for (const auto& account : RunDetail(host, question).accounts)
-            for (const auto& line : account.lines)
-                if (!line.key.starts_with("GLUnrealized|"))
-                    printed[account.account + " " + line.key] += line.amount;
-        for (const auto& account : books.accounts)
-            for (const auto& line : books.lines)
-                if (line.account_id == account.id && account.id != books.unrealized &&
-                    line.amount != 0 && line.date >= question.from && line.date <= question.to)
-                    posted[account.number + " " + line.Key()] += line.amount;
-        EXPECT_EQ(printed, posted);
-    });
-}
-
-TEST(GifiReport, AddsUpLinesOfTheSummaryWhenItsPeriodLiesInOneYear) {
-    ForEveryCompany([](const Books& books, const auto& host, Random& random) {
-        Question question = SomePeriod(books, random);
-        question.from = std::max(question.from, books.YearStart(question.to));
-        if (random.Chance(500)) question = SomeSegments(question, random);
-        SCOPED_TRACE(InWords(question));
-        const Summary summary = RunSummary(host, question);
-        std::map<std::string, Units> expected, printed;
-        for (const auto& account : books.accounts)
-            if (!account.inactive && !account.gifi.empty())
-                expected[account.gifi] += summary.Of(account.number);
-        for (const auto& code : RunGifi(host, question).codes) printed[code.code] = code.total;
-        EXPECT_EQ(printed, expected);
     });
 }
 

@@ -2,16 +2,12 @@
 #include <gtest/gtest.h>
 
 #include "reports/trial/trial_balance_detail.h"
-#include "tests/journal/picking_tool.h"
+#include "tests/support/picking_tool.h"
 #include "tests/trial/trial_run.h"
 
-namespace varnel {
+namespace varnel::test {
 namespace {
 
-using test::DetailRun;
-using test::GifiRun;
-using test::SummaryRun;
-using test::TrialRun;
 using testing::ElementsAre;
 
 #define CHART                                                                     \
@@ -85,7 +81,7 @@ TEST(DetailStatementTest, IsExactlyThis) {
     for (const auto& [selection, segments, filter, statement] : cases) {
         TrialRun run = DetailRun();
         dynamic_cast<reports::dsrTrialBalanceDetail&>(*run.report).GetSelection() = selection;
-        run.Filter(filter, std::make_shared<test::PickingTool>());
+        run.Filter(filter, std::make_shared<PickingTool>());
         run.FilterSegments(segments);
         run();
         EXPECT_EQ(run.Command().text, statement);
@@ -95,6 +91,67 @@ TEST(DetailStatementTest, IsExactlyThis) {
         EXPECT_EQ(parameters[0].ToDate(), run.from);
         EXPECT_EQ(parameters[1].ToDate(), run.to);
         EXPECT_TRUE(account == 0 || parameters[2].ToInteger32() == account);
+    }
+}
+
+#define LEDGER                                                                              \
+    "SELECT GLDet.InGLDetId, GLDet.DetDate, GLDet.SeqNo, GLDet.Source, GLDet.ExSrcKeyVal, " \
+    "GLDet.DetRef, GLDet.DetDesc, GLDet.Remarks, GLDet.DetAmnt, GLDet.ForeignAmnt, "        \
+    "GLDet.ExCurrencyId AS GLDetExCurrencyId, GLAcct.AcctType, GLAcct.InGLAcctId, "         \
+    "GLAcct.GLAcctId, GLAcct.ExCurrencyId, GLAcct.Descr, GLAcct.GroupType "                 \
+    "FROM GLAcct LEFT JOIN GLDet ON GLAcct.InGLAcctId = GLDet.ExAcctId "                    \
+    "AND GLDet.DetDate BETWEEN ? AND ?"
+#define IN_ORDER " ORDER BY GLAcct.GLAcctId, GLDet.DetDate, GLDet.SeqNo, GLDet.InGLDetId"
+
+TEST(LedgerByAccountStatementTest, IsExactlyThis) {
+    const struct {
+        const char *filter, *segments;
+        bool also_none;
+        const char* statement;
+    } cases[] = {
+        {" | ", "", false, LEDGER IN_ORDER},
+        {"GLDet.DetAmnt > 5", "", true,
+         LEDGER " AND (GLDet.ExSegmentId IS NULL) WHERE GLAcct.InGLAcctId IN (-1)" IN_ORDER},
+        {"1010, 1020|GLDet.Source DESC", "3,7", false,
+         LEDGER " AND (GLDet.ExSegmentId IN (3,7)) WHERE GLAcct.InGLAcctId IN (1010, 1020)"
+                " ORDER BY GLAcct.GLAcctId, GLDet.Source DESC"}};
+    for (const auto& [filter, segments, also_none, statement] : cases) {
+        TrialRun run = LedgerRun();
+        run.Filter(filter, std::make_shared<PickingTool>());
+        run.FilterSegments(segments, also_none);
+        run();
+        EXPECT_EQ(run.Command().text, statement);
+        ASSERT_EQ(run.Command().parameters.size(), 2u);
+        EXPECT_EQ(run.Command().parameters[0].ToDate(), run.from);
+        EXPECT_EQ(run.Command().parameters[1].ToDate(), run.to);
+    }
+}
+
+struct Tables {
+    TrialRun (*make)();
+    const char* tables;
+    bool resolves_criteria;  // Into accounts, by the tool.
+};
+
+constexpr Tables kTables[] = {{SummaryRun, "GLAcct", false},
+                              {[] { return DetailRun(); }, "GLAcct", true},
+                              {GifiRun, "GLAcct, WorldCurrency", false},
+                              {LedgerRun, "GLAcct, GLDet", true}};
+
+TEST(TrialFilterTest, TellsTheToolItsTablesAndRefusesCriteriaThatWantOneWithout) {
+    for (const auto& [make, tables, resolves_criteria] : kTables) {
+        TrialRun run = make();
+        const auto tool = std::make_shared<PickingTool>();
+        run.Filter("", tool);
+        run();
+        EXPECT_EQ(tool->tables, tables);
+        if (!resolves_criteria) continue;
+        const auto asked = run.host->database.Commands().size();
+        run.Filter("GLAcct.AcctType = 1");
+        EXPECT_THAT(run().Texts("ReportFooter", "txtDebitGrandTotal"), ElementsAre(""));
+        EXPECT_EQ(run.host->database.Commands().size(), asked);
+        EXPECT_THAT(run.host->message_boxes,
+                    ElementsAre(testing::HasSubstr("GLAcct.AcctType = 1")));
     }
 }
 
@@ -112,45 +169,5 @@ TEST(DetailSelectionTest, IsReachedByNameAndTheFactoryHidesInactiveAccounts) {
                                         "(1010)" BY_ACCOUNT);
 }
 
-TEST(DetailSelectionTest, CriteriaWithoutAToolToResolveThemAreRefused) {
-    TrialRun run = DetailRun();
-    run.Filter("GLAcct.AcctType = 1");
-    run();
-    EXPECT_TRUE(run.host->database.Commands().empty());
-    ASSERT_EQ(run.host->message_boxes.size(), 1u);
-    EXPECT_THAT(run.host->message_boxes[0], testing::HasSubstr("GLAcct.AcctType = 1"));
-}
-
-TEST(TrialStatementTest, TheFilterToolLearnsWhichTablesCriteriaMayName) {
-    constexpr std::pair<TrialRun (*)(), const char*> kTables[] = {
-        {SummaryRun, "GLAcct"},
-        {[] { return DetailRun(); }, "GLAcct"},
-        {GifiRun, "GLAcct, WorldCurrency"}};
-    for (const auto& [make, tables] : kTables) {
-        TrialRun run = make();
-        const auto tool = std::make_shared<test::PickingTool>();
-        run.Filter("", tool);
-        run();
-        EXPECT_EQ(tool->tables, tables);
-    }
-}
-
-TEST(TrialBalanceRequestTest, TakesTheSegmentClauseInParenthesesAndTheProjects) {
-    TrialRun run = DetailRun();
-    std::vector<std::string> clauses;
-    run.host->company.in_segments = [&](const auto&, const std::string& clause) {
-        clauses.push_back(clause);
-        return true;
-    };
-    run.chart = {{1'010}};
-    run.Post(1'010, "2025-01-15", "5");
-    run.Post(1'010, "2025-01-15", "7");
-    run.host->company.ledger.back().project_id = 9;
-    run.FilterSegments("3,5", true);
-    run.report->IReport_ReportDesigner()->Put("ProjIds", "8,9");
-    EXPECT_THAT(run().Texts("ghAccount", "txtBalanceForward"), ElementsAre("7.00"));
-    EXPECT_THAT(clauses, ElementsAre("(GLDet.ExSegmentId IN (3,5) OR GLDet.ExSegmentId IS NULL)"));
-}
-
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::test
