@@ -76,9 +76,8 @@ bool RunInto(std::shared_ptr<ComparableReportSink> sink, const PreparedReport& p
         .IComparableReport_ComparableReportGen(std::move(sink));
     RunMonitor monitor(console, prepared.host->Messages());
     auto& report = *prepared.report->IReport_ReportDesigner();
-    const auto result = TellingPlace(report.ObjectName(), "ActiveReport_FetchData", [&] {
-        return engine::RunToBands(report, info, bands, &monitor);
-    });
+    const auto result =
+        TellingPlace("RunInto", [&] { return engine::RunToBands(report, info, bands, &monitor); });
     if (result.cancelled) throw Interrupted();
     return !monitor.StartFailed(result);
 }

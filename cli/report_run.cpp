@@ -80,7 +80,7 @@ std::shared_ptr<company::CompanyHost> Open(const std::string& address,
                                            const company::HostOptions& options) {
     const auto open = [&] { return company::OpenCompany(address, options); };
     if (!company::ParseCompanyAddress(address).IsServer()) return open();
-    return TellingPlace("CompanyHost", "OpenCompany", open);
+    return TellingPlace("Open", open);
 }
 
 std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
@@ -183,9 +183,8 @@ int RunReport(const RunRequest& request, Console& console) {
     const auto info = InfoOf(*report, *host, settings.language);
     auto& designer = *report->IReport_ReportDesigner();
     const auto layout = LayoutOf(request, settings);
-    const auto result = TellingPlace(designer.ObjectName(), "ActiveReport_FetchData", [&] {
-        return format.write(designer, info, layout, output, monitor);
-    });
+    const auto result = TellingPlace(
+        "RunReport", [&] { return format.write(designer, info, layout, output, monitor); });
     if (result.cancelled) throw Interrupted();
     const bool written = !monitor.StartFailed(result);
     if (written)

@@ -7,10 +7,10 @@
 
 namespace varnel::cli {
 
-/// Does the work. When the database fails outside the procedures of a report, which tell their own
-/// failures, the error that comes out tells the place as they do.
+/// Does the work of a procedure of the command. When the database fails there, outside the
+/// procedures of a report, the error that comes out tells the place as these do.
 template <class Work>
-auto TellingPlace(std::string_view object, std::string_view procedure, Work&& work,
+auto TellingPlace(std::string_view procedure, Work&& work,
                   std::uint_least32_t line = __builtin_LINE()) {
     try {
         return work();
@@ -18,7 +18,7 @@ auto TellingPlace(std::string_view object, std::string_view procedure, Work&& wo
         if (error.Number() != error_number::kDatabase) throw;
         throw Error(
             error.Number(), error.Source(),
-            framework::FormAMessage(object, procedure, framework::DescribeCurrentException(line)));
+            framework::FormAMessage("cli", procedure, framework::DescribeCurrentException(line)));
     }
 }
 

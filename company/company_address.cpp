@@ -106,6 +106,8 @@ class UrlReader {
             if (part.name != name) continue;
             std::erase_if(keywords_, [&](const auto& known) { return known.name == part.keyword; });
             keywords_.push_back({std::string(part.keyword), Decoded(value)});
+            if (keywords_.back().value.find('\0') != std::string::npos)
+                Refuse("the address of the company holds a zero character (%00): leave it out");
             return;
         }
         Refuse("the address of the company sets \"" + std::string(name) +
@@ -137,7 +139,9 @@ bool IsConnectionString(std::string_view text) {
 bool HoldsPassword(const ConnectionKeyword& keyword) {
     for (const std::string_view name : {"PWD", "Pass", "Password"})
         if (SameName(keyword.name, name)) return true;
-    return keyword.value.find("password=") != std::string::npos;
+    std::string value = keyword.value;
+    std::erase(value, ' ');
+    return value.find("password=") != std::string::npos;
 }
 
 std::string CheckedConnectionString(const std::string& text) {

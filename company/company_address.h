@@ -5,8 +5,8 @@
 namespace varnel::company {
 
 /// Where a company's books are, as a user writes it: the path of an SQLite file,
-/// "postgresql://user@host:port/database", or an ODBC connection string that begins with "Driver=",
-/// "DSN=" or "FileDSN=".
+/// "postgresql://user@host:port/database", or an ODBC connection string, which begins with one of
+/// its usual keywords ("Driver=", "DSN=", "Server=").
 struct CompanyAddress {
     std::string text;             ///< As it was written; it holds no password.
     std::string odbc_connection;  ///< Empty for a file.

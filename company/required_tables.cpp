@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "company/services/query.h"
+#include "drivers/query_error.h"
 #include "host/error.h"
 
 namespace varnel::company {
@@ -46,10 +47,10 @@ constexpr std::array kRequiredTables{
                 database_name + " is not a company database of this version: " + fault);
 }
 
-/// Not locked or forbidden: the table is not there (SQLite's words, PostgreSQL's state).
+/// Not locked or forbidden: the table is not there.
 bool IsMissing(const Error& error) {
-    return error.Description().find("no such table") != std::string::npos ||
-           error.Description().find("42P01") != std::string::npos;
+    const auto* const query_error = dynamic_cast<const drivers::QueryError*>(&error);
+    return query_error != nullptr && query_error->Fault() == drivers::QueryFault::kMissingTable;
 }
 
 std::shared_ptr<Recordset> NoRowsOf(CompanyDatabase& database, const std::string& table,

@@ -14,7 +14,7 @@ namespace varnel {
 /// alive.
 ///
 /// A row set stands on its first row when it is new. Errors of the database come out of the call
-/// that met them, with the statement in the description.
+/// that met them, with the statement in the description unless it was never reached.
 class Recordset : public Object {
   public:
     std::string_view ObjectName() const override { return "Recordset"; }
@@ -55,8 +55,8 @@ class CompanyDatabase {
     virtual int DatabaseType() = 0;
     virtual std::shared_ptr<Command> NewCommand() = 0;
     /// While the object lives, every query sees the database as it was at the first of them: a
-    /// report holds it for a run, so that its figures agree though somebody posts meanwhile. Null
-    /// where the database cannot do that. What prevents it comes out of the first query.
+    /// report holds it for a run, so that its figures agree though somebody posts meanwhile. Where
+    /// the database cannot do that nothing changes. What prevents it comes out of the first query.
     virtual std::shared_ptr<void> HoldSnapshot() { return nullptr; }
     /// The host's parameter binder: appends the values to the command in order.
     virtual void BindParameters(Command& command, std::span<const Variant> parameters) {

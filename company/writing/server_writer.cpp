@@ -90,11 +90,21 @@ class LiteralStatement final : public WritingStatement {
 
 }  // namespace
 
+template <class Work>
+auto ServerWriter::AtPlace(Work&& work) const {
+    try {
+        return work();
+    } catch (const Error& error) {
+        throw Error(error.Number(), error.Source(),
+                    "cannot write " + place_ + ": " + error.Description());
+    }
+}
+
 ServerWriter::ServerWriter(const CompanyAddress& address, const WritingOptions& options)
-    : place_(address.text),
-      watch_(options.cancelled),
-      connection_(address.odbc_connection, drivers::OdbcAccess::kWrite, watch_) {
-    Execute("SET standard_conforming_strings = on");  // Literals are written for that.
+    : place_(address.text), watch_(options.cancelled), connection_(AtPlace([&] {
+          return std::make_unique<drivers::OdbcConnection>(address.odbc_connection,
+                                                           drivers::OdbcAccess::kWrite, watch_);
+      })) {
     if (!options.overwrite) RequireNoTables(address);
     if (options.overwrite) Execute(kServerRemovalSql);
     Execute(kServerPreludeSql);
@@ -109,7 +119,7 @@ void ServerWriter::Execute(const char* sql) { Send(sql); }
 
 std::vector<std::int64_t> ServerWriter::Numbers(const std::string& query) {
     SendAllRows();
-    return connection_.Numbers(query);
+    return AtPlace([&] { return connection_->Numbers(query); });
 }
 
 void ServerWriter::AddRow(const std::string& insert, std::string_view row) {
@@ -123,12 +133,7 @@ void ServerWriter::SendRows(const std::string& insert, std::string& rows) {
     if (rows.empty()) return;
     const std::string text = insert + rows;
     rows.clear();
-    try {
-        connection_.Execute(text);
-    } catch (const Error& error) {
-        throw Error(error.Number(), error.Source(),
-                    "cannot write " + place_ + ": " + error.Description());
-    }
+    AtPlace([&] { connection_->Execute(text); });
 }
 
 void ServerWriter::SendAllRows() {
@@ -137,13 +142,18 @@ void ServerWriter::SendAllRows() {
 
 void ServerWriter::Send(std::string_view sql) {
     SendAllRows();
-    std::string all(sql);
-    SendRows("", all);
+    AtPlace([&] { connection_->Execute(sql); });
 }
 
 void ServerWriter::Finish() {
     Execute(kIndexesSql);
-    connection_.Commit();
+    try {
+        connection_->Commit();
+    } catch (const Error& error) {
+        throw Error(error.Number(), error.Source(),
+                    "whether " + place_ +
+                        " was written is not known, look into it: " + error.Description());
+    }
 }
 
 }  // namespace varnel::company

@@ -29,10 +29,13 @@ class ServerWriter final : public CompanyWriter {
   private:
     void SendAllRows();
     void SendRows(const std::string& insert, std::string& rows);
+    /// Does the work; an error names the place.
+    template <class Work>
+    auto AtPlace(Work&& work) const;
 
     std::string place_;
     drivers::OdbcWatch watch_;
-    drivers::OdbcConnection connection_;
+    std::unique_ptr<drivers::OdbcConnection> connection_;
     std::map<std::string, std::string> rows_;  // By statement.
 };
 

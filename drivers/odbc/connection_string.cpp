@@ -75,7 +75,7 @@ std::string JoinConnectionString(const std::vector<ConnectionKeyword>& keywords)
     return text;
 }
 
-std::string WithReadingSettings(std::string_view connection_string) {
+std::string WithOwnSettings(std::string_view connection_string) {
     static const ConnectionKeyword kNeeded[] = {{"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}};
     static const ConnectionKeyword kUsual[] = {{"KeepaliveTime", "60"},
                                                {"KeepaliveInterval", "10"}};

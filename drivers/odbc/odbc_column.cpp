@@ -19,14 +19,14 @@ namespace {
 
 // Longer texts are rare, and read a second time.
 constexpr std::size_t kTextWidth = 256 * sizeof(SQLWCHAR);
-constexpr std::size_t kDecimalWidth = 64;
+constexpr std::size_t kShortWidth = 64;  // Of decimals and dates.
 constexpr std::size_t kPiece = 8 * 1024;
 constexpr SQLLEN kDateWidth = 10;  // Shown as 2025-03-31, without a time.
 
 SQLLEN Attribute(void* statement, SQLUSMALLINT number, SQLUSMALLINT field) {
     SQLLEN value = 0;
     const auto result = SQLColAttributeW(statement, number, field, nullptr, 0, nullptr, &value);
-    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement).Describe());
+    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement));
     return value;
 }
 
@@ -35,10 +35,6 @@ Value Load(const char* bytes) {
     Value value;
     std::memcpy(&value, bytes, sizeof value);
     return value;
-}
-
-Date DateOf(const SQL_DATE_STRUCT& date) {
-    return Date::FromYearMonthDay(date.year, date.month, date.day);
 }
 
 /// Zeros after the fourth decimal say nothing.
@@ -53,7 +49,7 @@ std::string_view WithoutZeros(std::string_view text) {
 /// Exactly: as an amount when four decimals are enough, otherwise as the text itself, which
 /// amounts and rates are read from as well. Some drivers write the decimal mark of the process.
 void AddDecimal(std::string_view given, Row& row) {
-    std::array<char, kDecimalWidth> buffer{};
+    std::array<char, kShortWidth> buffer{};
     std::string_view text = WithoutZeros(given);
     const auto mark = text.find_first_of(".,");
     if (mark != std::string_view::npos && text[mark] == ',') {
@@ -101,7 +97,7 @@ OdbcColumn::OdbcColumn(void* statement, unsigned short number) : number_(number)
     SQLSMALLINT length = 0;
     const auto result = SQLDescribeColW(statement, number, name.data(), name.size(), &length,
                                         nullptr, nullptr, nullptr, nullptr);
-    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement).Describe());
+    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement));
     name_ = ToUtf8(name.data());
     // The precise type, of dates for one, has the driver look tables up on the server.
     const auto type = Attribute(statement, number, SQL_DESC_TYPE);
@@ -116,8 +112,7 @@ short OdbcColumn::CType() const {
             return SQL_C_SBIGINT;
         case Kind::kReal:
             return SQL_C_DOUBLE;
-        case Kind::kDate:
-            return SQL_C_TYPE_DATE;
+        case Kind::kDate:  // As a date the driver makes something of "infinity".
         case Kind::kDecimal:
             return SQL_C_CHAR;
         default:
@@ -132,9 +127,8 @@ std::size_t OdbcColumn::Width() const {
         case Kind::kReal:
             return sizeof(SQLDOUBLE);
         case Kind::kDate:
-            return sizeof(SQL_DATE_STRUCT);
         case Kind::kDecimal:
-            return kDecimalWidth;
+            return kShortWidth;
         default:
             return kTextWidth;
     }
@@ -160,24 +154,35 @@ bool OdbcColumn::IsCut(std::size_t row) const {
            length + static_cast<SQLLEN>(UnitWidth()) > static_cast<SQLLEN>(Width());
 }
 
-void OdbcColumn::Read(std::size_t row, std::string& text, Row& out) const {
-    if (lengths_[row] == SQL_NULL_DATA) return out.AddNull();
-    const char* const value = At(row);
-    const auto length = static_cast<std::size_t>(lengths_[row]);
+std::string_view OdbcColumn::TextAt(std::size_t row) const {
+    return {At(row), static_cast<std::size_t>(lengths_[row])};
+}
+
+bool OdbcColumn::Read(std::size_t row, std::string& text, Row& out) const {
+    if (lengths_[row] == SQL_NULL_DATA) return out.AddNull(), true;
+    const std::string_view bytes = TextAt(row);
+    Date date;
     switch (kind_) {
         case Kind::kInteger:
-            return out.AddInteger(Load<SQLBIGINT>(value));
+            return out.AddInteger(Load<SQLBIGINT>(At(row))), true;
         case Kind::kReal:
-            return out.AddReal(Load<SQLDOUBLE>(value));
+            return out.AddReal(Load<SQLDOUBLE>(At(row))), true;
         case Kind::kDate:
-            return out.AddDate(DateOf(Load<SQL_DATE_STRUCT>(value)));
+            return Date::TryParseIso(bytes, date) && (out.AddDate(date), true);
         case Kind::kDecimal:
-            return AddDecimal({value, length}, out);
+            return AddDecimal(bytes, out), true;
         default:
             text.clear();
-            AppendUtf8({reinterpret_cast<const SQLWCHAR*>(value), length / sizeof(SQLWCHAR)}, text);
-            return out.AddText(text);
+            AppendUtf8(
+                {reinterpret_cast<const SQLWCHAR*>(bytes.data()), bytes.size() / sizeof(SQLWCHAR)},
+                text);
+            return out.AddText(text), true;
     }
+}
+
+std::string OdbcColumn::Unreadable(std::size_t row) const {
+    return "Column \"" + name_ + "\" holds a date that reports cannot read, \"" +
+           std::string(TextAt(row)) + "\" to the driver: they know the years up to 9999.";
 }
 
 bool OdbcColumn::ReadLong(void* statement, std::string& text) const {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/row.h"
@@ -23,8 +24,11 @@ class OdbcColumn {
 
     /// True when the value was longer than its place, so that its beginning alone is here.
     bool IsCut(std::size_t row) const;
-    /// Adds the value to the row. `text` is room for texts: nothing is allocated once it has grown.
-    void Read(std::size_t row, std::string& text, Row& out) const;
+    /// Adds the value to the row; false when it is none that reports know. `text` is room for
+    /// texts: nothing is allocated once it has grown.
+    bool Read(std::size_t row, std::string& text, Row& out) const;
+    /// A sentence about that value.
+    std::string Unreadable(std::size_t row) const;
     /// Fetches the whole of a text of the row that the cursor stands on, in pieces. False when the
     /// driver cannot.
     bool ReadLong(void* statement, std::string& text) const;
@@ -37,6 +41,7 @@ class OdbcColumn {
     std::size_t Width() const;
     /// Of a character; 0 for what is no text.
     std::size_t UnitWidth() const;
+    std::string_view TextAt(std::size_t row) const;
     const char* At(std::size_t row) const { return values_.data() + row * Width(); }
 
     std::string name_;

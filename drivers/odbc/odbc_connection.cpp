@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdlib>
 
+#include "drivers/odbc/connection_string.h"
 #include "drivers/odbc/odbc_error.h"
 #include "drivers/odbc/odbc_watch.h"
 #include "drivers/odbc/utf16.h"
@@ -25,9 +26,20 @@ SQLPOINTER AsPointer(SQLULEN value) {
     return reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
 }
 
+/// What a message shows of a statement, which may hold a thousand rows; whole characters.
+std::string_view Beginning(std::string_view sql) {
+    std::size_t shown = 300;
+    if (sql.size() <= shown) return sql;
+    while ((sql[shown] & 0xC0) == 0x80) --shown;
+    return sql.substr(0, shown);
+}
+
 }  // namespace
 
-void OdbcConnection::Free::operator()(void* handle) const { SQLFreeHandle(type, handle); }
+void OdbcConnection::Free::operator()(void* handle) const {
+    if (type == SQL_HANDLE_DBC) SQLDisconnect(handle);  // One that is connected is not freed.
+    SQLFreeHandle(type, handle);
+}
 void FreeStatement::operator()(void* handle) const { SQLFreeHandle(SQL_HANDLE_STMT, handle); }
 
 OdbcConnection::Handle OdbcConnection::NewHandle(short type, void* parent) {
@@ -47,15 +59,14 @@ OdbcConnection::OdbcConnection(const std::string& connection_string, OdbcAccess 
     if (std::getenv("PGCONNECT_TIMEOUT") == nullptr)
         SQLSetConnectAttrW(connection_.get(), SQL_ATTR_LOGIN_TIMEOUT, AsPointer(kLoginSeconds),
                            SQL_IS_UINTEGER);
-    auto text = ToUtf16(connection_string);
+    auto text = ToUtf16(WithOwnSettings(connection_string));
     const auto result = SQLDriverConnectW(connection_.get(), nullptr, text.data(), SQL_NTS, nullptr,
                                           0, nullptr, SQL_DRIVER_NOPROMPT);
     if (!SQL_SUCCEEDED(result))
         RaiseOdbc("The database cannot be opened: " +
                   Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
-    connected_ = true;
     is_postgres_ = FindPostgres();
-    if (is_postgres_) LimitWaits();
+    if (is_postgres_) PreparePostgres();
     if (access == OdbcAccess::kRead) OnlyRead();
     SwitchAutocommit(false);
 }
@@ -75,42 +86,36 @@ bool OdbcConnection::FindPostgres() const {
            std::string_view(reinterpret_cast<const char*>(name.data())) == "PostgreSQL";
 }
 
-// A limit of the database or the user stays.
-void OdbcConnection::LimitWaits() const {
+// A limit of the database or the user stays. Text literals are read and written for the one rule.
+void OdbcConnection::PreparePostgres() const {
+    Execute("SET standard_conforming_strings = on");
     Execute(
         "SELECT set_config('lock_timeout', '30s', false) WHERE current_setting('lock_timeout') = "
         "'0'");
-}
-
-OdbcConnection::~OdbcConnection() {
-    if (!connected_) return;
-    Rollback();
-    SQLDisconnect(connection_.get());
 }
 
 void OdbcConnection::SwitchAutocommit(bool on) const {
     const auto value = AsPointer(on ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF);
     if (!SQL_SUCCEEDED(
             SQLSetConnectAttrW(connection_.get(), SQL_ATTR_AUTOCOMMIT, value, SQL_IS_UINTEGER)))
-        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
+        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()));
 }
 
-void* OdbcConnection::NewStatement() const {
+OdbcStatementHandle OdbcConnection::NewStatement() const {
     SQLHANDLE handle = nullptr;
     if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_STMT, connection_.get(), &handle)))
-        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
-    return handle;
+        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()));
+    return OdbcStatementHandle(handle);
 }
 
 OdbcStatementHandle OdbcConnection::Ran(std::string_view sql) const {
-    OdbcStatementHandle statement(NewStatement());
+    OdbcStatementHandle statement = NewStatement();
     auto text = ToUtf16(sql);
     const OdbcWatch::Guard guard(watch_, statement.get());
     const auto result = SQLExecDirectW(statement.get(), text.data(), SQL_NTS);
     if (SQL_SUCCEEDED(result) || result == SQL_NO_DATA) return statement;
-    constexpr std::size_t kShown = 300;
-    if (watch_.Cancelled()) RaiseOdbc(kCancelled, sql.substr(0, kShown));
-    RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), sql.substr(0, kShown));
+    if (watch_.Cancelled()) RaiseOdbc(kCancelled, Beginning(sql));
+    RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()), Beginning(sql));
 }
 
 void OdbcConnection::Execute(std::string_view sql) const { Ran(sql); }
@@ -118,15 +123,15 @@ void OdbcConnection::Execute(std::string_view sql) const { Ran(sql); }
 std::vector<std::int64_t> OdbcConnection::Numbers(std::string_view query) const {
     const auto statement = Ran(query);
     SQLSMALLINT count = 0;
-    SQLNumResultCols(statement.get(), &count);
+    bool read = SQL_SUCCEEDED(SQLNumResultCols(statement.get(), &count)) &&
+                SQL_SUCCEEDED(SQLFetch(statement.get()));
     std::vector<std::int64_t> numbers(static_cast<std::size_t>(count));
-    bool read = SQL_SUCCEEDED(SQLFetch(statement.get()));
     for (std::size_t i = 0; read && i < numbers.size(); ++i) {
         SQLLEN length = 0;
         read = SQL_SUCCEEDED(SQLGetData(statement.get(), static_cast<SQLUSMALLINT>(i + 1),
                                         SQL_C_SBIGINT, &numbers[i], sizeof numbers[i], &length));
     }
-    if (!read) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), query);
+    if (!read) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()), query);
     return numbers;
 }
 
@@ -137,13 +142,13 @@ std::string OdbcConnection::ShortText(std::string_view query) const {
     if (!SQL_SUCCEEDED(SQLFetch(statement.get())) ||
         !SQL_SUCCEEDED(
             SQLGetData(statement.get(), 1, SQL_C_WCHAR, text.data(), sizeof text, &length)))
-        RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()).Describe(), query);
+        RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()), query);
     return ToUtf8(text.data());
 }
 
 void OdbcConnection::Commit() const {
     if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_COMMIT)))
-        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()).Describe());
+        RaiseOdbc(Diagnose(SQL_HANDLE_DBC, connection_.get()));
 }
 
 bool OdbcConnection::Rollback() const noexcept {

@@ -19,21 +19,21 @@ struct FreeStatement {
 };
 using OdbcStatementHandle = std::unique_ptr<void, FreeStatement>;
 
-/// An open connection. Everything runs in a transaction, which `EndTransaction` closes. For one
+/// An open connection. Everything runs in a transaction, which `Commit` or `Rollback` ends. For one
 /// thread at a time.
 class OdbcConnection {
   public:
+    /// The string is completed by the settings that the drivers rest on (connection_string.h).
     /// Raises error 3709 when there is no driver, no server or no right to enter. Messages show
     /// nothing of the string.
     /// `watch`, which must outlive the connection, interrupts statements.
     OdbcConnection(const std::string& connection_string, OdbcAccess access, OdbcWatch& watch);
-    ~OdbcConnection();
+    ~OdbcConnection() { Rollback(); }
     OdbcConnection(const OdbcConnection&) = delete;
     OdbcConnection& operator=(const OdbcConnection&) = delete;
 
     bool IsPostgres() const { return is_postgres_; }
-    /// A new statement handle, to be freed by who asked for it.
-    void* NewStatement() const;
+    OdbcStatementHandle NewStatement() const;
     /// Runs a statement without rows; raises error 3709 when it fails.
     void Execute(std::string_view sql) const;
     /// The whole numbers in the first row of a query; null is 0.
@@ -56,13 +56,12 @@ class OdbcConnection {
     static Handle NewHandle(short type, void* parent);
     void SwitchAutocommit(bool on) const;
     bool FindPostgres() const;
-    void LimitWaits() const;
+    void PreparePostgres() const;
     void OnlyRead() const;
     OdbcStatementHandle Ran(std::string_view sql) const;
 
     OdbcWatch& watch_;
     Handle environment_, connection_;
-    bool connected_ = false;
     bool is_postgres_ = false;
 };
 

@@ -4,10 +4,11 @@
 #include <sqlext.h>
 #include <sqlucode.h>
 
+#include <algorithm>
 #include <array>
 
 #include "drivers/odbc/utf16.h"
-#include "host/error.h"
+#include "drivers/query_error.h"
 
 namespace varnel::drivers {
 
@@ -29,6 +30,9 @@ constexpr Advice kAdvice[] = {
     {"55P03", "",
      "A table is locked by somebody else: try again when they are done, or raise lock_timeout."},
     {"42883", "", "Is the database prepared for reports (docs/databases.md)?"},
+    {"25P03", "",
+     "The server ends transactions that rest (idle_in_transaction_session_timeout): take the "
+     "rows up faster, into a file for one, or raise that limit."},
     {"53300", "", "Try again when others have left, or raise the server's limit."},
     {"57P01", "", "The server was shut down: try again when it is back."},
     {"IM002", "", "Name an installed driver or data source; \"odbcinst -q -d\" lists drivers."},
@@ -67,14 +71,34 @@ std::string Tidied(std::string message) {
     return message;
 }
 
-}  // namespace
+/// An unknown function, feature or setting: PostgreSQL's protocol has speakers that lack some.
+constexpr std::string_view kNotSupported[] = {"42883", "0A000", "42704"};
 
-void RaiseOdbc(const std::string& description) {
-    throw Error(error_number::kDatabase, "ODBC", description);
+QueryFault FaultOf(const OdbcDiagnosis& diagnosis) {
+    if (diagnosis.state == "42P01") return QueryFault::kMissingTable;
+    const bool not_supported =
+        std::ranges::find(kNotSupported, diagnosis.state) != std::end(kNotSupported);
+    return not_supported ? QueryFault::kNotSupported : QueryFault::kOther;
 }
 
+[[noreturn]] void Raise(const std::string& description, QueryFault fault) {
+    throw QueryError("ODBC", description, fault);
+}
+
+std::string WithStatement(const std::string& description, std::string_view statement) {
+    return description + "\nStatement: " + std::string(statement);
+}
+
+}  // namespace
+
+void RaiseOdbc(const std::string& description) { Raise(description, QueryFault::kOther); }
+void RaiseOdbc(const OdbcDiagnosis& diagnosis) { Raise(diagnosis.Describe(), FaultOf(diagnosis)); }
+
 void RaiseOdbc(const std::string& description, std::string_view statement) {
-    RaiseOdbc(description + "\nStatement: " + std::string(statement));
+    RaiseOdbc(WithStatement(description, statement));
+}
+void RaiseOdbc(const OdbcDiagnosis& diagnosis, std::string_view statement) {
+    Raise(WithStatement(diagnosis.Describe(), statement), FaultOf(diagnosis));
 }
 
 std::string OdbcDiagnosis::Describe() const {

@@ -5,12 +5,6 @@
 
 namespace varnel::drivers {
 
-/// Raises error 3709 of source "ODBC".
-[[noreturn]] void RaiseOdbc(const std::string& description);
-
-/// The same for a statement, which ends the description on a line of its own.
-[[noreturn]] void RaiseOdbc(const std::string& description, std::string_view statement);
-
 /// What the driver says about the last failure at a handle.
 struct OdbcDiagnosis {
     std::string state;    ///< SQLSTATE, five characters.
@@ -19,6 +13,14 @@ struct OdbcDiagnosis {
     /// The message with its SQLSTATE as a sentence, and what to do about it where that is known.
     std::string Describe() const;
 };
+
+/// Raises error 3709 of source "ODBC" (query_error.h).
+[[noreturn]] void RaiseOdbc(const std::string& description);
+[[noreturn]] void RaiseOdbc(const OdbcDiagnosis& diagnosis);
+
+/// The same for a statement, which ends the description on a line of its own.
+[[noreturn]] void RaiseOdbc(const std::string& description, std::string_view statement);
+[[noreturn]] void RaiseOdbc(const OdbcDiagnosis& diagnosis, std::string_view statement);
 
 /// `type` and `handle` as the driver manager knows them.
 OdbcDiagnosis Diagnose(short type, void* handle);

@@ -79,7 +79,7 @@ void OdbcParameters::Bind(const Variant& value) {
     const auto result = SQLBindParameter(statement_, number, SQL_PARAM_INPUT, slot.c_type,
                                          slot.sql_type, slot.size, slot.decimals, slot.bytes.data(),
                                          static_cast<SQLLEN>(slot.bytes.size()), &slot.length);
-    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement_).Describe(), text_);
+    if (!SQL_SUCCEEDED(result)) RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement_), text_);
 }
 
 }  // namespace varnel::drivers

@@ -2,13 +2,9 @@
 
 #include <algorithm>
 
-#include "drivers/odbc/connection_string.h"
-
 namespace varnel::drivers {
 
 namespace {
-
-constexpr std::size_t kMostIdle = 4;
 
 // A connection that has rested longer may have been lost: a question costs less than a failure.
 constexpr std::chrono::seconds kShortRest{1};
@@ -24,8 +20,7 @@ std::unique_ptr<OdbcConnection> OdbcPool::TakeAny(const std::string& connection_
         if (Clock::now() - idle.since < kShortRest || idle.connection->Responds())
             return std::move(idle.connection);
     }
-    return std::make_unique<OdbcConnection>(WithReadingSettings(connection_string),
-                                            OdbcAccess::kRead, watch_);
+    return std::make_unique<OdbcConnection>(connection_string, OdbcAccess::kRead, watch_);
 }
 
 std::unique_ptr<OdbcConnection> OdbcPool::Take(const std::string& connection_string) {

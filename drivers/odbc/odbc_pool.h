@@ -16,7 +16,9 @@ namespace varnel::drivers {
 /// Connections that no row set is using.
 class OdbcPool {
   public:
-    explicit OdbcPool(std::function<bool()> cancelled) : watch_(std::move(cancelled)) {}
+    explicit OdbcPool(std::function<bool()> cancelled) : watch_(std::move(cancelled)) {
+        idle_.reserve(kMostIdle);  // Giving one back does not fail.
+    }
 
     /// A connection that reads; within a snapshot, as of that.
     std::unique_ptr<OdbcConnection> Take(const std::string& connection_string);
@@ -30,6 +32,7 @@ class OdbcPool {
     OdbcWatch& Watch() { return watch_; }
 
   private:
+    static constexpr std::size_t kMostIdle = 4;
     using Clock = std::chrono::steady_clock;
     struct Idle {
         std::string connection_string;

@@ -20,11 +20,18 @@ constexpr SQLULEN kBlockRows = 250;
 // connection is lost while rows come in. A portion is what it holds in memory.
 constexpr std::size_t kPortionRows = 5'000;
 constexpr const char* kDeclareCursor = "DECLARE varnel_rows NO SCROLL CURSOR FOR ";
-constexpr const char* kFetchPortion = "FETCH FORWARD 5000 FROM varnel_rows";
+const std::string kFetchPortion =
+    "FETCH FORWARD " + std::to_string(kPortionRows) + " FROM varnel_rows";
 
-void SetAttribute(void* statement, SQLINTEGER attribute, SQLULEN value) {
-    const auto pointer = reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
-    SQLSetStmtAttrW(statement, attribute, pointer, SQL_IS_UINTEGER);
+SQLPOINTER AsPointer(SQLULEN value) {
+    return reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
+}
+
+/// The watch looks at the statement for no longer than the call.
+template <class Call>
+SQLRETURN Watched(OdbcWatch& watch, void* statement, Call call) {
+    const OdbcWatch::Guard guard(watch, statement);
+    return call();
 }
 
 std::string CheckedText(const OdbcQuery& query) {
@@ -36,13 +43,14 @@ std::string CheckedText(const OdbcQuery& query) {
 
 }  // namespace
 
-OdbcResult::OdbcResult(const OdbcQuery& query) : query_(query) {
+OdbcResult::OdbcResult(const OdbcQuery& query) : query_(query), row_states_(kBlockRows) {
     const std::string text = CheckedText(query);
     connection_ = query.pool->Take(query.connection_string);
-    statement_.reset(connection_->NewStatement());
-    SetAttribute(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, static_cast<SQLULEN>(query.timeout));
-    SetAttribute(statement_.get(), SQL_ATTR_ROW_ARRAY_SIZE, kBlockRows);
-    SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROWS_FETCHED_PTR, &rows_, 0);
+    statement_ = connection_->NewStatement();
+    Set(SQL_ATTR_QUERY_TIMEOUT, AsPointer(static_cast<SQLULEN>(query.timeout)));
+    Set(SQL_ATTR_ROW_ARRAY_SIZE, AsPointer(kBlockRows));
+    Set(SQL_ATTR_ROWS_FETCHED_PTR, &rows_);
+    Set(SQL_ATTR_ROW_STATUS_PTR, row_states_.data());
     Execute(text);
     Describe();
 }
@@ -52,10 +60,15 @@ OdbcResult::~OdbcResult() {
     if (connection_ != nullptr) query_.pool->Give(query_.connection_string, std::move(connection_));
 }
 
+void OdbcResult::Set(int attribute, void* value) {
+    if (!SQL_SUCCEEDED(SQLSetStmtAttrW(statement_.get(), attribute, value, SQL_IS_POINTER))) Fail();
+}
+
 void OdbcResult::Run(const std::string& text) {
     auto wide_text = ToUtf16(text);
-    const OdbcWatch::Guard guard(query_.pool->Watch(), statement_.get());
-    const auto result = SQLExecDirectW(statement_.get(), wide_text.data(), SQL_NTS);
+    const auto result = Watched(query_.pool->Watch(), statement_.get(), [&] {
+        return SQLExecDirectW(statement_.get(), wide_text.data(), SQL_NTS);
+    });
     if (!SQL_SUCCEEDED(result) && result != SQL_NO_DATA) Fail();
 }
 
@@ -75,7 +88,7 @@ void OdbcResult::FetchPortion() {
 
 void OdbcResult::Describe() {
     SQLSMALLINT count = 0;
-    SQLNumResultCols(statement_.get(), &count);
+    if (!SQL_SUCCEEDED(SQLNumResultCols(statement_.get(), &count))) Fail();
     if (count == 0) RaiseOdbc("The statement gives no rows: a query was expected.", query_.text);
     columns_.reserve(static_cast<std::size_t>(count));
     for (SQLUSMALLINT number = 1; number <= count; ++number) {
@@ -97,8 +110,8 @@ Columns OdbcResult::ReadColumns() const {
 bool OdbcResult::FetchRows() {
     next_ = 0;
     rows_ = 0;
-    const OdbcWatch::Guard guard(query_.pool->Watch(), statement_.get());
-    const auto result = SQLFetch(statement_.get());
+    const auto result =
+        Watched(query_.pool->Watch(), statement_.get(), [&] { return SQLFetch(statement_.get()); });
     if (!SQL_SUCCEEDED(result) && result != SQL_NO_DATA) Fail();
     if (result == SQL_NO_DATA) rows_ = 0;
     portion_ += rows_;
@@ -114,6 +127,7 @@ bool OdbcResult::FetchBlock() {
 
 bool OdbcResult::Read(Row& row) {
     if (next_ == rows_ && !FetchBlock()) return false;
+    if (row_states_[next_] == SQL_ROW_ERROR) Fail();
     row.Start(columns_.size());
     for (const auto& column : columns_) ReadCell(column, row);
     ++next_;
@@ -121,7 +135,10 @@ bool OdbcResult::Read(Row& row) {
 }
 
 void OdbcResult::ReadCell(const OdbcColumn& column, Row& row) {
-    if (!column.IsCut(next_)) return column.Read(next_, text_, row);
+    if (!column.IsCut(next_)) {
+        if (!column.Read(next_, text_, row)) Fail(column.Unreadable(next_));
+        return;
+    }
     const auto position = static_cast<SQLSETPOSIROW>(next_ + 1);
     const auto moved = SQLSetPos(statement_.get(), position, SQL_POSITION, SQL_LOCK_NO_CHANGE);
     if (!SQL_SUCCEEDED(moved) || !column.ReadLong(statement_.get(), text_)) Fail();
@@ -134,13 +151,18 @@ void OdbcResult::Fail() {
         diagnosis.state == "57014" || diagnosis.state == "HYT00" || diagnosis.state == "HY008";
     if (stopped && query_.pool->Watch().Cancelled()) Fail(kCancelled);
     if (stopped && query_.timeout > 0) Fail(TimeLimitReached(query_.timeout));
-    Fail(diagnosis.Describe());
+    LeaveConnection();
+    RaiseOdbc(diagnosis, query_.text);
 }
 
 void OdbcResult::Fail(const std::string& description) {
+    LeaveConnection();
+    RaiseOdbc(description, query_.text);
+}
+
+void OdbcResult::LeaveConnection() {
     statement_.reset();
     connection_.reset();
-    RaiseOdbc(description, query_.text);
 }
 
 }  // namespace varnel::drivers

@@ -43,6 +43,8 @@ class OdbcResult {
     void Describe();
     bool FetchBlock();
     void ReadCell(const OdbcColumn& column, Row& row);
+    void Set(int attribute, void* value);
+    void LeaveConnection();
     [[noreturn]] void Fail();
     [[noreturn]] void Fail(const std::string& description);
 
@@ -53,7 +55,8 @@ class OdbcResult {
     bool in_portions_ = false;
     std::size_t portion_ = 0;  // Rows of it that were fetched.
     unsigned long rows_ = 0;   // Of the block that is here.
-    std::size_t next_ = 0;     // In it.
+    std::vector<unsigned short> row_states_;
+    std::size_t next_ = 0;  // In it.
     std::string text_;
 };
 

@@ -23,11 +23,11 @@ OdbcWatch::~OdbcWatch() {
 }
 
 // The thread sleeps through quick statements: nothing wakes it before the next look.
-void OdbcWatch::Begin(void* statement) {
+void OdbcWatch::Watch(void* statement) {
     if (!cancelled_) return;
     const std::lock_guard lock(mutex_);
-    statement_ = statement;
     if (!thread_.joinable()) thread_ = std::thread([this] { Look(); });
+    statement_ = statement;
 }
 
 void OdbcWatch::Look() {

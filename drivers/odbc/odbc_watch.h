@@ -10,6 +10,7 @@ namespace varnel::drivers {
 /// Interrupts a statement that waits for its database when the program says so.
 class OdbcWatch {
   public:
+    /// `cancelled`, which may be empty, is asked by two threads at once and must not throw.
     explicit OdbcWatch(std::function<bool()> cancelled) : cancelled_(std::move(cancelled)) {}
     ~OdbcWatch();
     OdbcWatch(const OdbcWatch&) = delete;
@@ -20,8 +21,8 @@ class OdbcWatch {
     /// While it lives the statement is watched; one at a time.
     class Guard {
       public:
-        Guard(OdbcWatch& watch, void* statement) : watch_(watch) { watch_.Begin(statement); }
-        ~Guard() { watch_.Begin(nullptr); }
+        Guard(OdbcWatch& watch, void* statement) : watch_(watch) { watch_.Watch(statement); }
+        ~Guard() { watch_.Watch(nullptr); }
         Guard(const Guard&) = delete;
         Guard& operator=(const Guard&) = delete;
 
@@ -30,7 +31,7 @@ class OdbcWatch {
     };
 
   private:
-    void Begin(void* statement);
+    void Watch(void* statement);
     void Look();
 
     std::function<bool()> cancelled_;

@@ -22,10 +22,57 @@ bool BeginsReading(std::string_view word) {
                                [word](auto start) { return SameName(start, word); });
 }
 
+/// A quoted name or a literal, binary ones too, has its end: every quote in it has another.
+bool IsWhole(const SqlToken& token) {
+    const char quote = token.kind == SqlTokenKind::kName ? '"' : '\'';
+    return token.kind == SqlTokenKind::kOperator || std::ranges::count(token.text, quote) % 2 == 0;
+}
+
+bool EndsInE(std::string_view text) { return text.ends_with('E') || text.ends_with('e'); }
+
+/// What stands between two words: comments that end, hold no other, and are all on one line.
+bool IsPlainBlank(std::string_view blank) {
+    while (!blank.empty()) {
+        const bool block = blank.starts_with("/*");
+        const bool line = blank.starts_with("--");
+        const auto end = block ? blank.find("*/", 2) : line ? blank.find('\n') : 0;
+        const auto comment = blank.substr(0, end);
+        if (block && (end == blank.npos || comment.find("/*", 2) != blank.npos)) return false;
+        if (line && comment.find('\r') != blank.npos) return false;
+        if (end == blank.npos) return true;
+        blank.remove_prefix(block ? end + 2 : end + 1);
+    }
+    return true;
+}
+
+/// Whether every database takes the token, which comes after `before`, for what it is here.
+bool ReadsAlike(const SqlToken& token, const SqlToken& before) {
+    const bool escapes =
+        token.kind == SqlTokenKind::kText && token.blank.empty() && EndsInE(before.text);
+    const bool dollar =
+        token.kind == SqlTokenKind::kValue && token.text.find('$') != token.text.npos;
+    const bool odd_name = token.text.starts_with('[') || token.text.starts_with('`');
+    return !escapes && !dollar && !odd_name && IsWhole(token) && IsPlainBlank(token.blank);
+}
+
+void RequireOneReading(const std::vector<SqlToken>& tokens, const std::string& text) {
+    SqlToken before;
+    for (const auto& token : tokens) {
+        if (!ReadsAlike(token, before))
+            RaiseOdbc("Databases read the query differently from \"" +
+                          std::string(token.text.substr(0, 20)) +
+                          "\" on: write texts as '…' and names as \"…\", each with its end, "
+                          "without comments.",
+                      text);
+        before = token;
+    }
+}
+
 }  // namespace
 
 OneQuery FindQuery(const std::string& text) {
     const auto tokens = TokenizeSql(text);
+    RequireOneReading(tokens, text);
     const auto first = std::ranges::find_if(tokens, IsStatement);
     if (first == tokens.end()) RaiseOdbc(kNoStatement, text);
     if (!BeginsReading(first->text))

@@ -11,8 +11,10 @@ struct OneQuery {
     std::size_t parameters = 0;
 };
 
-/// Raises an error when the text is no statement, more than one, or begins like one that does more
-/// than read. What a reading statement may do beyond that is for the read-only session to refuse.
+/// Raises an error when the text is no statement, more than one, begins like one that does more
+/// than read, or holds what databases do not all read alike (E'…', $…$, […], `…`, a comment in a
+/// comment, a literal without an end): there a second statement could hide. What a reading
+/// statement may do beyond that is for the read-only session to refuse.
 OneQuery FindQuery(const std::string& text);
 
 }  // namespace varnel::drivers

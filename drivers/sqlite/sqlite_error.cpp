@@ -2,17 +2,19 @@
 
 #include <sqlite3.h>
 
-#include "host/error.h"
+#include "drivers/query_error.h"
 
 namespace varnel::drivers {
 
 namespace {
 
+constexpr const char* kNoSuchTable = "no such table";
+
 std::string Advice(int code, std::string_view message, const std::string& path) {
     const std::string file = "\"" + path + "\"";
     switch (code & 0xFF) {
         case SQLITE_ERROR:
-            if (message.starts_with("no such table"))
+            if (message.starts_with(kNoSuchTable))
                 return "The database " + file + " lacks it: is it a company database?";
             if (message.starts_with("no such column"))
                 return "No table of the query has it: check the filter, and that " + file +
@@ -41,7 +43,9 @@ std::string Advice(int code, std::string_view message, const std::string& path) 
 }  // namespace
 
 void RaiseSqlite(const std::string& description) {
-    throw Error(error_number::kDatabase, "SQLite", description);
+    const bool missing = description.starts_with(kNoSuchTable);
+    throw QueryError("SQLite", description,
+                     missing ? QueryFault::kMissingTable : QueryFault::kOther);
 }
 
 void RaiseSqlite(const std::string& description, std::string_view statement) {

@@ -35,7 +35,8 @@ void OdbcFixture::Prepare(const std::string& script) {
 
 std::string OdbcFixture::ConnectionString() {
     return "Driver={PostgreSQL Unicode};Server=" + ServerFolder() +
-           ";Database=postgres;UID=varnel;ConnSettings={SET search_path TO " + schema_ + "};";
+           ";Database=postgres;UID=varnel;ConnSettings={SET search_path TO " + schema_ +
+           "; SET application_name TO " + schema_ + "};";
 }
 
 }  // namespace varnel::drivers

@@ -138,6 +138,61 @@ TEST_F(OdbcReading, ASessionStaysReadOnly) {
     EXPECT_EQ(database_->Value("SELECT current_setting('transaction_read_only')"), "on");
 }
 
+/// As one database reads these they are a query with a text, as PostgreSQL does they are more.
+TEST_F(OdbcReading, NoSecondStatementHidesInAQuery) {
+    database_->Prepare("CREATE TABLE T (Id INTEGER NOT NULL); INSERT INTO T VALUES (1);");
+    const std::string attack = "; COMMIT; BEGIN READ WRITE; DELETE FROM T; COMMIT; --'";
+    for (const char* start :
+         {"E'\\''", "e'\\''", "1E'\\''", "$$'$$", "1$$'$$", "$a$'$a$", "1 /* /* */ ' */",
+          "1 --\r '\n", "ARRAY[']']", "`'`", "\"x", "1 /* x"}) {
+        const std::string text = "SELECT " + std::string(start) + attack;
+        EXPECT_NE(database_->Failure(text).Number(), 0) << text;
+        EXPECT_EQ(database_->Value("SELECT COUNT(*) FROM T"), "1") << text;
+    }
+    database_->Prepare("ALTER DATABASE postgres SET standard_conforming_strings = off");
+    OdbcConnections connections;
+    const auto query = NewOdbcCommand(connections);
+    query->SetActiveConnection(database_->ConnectionString());
+    query->SetText("SELECT '\\' AS Backslash, 'it''s \"so', 1 AS \"it's\" /* ' */ -- '\n FROM T");
+    const auto rows = query->Execute(Command::kOptionsUnspecified);
+    database_->Prepare("ALTER DATABASE postgres RESET standard_conforming_strings");
+    EXPECT_EQ(rows->Current().Text({0}), "\\");
+    EXPECT_EQ(rows->Current().Text({1}), "it's \"so");
+}
+
+TEST_F(OdbcReading, DatesThatReportsDoNotKnowAreErrors) {
+    EXPECT_EQ(database_->Query("SELECT DATE '0099-12-31'")->Current().Day({0}).ToIso(),
+              "0099-12-31");
+    for (const std::string date : {"infinity", "-infinity", "12025-03-15"})
+        EXPECT_THAT(database_->Failure("SELECT DATE '" + date + "' AS Day").what(),
+                    HasSubstr("Column \"day\" holds"));
+}
+
+TEST_F(OdbcReading, ASnapshotThatWasLostIsTold) {
+    const auto held = database_->HoldSnapshot();
+    database_->Query("SELECT 1");
+    database_->Prepare(
+        "SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE pid <> pg_backend_pid() "
+        "AND application_name = current_setting('application_name') "
+        "AND query LIKE '%SET LOCAL idle_in_transaction%'");
+    EXPECT_THAT(database_->Failure("SELECT 1").what(), HasSubstr("was lost: run it again"));
+}
+
+TEST_F(OdbcReading, ASnapshotOutlivesALimitOnRest) {
+    const std::string string = database_->ConnectionString() + "ConnSettings={";
+    OdbcConnections connections;
+    const auto held = connections.HoldSnapshot();
+    const auto count = [&] {
+        const auto query = NewOdbcCommand(connections);
+        query->SetActiveConnection(string + "SET idle_in_transaction_session_timeout = 100}");
+        query->SetText("SELECT 1");
+        return query->Execute(Command::kOptionsUnspecified)->Current().Integer({0});
+    };
+    EXPECT_EQ(count(), 1);
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_EQ(count(), 1);
+}
+
 TEST_F(OdbcReading, ACancelledQueryEnds) {
     const auto start = std::chrono::steady_clock::now();
     OdbcConnections connections(

@@ -29,8 +29,8 @@ TEST(ConnectionString, IsRefusedWithoutItsValuesBeingShown) {
     }
 }
 
-TEST(ConnectionString, HasTheSettingsThatReadingRestsOnWhateverItSays) {
-    EXPECT_EQ(WithReadingSettings("DSN=shop;boolsaschar=1;UseDeclareFetch=1;keepalivetime=5"),
+TEST(ConnectionString, HasTheSettingsThatTheDriversRestOnWhateverItSays) {
+    EXPECT_EQ(WithOwnSettings("DSN=shop;boolsaschar=1;UseDeclareFetch=1;keepalivetime=5"),
               "DSN=shop;keepalivetime=5;UseDeclareFetch=0;BoolsAsChar=0;KeepaliveInterval=10;");
 }
 
