@@ -30,7 +30,7 @@ TEST(CompanyAddress, WithAPasswordIsRefusedUnseen) {
     for (const char* text :
          {"postgresql://ann:tulip@db/shop", "postgresql://db/x?password=tulip",
           "Driver={X};pwd=tulip", "DSN=x;PASSWORD={tulip}", "UID=u;PWD=tulip;Driver={X}",
-          " Driver ={X};PWD=tulip", "host=db password=tulip"}) {
+          " Driver ={X};PWD=tulip", "host=db password=tulip", "DSN=x;pqopt={ password = tulip}"}) {
         try {
             ParseCompanyAddress(text);
             ADD_FAILURE() << text;
@@ -39,6 +39,10 @@ TEST(CompanyAddress, WithAPasswordIsRefusedUnseen) {
             EXPECT_THAT(error.what(), testing::Not(testing::HasSubstr("tulip")));
         }
     }
+}
+
+TEST(CompanyAddress, WithAZeroIsRefused) {
+    EXPECT_THROW(ParseCompanyAddress("postgresql://ann@db/shop%00x"), Error);
 }
 
 TEST(CompanyAddress, OfAnotherSchemeIsRefusedUnseen) {
