@@ -16,6 +16,9 @@ DETAIL = ["run", "trial-balance-detail", "--from", "2024-01-01", "--company"]
 PLACE = r"in Varnel\.\w+\.\w+ at line [1-9]\d*\n"
 # A condition that is true and takes a millisecond a row.
 SLOW = "pg_sleep(0.001) IS NOT NULL"
+# The rows of such a report: the look for tables before it is over at once.
+LONG_FETCH = ("state = 'active' AND query LIKE '%FETCH FORWARD%' AND "
+              "query_start < clock_timestamp() - interval '50 ms'")
 
 
 class Failures(ServerTest):
@@ -38,14 +41,6 @@ class Failures(ServerTest):
     def run_to_file(self, report, company, *arguments):
         return ["run", report, "--company", company, "-O", "csv", "-o", "out.csv", *arguments]
 
-    def wait_for_sessions(self, condition):
-        for _ in range(200):
-            if self.sql("SELECT count(*) FROM pg_stat_activity WHERE datname = "
-                        f"'{self.database}' AND pid <> pg_backend_pid() AND {condition}") != "0":
-                return
-            time.sleep(0.05)
-        self.fail("the report never began")
-
     def assert_ends_without_a_file(self, process, message):
         _, errors = process.communicate(timeout=30)
         self.assertIn(process.returncode, (FAILED, MESSAGES), errors)
@@ -58,7 +53,7 @@ class Failures(ServerTest):
         for delay in (0, 0.2, 0.5):
             process = self.start(*self.run_to_file("general-journal", self.server, "--filter",
                                                    f"{SLOW}|GLDet.InGLDetId"))
-            self.wait_for_sessions("query LIKE '%FETCH%'")
+            self.wait_for_sessions(LONG_FETCH)
             time.sleep(delay)
             self.sql("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = "
                      f"'{self.database}' AND pid <> pg_backend_pid()")
@@ -98,11 +93,13 @@ class Failures(ServerTest):
     def locked(self, table):
         session = subprocess.Popen(["psql", "-h", SERVER, "-U", "varnel", "-q", self.database],
                                    stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, text=True)
-        session.stdin.write(f"BEGIN; LOCK TABLE {table} IN ACCESS EXCLUSIVE MODE;\n")
-        session.stdin.flush()
-        self.wait_for_sessions("state = 'idle in transaction'")
-        yield
-        session.communicate("ROLLBACK;\n")
+        try:
+            session.stdin.write(f"BEGIN; LOCK TABLE {table} IN ACCESS EXCLUSIVE MODE;\n")
+            session.stdin.flush()
+            self.wait_for_sessions("state = 'idle in transaction'")
+            yield
+        finally:
+            session.communicate("ROLLBACK;\n")
 
     def test_a_table_that_somebody_locks_is_waited_for_a_while(self):
         self.sql(f"ALTER DATABASE {self.database} SET lock_timeout = '300ms'")

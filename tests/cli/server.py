@@ -4,6 +4,7 @@ import os
 import pathlib
 import sqlite3
 import subprocess
+import time
 import unittest
 
 from varnel import VarnelTest
@@ -34,6 +35,18 @@ class ServerTest(VarnelTest):
                                "-v", "ON_ERROR_STOP=1", "-qtAc", statement],
                               check=True, capture_output=True, text=True)
         return done.stdout.strip()
+
+    def wait_until(self, happened):
+        for _ in range(400):
+            if happened():
+                return
+            time.sleep(0.025)
+        self.fail("what was waited for never happened")
+
+    def wait_for_sessions(self, condition):
+        self.wait_until(lambda: self.sql(
+            "SELECT count(*) FROM pg_stat_activity WHERE datname = "
+            f"'{self.database}' AND pid <> pg_backend_pid() AND {condition}") != "0")
 
     @classmethod
     def copy(cls, source, target, *options):
