@@ -22,6 +22,7 @@ void Check(SQLRETURN result, const char* what) {
 class Connection {
   public:
     explicit Connection(std::string address) {
+        if (!address.ends_with(';')) address += ';';
         address += "UseDeclareFetch=1;Fetch=5000;";
         SQLAllocHandle(SQL_HANDLE_ENV, nullptr, &environment_);
         SQLSetEnvAttr(environment_, SQL_ATTR_ODBC_VERSION, Number(SQL_OV_ODBC3), 0);
@@ -76,7 +77,10 @@ std::int64_t FetchRows(const std::string& odbc_connection, const std::string& st
         SQLBindCol(handle, static_cast<SQLUSMALLINT>(i + 1), SQL_C_CHAR, columns[i].values.data(),
                    kWidth, columns[i].lengths.data());
     std::int64_t rows = 0;
-    while (SQL_SUCCEEDED(SQLFetch(handle))) rows += static_cast<std::int64_t>(fetched);
+    for (SQLRETURN result = SQLFetch(handle); result != SQL_NO_DATA; result = SQLFetch(handle)) {
+        Check(result, "fetching rows");
+        rows += static_cast<std::int64_t>(fetched);
+    }
     return rows;
 }
 
