@@ -51,6 +51,15 @@ TEST(UnrealizedDetailFiguresTest, ForeignAmountsHaveTheDecimalsOfTheirCurrencyHo
     EXPECT_EQ(FooterFigures(bands, "Closing"), "1,500 1,900.00 2,058.75 158.75");
 }
 
+TEST(UnrealizedDetailFiguresTest, ACompanyOfOneCurrencyNeedsNoRate) {
+    DetailRun run;
+    run.host->company.currency_info.records.resize(1);
+    run.Designer().Put("ExCurrencyId", 1);
+    const auto bands = run({Line("100", "130")});
+    EXPECT_THAT(DetailFigures(bands), ElementsAre("100.00 130.00 130.00 0.00"));
+    EXPECT_THAT(run.host->message_boxes, testing::IsEmpty());
+}
+
 std::string In(const std::string& procedure) {
     return "\r\nin Varnel.dsrUnRealExchProfitlossDetail." + procedure + " at line ";
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "tests/journal/journal_run.h"
+#include "tests/support/collected_rows.h"
 #include "tests/support/picking_tool.h"
 
 namespace varnel::test {
@@ -94,6 +95,28 @@ TEST(GeneralLedgerTest, ATypeWithoutACaptionIsToldAndItsLinesPrint) {
     EXPECT_THAT(run.host->message_boxes[0], HasSubstr("AccountTypes.Caption, failed"));
     EXPECT_THAT(bands.Texts("Detail", "txtDebit"), ElementsAre("10.00", ""));
     EXPECT_THAT(bands.Texts("ReportFooter", "txtDebitGrandTotal"), ElementsAre("10.00"));
+}
+
+TEST(GeneralLedgerTest, GivesAComparisonAllThatALineHasByItsId) {
+    JournalRun run = LedgerRun();
+    const auto sink = std::make_shared<CollectedRows>();
+    dynamic_cast<IComparableReport&>(*run.report).IComparableReport_ComparableReportGen(sink);
+    run.report->IReport_DisplayForeignCurrency(true);
+    auto dollars = Amount("-135.50", 4), bare = Amount("5", 7);
+    dollars.currency_id = 2;
+    dollars.currency_code = "USD";
+    dollars.foreign = Currency::FromWhole(-100);
+    dollars.remarks = "Late";
+    dollars.project_id = 3;
+    dollars.project = "P3";
+    bare.date = Variant::Null{};
+    run({dollars, bare});
+    EXPECT_THAT(sink->told,
+                ElementsAre("1: entry=4|source=GJ|date=2025-01-15|account=1000|description=Rent|"
+                            "reference=R-1|project=P3|remarks=Late|foreign=-100.0000|currency=USD|"
+                            "amount=-135.5000|PurgeIncl=False",
+                            "2: entry=7|source=GJ|account=1000|description=Rent|reference=R-1|"
+                            "project=|remarks=|amount=5.0000|PurgeIncl=False"));
 }
 
 }  // namespace

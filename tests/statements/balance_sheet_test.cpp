@@ -75,6 +75,14 @@ TEST(SheetBalanceTest, IsDoubtedToTheCentUnderASegmentFilterOnly) {
     }
 }
 
+TEST(SheetBalanceTest, IsNotDoubtedForASectionThatIsNoneOfASheet) {
+    StatementRun run = SmallSheet("-80");
+    run.chart.insert(run.chart.begin() + 1, {9'010, 9});
+    run.Post(9'010, "2024-05-01", "10");
+    run.FilterSegments("3");
+    EXPECT_EQ(Closing(run()), "2672|");
+}
+
 TEST(SheetBalanceTest, ADoubtDoesNotOutliveItsRun) {
     StatementRun run = SmallSheet("-69.99");
     run.FilterSegments("3");

@@ -29,9 +29,10 @@ std::int32_t MemoryCurrencyInfo::UnrealizedGainLossAcctId() {
     return unrealized_account_id;
 }
 
-void MemoryCurrencyInfo::ConfigureExchangeRates(IExchangeRates& target, Date date, bool,
-                                                std::span<const std::string>) {
+void MemoryCurrencyInfo::ConfigureExchangeRates(IExchangeRates& target, Date date,
+                                                bool use_rate_table, std::span<const std::string>) {
     calls_.Note("ConfigureExchangeRates");
+    if (!use_rate_table) return;  // Rates that it has had already stay.
     const auto rates = std::make_shared<RateCollection>();
     for (const auto& record : records) {
         const auto& noted = rate_table[record.id];

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/support/collected_rows.h"
 #include "tests/trial/trial_run.h"
 
@@ -9,6 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 std::shared_ptr<CollectedRows> CompareWith(TrialRun& run) {
     const auto sink = std::make_shared<CollectedRows>();
@@ -59,6 +62,21 @@ TEST(ComparableTrialTest, TheDetailGivesAGroupForEachAccountItPrintsWithForwardA
                     "4: entry=4|source=INV|date=2025-02-03|description=Sale|"
                     "foreign=-100.0000|currency=USD|debit=|credit=130.0000|PurgeIncl=True",
                     "end"));
+}
+
+TEST(ComparableTrialTest, LinesOfAnAccountWithoutAForwardHaveAGroupToo) {
+    TrialRun plain = Posted(DetailRun()), run = Posted(DetailRun());
+    CompareWith(plain);
+    const auto sink = CompareWith(run);
+    plain();
+    const auto& names = plain.host->calls.Names();
+    const auto forward = std::find(names.begin(), names.end(), "AccountBalance") - names.begin();
+    run.host->calls.FailAt(static_cast<int>(forward) + 1);
+    run();
+    EXPECT_THAT(run.host->message_boxes, ElementsAre(HasSubstr("AccountBalance, failed")));
+    EXPECT_THAT(sink->told, ElementsAre("begin 1010 1010 Account 1010", StartsWith("2:"),
+                                        StartsWith("3:"), "end", StartsWith("begin 1030"),
+                                        StartsWith("forward:"), StartsWith("4:"), "end"));
 }
 
 // Wherever it fails: at the begin or end of a group, at a row.

@@ -78,6 +78,20 @@ TEST(TrialHeaderTest, RatesAreNotedWhenTheyRevalueInGifiWheneverThereAreAny) {
     }
 }
 
+TEST(TrialFooterTest, ItemAdjustmentsAreNotedInThatModeOnly) {
+    for (auto* make : {SummaryRun, PlainDetailRun, GifiRun, LedgerRun}) {
+        TrialRun run = make();
+        run.chart = {{1'010}};
+        run.Post(1'010, "2025-02-15", "5");
+        run.host->company.settings["ItemAdjustGL"] = "True";
+        run.host->company.item_adjustment_start = run.to;
+        EXPECT_THAT(Shown(run(), "PageFooter", {"lblWarningInvMaj"}),
+                    ElementsAre("12802 Orvotech (date 2025-03-31)"));
+        run.host->company.settings["ItemAdjustGL"] = "False";
+        EXPECT_THAT(Shown(run(), "PageFooter", {"lblWarningInvMaj"}), testing::Each(std::string()));
+    }
+}
+
 TEST(TrialHeaderTest, TheDetailsAdjustingBlockReadsLikeAnAccount) {
     TrialRun run = DetailRun();
     run.chart = {{1'010}};
