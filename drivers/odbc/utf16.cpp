@@ -49,6 +49,18 @@ void AppendCharacter(char32_t character, std::string& out) {
     }
 }
 
+/// Appends the characters before the first that is not ASCII, of which most texts have none.
+std::size_t AppendAscii(std::span<const unsigned short> utf16, std::string& out) {
+    const auto start = out.size();
+    out.resize(start + utf16.size());
+    char* const bytes = out.data() + start;
+    std::size_t length = 0;
+    for (; length < utf16.size() && utf16[length] < 0x80; ++length)
+        bytes[length] = static_cast<char>(utf16[length]);
+    out.resize(start + length);
+    return length;
+}
+
 bool IsHighHalf(char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 bool IsLowHalf(char32_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
@@ -71,7 +83,7 @@ WideText ToUtf16(std::string_view utf8) {
 }
 
 void AppendUtf8(std::span<const unsigned short> utf16, std::string& out) {
-    for (std::size_t i = 0; i < utf16.size(); ++i) {
+    for (std::size_t i = AppendAscii(utf16, out); i < utf16.size(); ++i) {
         char32_t character = utf16[i];
         if (IsHighHalf(character) && i + 1 < utf16.size() && IsLowHalf(utf16[i + 1]))
             character = 0x10000 + ((character & 0x3FF) << 10 | (utf16[++i] & 0x3FF));
