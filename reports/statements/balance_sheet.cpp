@@ -65,6 +65,7 @@ dsrBalanceSheet::dsrBalanceSheet(const Layout& layout, std::int16_t title_text,
 
 void dsrBalanceSheet::SetLines(Lines lines) {
     lines_ = std::move(lines);
+    scopes_.resize(lines_.row.AmountCount());
     SetRowLine(lines_.row);
 }
 
@@ -79,6 +80,7 @@ void dsrBalanceSheet::ActiveReport_ReportStart() {
         for (Sides* sides : {&adjustment_, &difference_, &liabilities_and_equity_}) sides->Lose();
         Levels().Lose();
         out_of_balance_ = false;
+        scopes_.assign(lines_.row.AmountCount(), std::nullopt);
         const auto adjustments_from = (Mark(), InitGLtAjust(App()));
         scopes_.clear();
         for (const auto& date : ClosingDates())

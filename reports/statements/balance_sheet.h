@@ -66,7 +66,7 @@ class dsrBalanceSheet : public StatementReport {
     void ReportFooter_Format();
 
     std::string_view selected_columns_;
-    std::vector<std::optional<BalanceScope>> scopes_;
+    std::vector<std::optional<BalanceScope>> scopes_;  // One an amount.
     Column currency_id_;
     std::optional<ControlAccounts> control_accounts_;
     std::int32_t home_currency_id_ = 0;

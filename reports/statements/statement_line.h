@@ -35,6 +35,7 @@ class StatementLine {
     /// The key of all amounts but what they are compared with, which has one of its own.
     void SetTags(std::string_view tag, std::string_view comparison_tag);
 
+    std::size_t AmountCount() const { return controls_.amounts.size(); }
     /// Where the figures stand, in order.
     std::vector<Box> Columns() const;
 

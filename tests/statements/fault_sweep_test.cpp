@@ -57,10 +57,11 @@ StatementRun SheetOf(StatementRun run) {
     run.Post(3'010, "2024-01-10", "-5");
     run.HaveFiscalYears({{Date::ParseIso("2024-01-01"), Date::ParseIso("2024-12-31")}});
     run.host->company.account_params["CustGLAR"] = 1'200;
-    return RunBefore(std::move(run));
+    return run;
 }
 
-StatementRun ComparativeSheet() { return SheetOf(ComparativeSheetRun()); }
+StatementRun NewSheet() { return SheetOf(ComparativeSheetRun()); }
+StatementRun ComparativeSheet() { return RunBefore(NewSheet()); }
 
 /// Of a balance sheet, what its segments lack alone.
 struct AdjustedRun : StatementRun {
@@ -106,6 +107,7 @@ TEST(StatementFaultSweepTest, OfTheBalanceSheetsShowsRightFiguresOrNone) {
          {"txtTypeTotal", "txtTypeTotalComp", "txtTypeTotalDoll", "lblTypeTotalDiff"}},
         {"ReportFooter",
          {"txtTotalPassCap", "txtTotalPassCapComp", "txtTotalPassCapDoll", "lblTotalPassCapDiff"}}};
+    SweepFaults({kPrintedBySheets, figures}, NewSheet);
     const auto right = SweepFaults({kPrintedBySheets, figures}, ComparativeSheet);
     // 30 + 120 + 3.80, which 110 USD booked at 132 have gained; 5 + 0.35 a year before.
     EXPECT_THAT(Shown(right, "ReportFooter",
