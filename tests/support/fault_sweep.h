@@ -80,6 +80,7 @@ CollectedBands SweepFaults(const Swept& swept, Make make) {
     auto untroubled = make();
     const auto right = RunFailing(untroubled, 0).value();
     EXPECT_THAT(untroubled.host->message_boxes, testing::IsEmpty());
+    if (testing::Test::HasFailure()) return right;  // The sweep ends at a run that tells nothing.
     int k = 1;
     for (;; ++k) {
         SCOPED_TRACE("host call " + std::to_string(k));
