@@ -5,6 +5,7 @@
 #include <map>
 
 #include "cli/commands/command.h"
+#include "cli/company_argument.h"
 #include "cli/describe_failure.h"
 #include "cli/errors.h"
 #include "cli/interrupt.h"
@@ -60,6 +61,7 @@ void RefuseExtras(const CLI::App& app) {
     for (const auto& extra : extras)
         if (extra.starts_with('-') && extra != "-" && extra != "--") RefuseOption(app, extra);
     if (extras.empty()) return;
+    CheckCompany("unexpected argument", extras.front());  // Its password is not to be shown.
     if (app.get_parent() == nullptr) RefuseCommand(app, extras.front());
     throw UsageError("unexpected argument: " + extras.front() + SeeHelp(app));
 }

@@ -18,6 +18,10 @@ void CheckCompany(std::string_view option, const std::string& company) {
 
 void CheckNewCompany(std::string_view option, const std::string& company, bool overwrite) {
     CheckCompany(option, company);
+    if (company == "-")
+        throw UsageError(
+            std::string(option) +
+            ": a company goes to a file, not to standard output; name one, as shop.db");
     std::error_code ignored;
     if (!overwrite && std::filesystem::exists(company, ignored))
         throw Failure(company +

@@ -83,6 +83,8 @@ REFUSED = [
     ([*JOURNAL, "-o", "journal.docx"], "the ending of journal.docx tells no format"),
     ([*JOURNAL, "-O", "csv", "-o", "./shop.db"], "./shop.db is the company itself"),
     (["demo"], "say where the demo company goes"),
+    (["demo", "-"], "demo: a company goes to a file, not to standard output"),
+    (["copy", "shop.db", "-"], "copy: a company goes to a file, not to standard output"),
     (["demo", "new.db", "--lines", "10"], "from 1,000 to 100,000,000 ledger lines"),
     (["demo", "new.db", "--lines", "many"], "--lines: many is no number; write it in digits"),
     (["completion", "zsh"], "there is no shell zsh"),

@@ -117,19 +117,23 @@ class Databases(ServerTest):
     def test_a_password_is_refused_and_never_shown(self):
         for company in ("postgresql://varnel:tulip@/shop", "postgresql:///shop?password=tulip",
                         "Driver={PostgreSQL Unicode};PWD=tulip", "DSN=shop; Password = {tulip}",
-                        "DSN=shop;pqopt={password=tulip}"):
-            for arguments in (["run", "general-journal", "--company", company], ["demo", company]):
+                        "DSN=shop;pqopt={password=tulip}", "ReadOnly=1;PWD=tulip;UID=v",
+                        "postgresql:varnel:tulip@/shop", "varnel:tulip@localhost/shop"):
+            for arguments in (["run", "general-journal", "--company", company], ["demo", company],
+                              ["demo", "new.db", company], ["copy", "shop.db", company]):
                 with self.subTest(arguments=arguments):
                     self.assert_refused(USAGE, "PGPASSWORD", *arguments)
                     self.assertNotIn("tulip", self.run_varnel(*arguments)[2])
+                    self.assertEqual([], [*self.folder.glob("*tulip*"), *self.folder.glob("new*")])
 
     def test_a_server_or_database_that_is_not_there_is_told(self):
         for company, message in (
                 (f"postgresql://varnel@/absent?host={SERVER}", '"absent" does not exist'),
                 ("postgresql://varnel@/shop?host=/nowhere", "Check the address of the server"),
                 ("Driver={No Such Driver};Server=x", "odbcinst -q -d"),
-                ("postgresql://varnel@/shop?colour=red", 'sets "colour"')):
-            code = USAGE if "colour" in company else FAILED
+                ("postgresql://varnel@/shop?colour=red", 'sets "colour"'),
+                ("postgresql://varnel@/shop?sslmode=maybe", "the sslmode in the address")):
+            code = USAGE if "?" in company and "host" not in company else FAILED
             self.assert_refused(code, message, "run", "general-journal", "--company", company,
                                 "-o", "out.csv")
 
