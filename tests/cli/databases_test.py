@@ -19,9 +19,11 @@ LISTS = {"general-journal", "general-ledger", "general-ledger-by-account",
          "trial-balance-detail"}
 OTHER_FILTERS = {"unrealized-exchange", "unrealized-exchange-detail", "realized-exchange"}
 # Lines that are equal in all that the report sorts by come as each database likes, and so does the
-# balance that runs from one of them to the next.
+# balance that runs from one of them to the next; their dates come in one order all the same.
 RUNNING = re.compile(rb'"(txtBalance|lblBalanceType)":\{[^}]*\},?')
-WITH_EQUALS = {"trial-balance-detail", "realized-exchange"}
+DATE = re.compile(rb'"txt(?:Det|Pmt)?Date":\{"text":"([^"]+)')
+WITH_EQUALS = {"trial-balance-detail", "realized-exchange", "bank-reconciliation",
+               "unrealized-exchange-detail"}
 
 
 def first_difference(expected, actual):
@@ -60,9 +62,11 @@ class Databases(ServerTest):
                 yield [*needed, *variant]
         if "--history" in options:
             yield ["--history", "3"]
+            yield ["--history", "1", "--option", "chkIncludeReconciledAmnt=yes"]
 
     def assert_same(self, name, expected, actual, place):
         if name in WITH_EQUALS:
+            self.assertEqual(DATE.findall(expected[1]), DATE.findall(actual[1]), place)
             expected, actual = ((code, sorted(RUNNING.sub(b"", output).splitlines()), errors)
                                 for code, output, errors in (expected, actual))
         self.assertTrue(expected == actual, f"{place}: {first_difference(expected, actual)}")
