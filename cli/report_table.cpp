@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "cli/company_argument.h"
 #include "cli/cumulative_period.h"
 #include "cli/errors.h"
 #include "cli/nearest_name.h"
@@ -113,6 +114,7 @@ constexpr const char* kSeeReports = "\"varnel reports\" lists the reports";
 [[noreturn]] void RefuseUnknown(std::string_view name) {
     std::vector<std::string_view> names;
     for (const auto& entry : kReports) names.push_back(entry.name);
+    CheckCompany("run", std::string(name));  // Its password is not to be shown.
     throw UsageError("there is no report " + std::string(name) + DidYouMean(name, names) + "\n" +
                      kSeeReports);
 }

@@ -124,7 +124,8 @@ class Databases(ServerTest):
                         "DSN=shop;pqopt={password=tulip}", "ReadOnly=1;PWD=tulip;UID=v",
                         "postgresql:varnel:tulip@/shop", "varnel:tulip@localhost/shop"):
             for arguments in (["run", "general-journal", "--company", company], ["demo", company],
-                              ["demo", "new.db", company], ["copy", "shop.db", company]):
+                              ["demo", "new.db", company], ["copy", "shop.db", company],
+                              ["run", company]):
                 with self.subTest(arguments=arguments):
                     self.assert_refused(USAGE, "PGPASSWORD", *arguments)
                     self.assertNotIn("tulip", self.run_varnel(*arguments)[2])
