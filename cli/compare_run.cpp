@@ -74,12 +74,11 @@ bool RunInto(std::shared_ptr<ComparableReportSink> sink, const PreparedReport& p
              const engine::DocumentInfo& info, DroppedBands& bands, Console& console) {
     dynamic_cast<IComparableReport&>(*prepared.report)
         .IComparableReport_ComparableReportGen(std::move(sink));
-    RunMonitor monitor(console, prepared.host->Messages());
+    RunMonitor monitor(console, *prepared.host);
     auto& report = *prepared.report->IReport_ReportDesigner();
     const auto result =
         TellingPlace("RunInto", [&] { return engine::RunToBands(report, info, bands, &monitor); });
-    if (result.cancelled) throw Interrupted();
-    return !monitor.StartFailed(result);
+    return monitor.IsOfUse(result);
 }
 
 /// A side of the comparison: a run as it was asked for.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 #include "cli/company_argument.h"
 #include "cli/configure_options.h"
@@ -75,6 +76,16 @@ void UseRates(company::CompanyHost& host, const RunSettings& settings) {
     }
 }
 
+/// Of the loss of a database one message tells all.
+struct ToldLoss {
+    const CompanyDatabase* database = nullptr;
+    bool told = false;
+
+    bool IsOldNews() {
+        return database != nullptr && database->IsLost() && std::exchange(told, true);
+    }
+};
+
 /// A file that is not there has a sentence that says all.
 std::shared_ptr<company::CompanyHost> Open(const std::string& address,
                                            const company::HostOptions& options) {
@@ -90,14 +101,16 @@ std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
     options.language = settings.language;
     options.session_date = settings.session_date;
     options.database_type = settings.database_type;
-    // After a signal queries end in errors that are no news.
-    options.message_sink = [&log](const std::string& text) {
-        if (StopSignal() == 0) log.Add(text);
+    // After a signal queries end in errors that are no news, and so they do after a loss.
+    const auto loss = std::make_shared<ToldLoss>();
+    options.message_sink = [&log, loss](const std::string& text) {
+        if (StopSignal() == 0 && !loss->IsOldNews()) log.Add(text);
     };
     options.cancelled = [] { return StopSignal() != 0; };
     options.missing_text = [&log](std::int16_t number) { log.AddMissingText(number); };
     options.dialogs = std::move(dialogs);
     auto host = Open(request.company, options);
+    loss->database = &host->Database();
     UseRates(*host, settings);
     SetRunningHost(host);
     return host;
@@ -157,10 +170,12 @@ PreparedReport PrepareReport(const ReportEntry& entry, const RunRequest& request
     const auto host = OpenHost(request, settings, log, dialogs);
     const auto report = MakeReport(entry, entry.arguments(settings, *host));
     if (report == nullptr) return {host, nullptr};
-    PutSubject(*report, entry, *host, request);
-    PutCumulativePeriod(*report, entry, host->CurrentCompany(), settings);
-    ConfigureReport(*report, host, request, settings);
-    PutReconciliation(*report, entry, *host, request, settings);
+    TellingPlace("PrepareReport", [&] {
+        PutSubject(*report, entry, *host, request);
+        PutCumulativePeriod(*report, entry, host->CurrentCompany(), settings);
+        ConfigureReport(*report, host, request, settings);
+        PutReconciliation(*report, entry, *host, request, settings);
+    });
     auto* const config = dynamic_cast<IReportConfig*>(report.get());
     if (config != nullptr && log.Count() == told_before)
         ConfigureOptions(*config, *dialogs, settings.options, request.configure);
@@ -179,19 +194,18 @@ int RunReport(const RunRequest& request, Console& console) {
     if (report == nullptr) return Conclude(log, false, console);
 
     OutputFile output(request.output.empty() ? "-" : request.output);
-    RunMonitor monitor(console, host->Messages());
+    RunMonitor monitor(console, *host);
     const auto info = InfoOf(*report, *host, settings.language);
     auto& designer = *report->IReport_ReportDesigner();
     const auto layout = LayoutOf(request, settings);
     const auto result = TellingPlace(
         "RunReport", [&] { return format.write(designer, info, layout, output, monitor); });
-    if (result.cancelled) throw Interrupted();
-    const bool written = !monitor.StartFailed(result);
-    if (written)
-        output.Commit();
-    else
-        PointAtFilter(entry, request.filter, console);
-    return Conclude(log, written, console);
+    const bool written = monitor.IsOfUse(result);
+    const bool lost = host->Database().IsLost();
+    if (written) output.Commit();
+    if (!written && !lost) PointAtFilter(entry, request.filter, console);
+    const int code = Conclude(log, written, console);
+    return lost ? kFailed : code;
 }
 
 }  // namespace varnel::cli

@@ -1,5 +1,6 @@
 #include "cli/run_monitor.h"
 
+#include "cli/errors.h"
 #include "cli/interrupt.h"
 
 namespace varnel::cli {
@@ -10,7 +11,13 @@ bool RunMonitor::Report(std::int64_t rows, int pages) {
         if (pages > 0) text += ", " + GroupedCount(pages) + " pages";
         console_.ShowProgress(text);
     }
-    return StopSignal() == 0;
+    return StopSignal() == 0 && !host_.Database().IsLost();
+}
+
+bool RunMonitor::IsOfUse(const engine::RunResult& result) const {
+    if (host_.Database().IsLost()) return false;
+    if (result.cancelled) throw Interrupted();
+    return !StartFailed(result);
 }
 
 }  // namespace varnel::cli

@@ -26,6 +26,7 @@ class OdbcCompanyDatabase final : public CompanyDatabase {
     int DatabaseType() override { return database_type_; }
     std::shared_ptr<Command> NewCommand() override { return drivers::NewOdbcCommand(connections_); }
     std::shared_ptr<void> HoldSnapshot() override { return connections_.HoldSnapshot(); }
+    bool IsLost() const override { return connections_.IsLost(); }
 
   private:
     static constexpr int kServer = 0;

@@ -58,6 +58,9 @@ class CompanyDatabase {
     /// report holds it for a run, so that its figures agree though somebody posts meanwhile. Where
     /// the database cannot do that nothing changes. What prevents it comes out of the first query.
     virtual std::shared_ptr<void> HoldSnapshot() { return nullptr; }
+    /// True when the database went away while the last snapshot was held: figures of that run are
+    /// missing.
+    virtual bool IsLost() const { return false; }
     /// The host's parameter binder: appends the values to the command in order.
     virtual void BindParameters(Command& command, std::span<const Variant> parameters) {
         for (const auto& parameter : parameters) command.AppendParameter(parameter);

@@ -22,6 +22,10 @@ class OdbcColumn {
     /// Has the driver put its values here from now on.
     bool Bind(void* statement, std::size_t rows);
 
+    /// How long the value is, all of it.
+    std::size_t Bytes(std::size_t row) const {
+        return lengths_[row] > 0 ? static_cast<std::size_t>(lengths_[row]) : 0;
+    }
     /// True when the value was longer than its place, so that its beginning alone is here.
     bool IsCut(std::size_t row) const;
     /// Adds the value to the row; false when it is none that reports know. `text` is room for

@@ -11,6 +11,7 @@
 #include "drivers/odbc/odbc_error.h"
 #include "drivers/odbc/odbc_watch.h"
 #include "drivers/odbc/utf16.h"
+#include "drivers/query_error.h"
 #include "drivers/query_faults.h"
 #include "host/error.h"
 
@@ -92,6 +93,12 @@ void OdbcConnection::PreparePostgres() const {
     Execute(
         "SELECT set_config('lock_timeout', '30s', false) WHERE current_setting('lock_timeout') = "
         "'0'");
+    try {
+        // Of a program that ended the server notices it while a query is at work.
+        Execute("SET client_connection_check_interval = '5s'");
+    } catch (const QueryError&) {
+        // An older server, or one on a system that cannot tell.
+    }
 }
 
 void OdbcConnection::SwitchAutocommit(bool on) const {

@@ -16,6 +16,8 @@ std::shared_ptr<void> OdbcConnections::HoldSnapshot() {
     return held;
 }
 
+bool OdbcConnections::IsLost() const { return pool_->IsLost(); }
+
 std::shared_ptr<Command> NewOdbcCommand(OdbcConnections& connections) {
     return std::make_shared<OdbcCommand>(connections.Pool());
 }

@@ -25,6 +25,10 @@ class OdbcConnections {
     /// of them, whoever writes meanwhile; on PostgreSQL, elsewhere nothing changes.
     std::shared_ptr<void> HoldSnapshot();
 
+    /// Whether a connection was lost, or none could be made, while the last snapshot was held.
+    /// Until it goes, queries then end at once with the same error.
+    bool IsLost() const;
+
     const std::shared_ptr<OdbcPool>& Pool() const { return pool_; }
 
   private:

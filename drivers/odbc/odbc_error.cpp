@@ -34,12 +34,17 @@ constexpr Advice kAdvice[] = {
      "The server ends transactions that rest (idle_in_transaction_session_timeout): take the "
      "rows up faster, into a file for one, or raise that limit."},
     {"53300", "", "Try again when others have left, or raise the server's limit."},
-    {"57P01", "", "The server was shut down: try again when it is back."},
+    {"57P01", "",
+     "The server was shut down, or somebody ended the session: try again when it is back."},
     {"IM002", "", "Name an installed driver or data source; \"odbcinst -q -d\" lists drivers."},
     {"01000", "Can't open lib", "Name an installed driver; \"odbcinst -q -d\" lists them."},
     {"08001", "password",
      "Give the password by PGPASSWORD, a password file (PGPASSFILE) or the "
      "ODBC data source."},
+    {"08001", "too many",
+     "A report needs up to four connections: try again when others have left, or have the limit "
+     "raised."},
+    {"08001", "connection slots", "Try again when others have left, or have the limit raised."},
     {"08001", "does not exist", "Check the names of the database and of the user."},
     {"08001", "", "Check the address of the server, and that it is running."},
     {"08003", "", "The connection was lost: check that the server is running."},
@@ -99,6 +104,10 @@ void RaiseOdbc(const std::string& description, std::string_view statement) {
 }
 void RaiseOdbc(const OdbcDiagnosis& diagnosis, std::string_view statement) {
     Raise(WithStatement(diagnosis.Describe(), statement), FaultOf(diagnosis));
+}
+
+bool OdbcDiagnosis::IsLoss() const {
+    return state.starts_with("08") || state.starts_with("57P") || state == "25P03";
 }
 
 std::string OdbcDiagnosis::Describe() const {

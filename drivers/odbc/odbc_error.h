@@ -10,6 +10,8 @@ struct OdbcDiagnosis {
     std::string state;    ///< SQLSTATE, five characters.
     std::string message;  ///< Of the database, on one line, without a full stop.
 
+    /// The connection is gone: the server was lost, or has ended it.
+    bool IsLoss() const;
     /// The message with its SQLSTATE as a sentence, and what to do about it where that is known.
     std::string Describe() const;
 };

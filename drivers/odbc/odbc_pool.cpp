@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+#include "drivers/odbc/odbc_error.h"
+#include "drivers/query_faults.h"
+#include "host/error.h"
+
 namespace varnel::drivers {
 
 namespace {
@@ -23,12 +27,33 @@ std::unique_ptr<OdbcConnection> OdbcPool::TakeAny(const std::string& connection_
     return std::make_unique<OdbcConnection>(connection_string, OdbcAccess::kRead, watch_);
 }
 
-std::unique_ptr<OdbcConnection> OdbcPool::Take(const std::string& connection_string) {
-    if (in_snapshot_ && !snapshots_.contains(connection_string))
+std::unique_ptr<OdbcConnection> OdbcPool::TakeOfSnapshot(const std::string& connection_string) {
+    if (!snapshots_.contains(connection_string))
         snapshots_.emplace(connection_string, TakeAny(connection_string));
     auto connection = TakeAny(connection_string);
-    if (in_snapshot_) snapshots_.at(connection_string).Show(*connection);
+    snapshots_.at(connection_string).Show(*connection);
     return connection;
+}
+
+std::unique_ptr<OdbcConnection> OdbcPool::Take(const std::string& connection_string) {
+    if (watch_.Cancelled()) RaiseOdbc(kCancelled);
+    if (!in_snapshot_) return TakeAny(connection_string);
+    if (IsLost()) RaiseOdbc(loss_);
+    try {
+        return TakeOfSnapshot(connection_string);
+    } catch (const Error& error) {
+        Lose(error.Description());
+        throw;
+    }
+}
+
+void OdbcPool::BeginSnapshot() {
+    in_snapshot_ = true;
+    loss_.clear();
+}
+
+void OdbcPool::Lose(const std::string& description) {
+    if (in_snapshot_) loss_ = description;
 }
 
 void OdbcPool::Give(const std::string& connection_string,

@@ -26,8 +26,12 @@ class OdbcPool {
     void Give(const std::string& connection_string, std::unique_ptr<OdbcConnection> connection);
 
     /// From now on every connection reads as of the same moment, that of the first one taken.
-    void BeginSnapshot() { in_snapshot_ = true; }
+    void BeginSnapshot();
     void EndSnapshot();
+    /// Tells that a connection was lost. Within a snapshot none is given any more: each would be
+    /// waited for, and read of another moment.
+    void Lose(const std::string& description);
+    bool IsLost() const { return !loss_.empty(); }
 
     OdbcWatch& Watch() { return watch_; }
 
@@ -40,11 +44,13 @@ class OdbcPool {
         Clock::time_point since;
     };
 
+    std::unique_ptr<OdbcConnection> TakeOfSnapshot(const std::string& connection_string);
     std::unique_ptr<OdbcConnection> TakeAny(const std::string& connection_string);
 
     OdbcWatch watch_;  // Outlives the connections.
     std::vector<Idle> idle_;
     bool in_snapshot_ = false;
+    std::string loss_;                                            // What was said of it.
     std::map<std::string, OdbcSnapshot, std::less<>> snapshots_;  // By connection string.
 };
 

@@ -4,6 +4,8 @@
 #include <sqlext.h>
 #include <sqlucode.h>
 
+#include <algorithm>
+
 #include "drivers/odbc/odbc_error.h"
 #include "drivers/odbc/odbc_parameters.h"
 #include "drivers/odbc/one_query.h"
@@ -17,11 +19,12 @@ namespace {
 constexpr SQLULEN kBlockRows = 250;
 
 // The cursor is the driver's own business in UseDeclareFetch, but one that crashes when the
-// connection is lost while rows come in. A portion is what it holds in memory.
-constexpr std::size_t kPortionRows = 5'000;
+// connection is lost while rows come in. A portion is what it holds in memory: the fewer rows the
+// longer they are.
 constexpr const char* kDeclareCursor = "DECLARE varnel_rows NO SCROLL CURSOR FOR ";
-const std::string kFetchPortion =
-    "FETCH FORWARD " + std::to_string(kPortionRows) + " FROM varnel_rows";
+constexpr std::size_t kFirstRows = 100;
+constexpr std::size_t kMostRows = 5'000;
+constexpr std::size_t kPortionBytes = 4 * 1024 * 1024;
 
 SQLPOINTER AsPointer(SQLULEN value) {
     return reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
@@ -82,8 +85,12 @@ void OdbcResult::Execute(const std::string& text) {
 
 void OdbcResult::FetchPortion() {
     SQLFreeStmt(statement_.get(), SQL_CLOSE);
+    wanted_ = portion_ == 0
+                  ? kFirstRows
+                  : std::clamp(kPortionBytes * portion_ / (bytes_ + 1), std::size_t{1}, kMostRows);
     portion_ = 0;
-    Run(kFetchPortion);
+    bytes_ = 0;
+    Run("FETCH FORWARD " + std::to_string(wanted_) + " FROM varnel_rows");
 }
 
 void OdbcResult::Describe() {
@@ -120,7 +127,7 @@ bool OdbcResult::FetchRows() {
 
 bool OdbcResult::FetchBlock() {
     if (FetchRows()) return true;
-    if (!in_portions_ || portion_ < kPortionRows) return false;
+    if (!in_portions_ || portion_ < wanted_) return false;
     FetchPortion();
     return FetchRows();
 }
@@ -129,7 +136,10 @@ bool OdbcResult::Read(Row& row) {
     if (next_ == rows_ && !FetchBlock()) return false;
     if (row_states_[next_] == SQL_ROW_ERROR) Fail();
     row.Start(columns_.size());
-    for (const auto& column : columns_) ReadCell(column, row);
+    for (const auto& column : columns_) {
+        ReadCell(column, row);
+        bytes_ += column.Bytes(next_);
+    }
     ++next_;
     return true;
 }
@@ -151,6 +161,7 @@ void OdbcResult::Fail() {
         diagnosis.state == "57014" || diagnosis.state == "HYT00" || diagnosis.state == "HY008";
     if (stopped && query_.pool->Watch().Cancelled()) Fail(kCancelled);
     if (stopped && query_.timeout > 0) Fail(TimeLimitReached(query_.timeout));
+    if (diagnosis.IsLoss()) query_.pool->Lose(diagnosis.Describe());
     LeaveConnection();
     RaiseOdbc(diagnosis, query_.text);
 }

@@ -53,7 +53,9 @@ class OdbcResult {
     OdbcStatementHandle statement_;  // Goes before its connection.
     std::vector<OdbcColumn> columns_;
     bool in_portions_ = false;
-    std::size_t portion_ = 0;  // Rows of it that were fetched.
+    std::size_t wanted_ = 0;   // Rows of the portion.
+    std::size_t portion_ = 0;  // Of these, fetched so far.
+    std::size_t bytes_ = 0;    // What their values take.
     unsigned long rows_ = 0;   // Of the block that is here.
     std::vector<unsigned short> row_states_;
     std::size_t next_ = 0;  // In it.

@@ -137,6 +137,21 @@ class Failures(ServerTest):
             self.assert_told("Check the address", *self.run_to_file("general-journal", company),
                              env={"PGCONNECT_TIMEOUT": "2"})
 
+    def test_connections_that_run_out_in_the_middle_of_a_report(self):
+        self.sql("CREATE ROLE crowd_of_failures LOGIN; "
+                 "GRANT SELECT ON ALL TABLES IN SCHEMA public TO crowd_of_failures")
+        self.addCleanup(self.sql, "DROP OWNED BY crowd_of_failures; DROP ROLE crowd_of_failures")
+        company = self.server.replace("varnel@", "crowd_of_failures@")
+        for most in (1, 2, 3):
+            self.sql(f"ALTER ROLE crowd_of_failures CONNECTION LIMIT {most}")
+            for report in ("balance-sheet", "comparative-balance-sheet"):
+                arguments = self.run_to_file(report, company)
+                self.assert_told("up to four connections", *arguments)
+                self.assertNotIn("further messages", self.run_varnel(*arguments)[2])
+        self.sql("ALTER ROLE crowd_of_failures CONNECTION LIMIT 4")
+        self.assertEqual(0, self.run_varnel(*arguments)[0])
+        (self.folder / "out.csv").unlink()
+
     def test_a_login_that_is_refused(self):
         self.sql("CREATE ROLE guest_of_failures NOLOGIN")
         self.addCleanup(self.sql, "DROP ROLE guest_of_failures", "postgres")

@@ -20,6 +20,7 @@ class OdbcFixture final : public DriverFixture {
     std::shared_ptr<Command> NewCommand() override { return NewOdbcCommand(connections_); }
     std::string ConnectionString() override;
     std::shared_ptr<void> HoldSnapshot() { return connections_.HoldSnapshot(); }
+    bool IsLost() const { return connections_.IsLost(); }
 
   private:
     std::string schema_;

@@ -169,13 +169,21 @@ TEST_F(OdbcReading, DatesThatReportsDoNotKnowAreErrors) {
 }
 
 TEST_F(OdbcReading, ASnapshotThatWasLostIsTold) {
-    const auto held = database_->HoldSnapshot();
+    auto held = database_->HoldSnapshot();
     database_->Query("SELECT 1");
     database_->Prepare(
         "SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE pid <> pg_backend_pid() "
         "AND application_name = current_setting('application_name') "
         "AND query LIKE '%SET LOCAL idle_in_transaction%'");
+    EXPECT_FALSE(database_->IsLost());
     EXPECT_THAT(database_->Failure("SELECT 1").what(), HasSubstr("was lost: run it again"));
+    EXPECT_TRUE(database_->IsLost());
+    EXPECT_STREQ(database_->Failure("SELECT 2").what(), database_->Failure("SELECT 1").what());
+    held.reset();
+    EXPECT_EQ(database_->Value("SELECT 1"), "1");
+    held = database_->HoldSnapshot();
+    EXPECT_EQ(database_->Value("SELECT 1"), "1");
+    EXPECT_FALSE(database_->IsLost());
 }
 
 TEST_F(OdbcReading, ASnapshotOutlivesALimitOnRest) {
