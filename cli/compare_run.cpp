@@ -97,7 +97,7 @@ std::optional<std::string> Hold(const Side& side, const std::shared_ptr<HeldRows
     const auto info = InfoOf(*prepared.report, *prepared.host, side.settings.language);
     DroppedBands bands;
     if (!RunInto(rows, prepared, info, bands, side.console)) {
-        PointAtFilter(side.entry, side.request.filter, side.console);
+        if (!side.log.Lost()) PointAtFilter(side.entry, side.request.filter, side.console);
         return std::nullopt;
     }
     return About(info, side.settings);
@@ -115,7 +115,7 @@ int WriteChanges(const Side& side, HeldRows& rows, const std::string& about, Out
     if (written) {
         comparison->Finish(output);
         output.Commit();
-    } else {
+    } else if (!side.log.Lost()) {
         PointAtFilter(side.entry, side.request.filter, side.console);
     }
     return Conclude(side.log, written, side.console);

@@ -1,5 +1,7 @@
 #include "cli/message_log.h"
 
+#include <utility>
+
 namespace varnel::cli {
 
 namespace {
@@ -12,6 +14,10 @@ void MessageLog::Add(const std::string& text) {
     ++count_;
     if (count_ <= kShownInFull) console_.Say(text);
     if (count_ == kShownInFull + 1) console_.Say("further messages are counted but not shown");
+}
+
+void MessageLog::AddLoss(const std::string& text) {
+    if (!std::exchange(lost_, true)) Add(text);
 }
 
 void MessageLog::AddMissingText(std::int16_t number) {

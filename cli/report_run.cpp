@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
-#include <utility>
 
 #include "cli/company_argument.h"
 #include "cli/configure_options.h"
@@ -76,16 +75,6 @@ void UseRates(company::CompanyHost& host, const RunSettings& settings) {
     }
 }
 
-/// Of the loss of a database one message tells all.
-struct ToldLoss {
-    const CompanyDatabase* database = nullptr;
-    bool told = false;
-
-    bool IsOldNews() {
-        return database != nullptr && database->IsLost() && std::exchange(told, true);
-    }
-};
-
 /// A file that is not there has a sentence that says all.
 std::shared_ptr<company::CompanyHost> Open(const std::string& address,
                                            const company::HostOptions& options) {
@@ -101,16 +90,17 @@ std::shared_ptr<company::CompanyHost> OpenHost(const RunRequest& request,
     options.language = settings.language;
     options.session_date = settings.session_date;
     options.database_type = settings.database_type;
-    // After a signal queries end in errors that are no news, and so they do after a loss.
-    const auto loss = std::make_shared<ToldLoss>();
-    options.message_sink = [&log, loss](const std::string& text) {
-        if (StopSignal() == 0 && !loss->IsOldNews()) log.Add(text);
+    const auto database = std::make_shared<const CompanyDatabase*>(nullptr);
+    options.message_sink = [&log, database](const std::string& text) {
+        if (StopSignal() != 0) return;  // Queries end in errors that are no news.
+        if (*database != nullptr && (*database)->IsLost()) return log.AddLoss(text);
+        log.Add(text);
     };
     options.cancelled = [] { return StopSignal() != 0; };
     options.missing_text = [&log](std::int16_t number) { log.AddMissingText(number); };
     options.dialogs = std::move(dialogs);
     auto host = Open(request.company, options);
-    loss->database = &host->Database();
+    *database = &host->Database();
     UseRates(*host, settings);
     SetRunningHost(host);
     return host;
@@ -145,7 +135,7 @@ int Conclude(const MessageLog& log, bool written, Console& console) {
                        (log.Count() == 1 ? " message" : " messages");
     if (!written) text += "; nothing was written";
     console.Say(text);
-    return kMessagesShown;
+    return log.Lost() ? kFailed : kMessagesShown;
 }
 
 void PointAtFilter(const ReportEntry& entry, const std::string& filter, Console& console) {
@@ -198,14 +188,19 @@ int RunReport(const RunRequest& request, Console& console) {
     const auto info = InfoOf(*report, *host, settings.language);
     auto& designer = *report->IReport_ReportDesigner();
     const auto layout = LayoutOf(request, settings);
-    const auto result = TellingPlace(
-        "RunReport", [&] { return format.write(designer, info, layout, output, monitor); });
+    engine::RunResult result;
+    try {
+        result = TellingPlace(
+            "RunReport", [&] { return format.write(designer, info, layout, output, monitor); });
+    } catch (const Error&) {
+        if (!log.Lost()) throw;  // Otherwise it is told.
+    }
     const bool written = monitor.IsOfUse(result);
-    const bool lost = host->Database().IsLost();
-    if (written) output.Commit();
-    if (!written && !lost) PointAtFilter(entry, request.filter, console);
-    const int code = Conclude(log, written, console);
-    return lost ? kFailed : code;
+    if (written)
+        output.Commit();
+    else if (!log.Lost())
+        PointAtFilter(entry, request.filter, console);
+    return Conclude(log, written, console);
 }
 
 }  // namespace varnel::cli

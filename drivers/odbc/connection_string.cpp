@@ -76,7 +76,8 @@ std::string JoinConnectionString(const std::vector<ConnectionKeyword>& keywords)
 }
 
 std::string WithOwnSettings(std::string_view connection_string) {
-    static const ConnectionKeyword kNeeded[] = {{"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}};
+    static const ConnectionKeyword kNeeded[] = {
+        {"UseDeclareFetch", "0"}, {"BoolsAsChar", "0"}, {"UseServerSidePrepare", "1"}};
     static const ConnectionKeyword kUsual[] = {{"KeepaliveTime", "60"},
                                                {"KeepaliveInterval", "10"}};
     auto keywords = ParseConnectionString(connection_string);

@@ -28,7 +28,12 @@ bool IsWhole(const SqlToken& token) {
     return token.kind == SqlTokenKind::kOperator || std::ranges::count(token.text, quote) % 2 == 0;
 }
 
-bool EndsInE(std::string_view text) { return text.ends_with('E') || text.ends_with('e'); }
+/// A text right behind it is one with escapes: E'…', or what PostgreSQL takes apart before the E.
+bool MakesEscapes(const SqlToken& token) {
+    if (token.kind == SqlTokenKind::kWord) return SameName(token.text, "E");
+    return token.kind == SqlTokenKind::kValue &&
+           token.text.find_last_of("Ee") == token.text.size() - 1;
+}
 
 /// What stands between two words: comments that end, hold no other, and are all on one line.
 bool IsPlainBlank(std::string_view blank) {
@@ -36,9 +41,9 @@ bool IsPlainBlank(std::string_view blank) {
         const bool block = blank.starts_with("/*");
         const bool line = blank.starts_with("--");
         const auto end = block ? blank.find("*/", 2) : line ? blank.find('\n') : 0;
-        const auto comment = blank.substr(0, end);
-        if (block && (end == blank.npos || comment.find("/*", 2) != blank.npos)) return false;
-        if (line && comment.find('\r') != blank.npos) return false;
+        if (block && (end == blank.npos || blank.substr(2, end).find("/*") != blank.npos))
+            return false;
+        if (line && blank.substr(0, end).find('\r') != blank.npos) return false;
         if (end == blank.npos) return true;
         blank.remove_prefix(block ? end + 2 : end + 1);
     }
@@ -48,11 +53,13 @@ bool IsPlainBlank(std::string_view blank) {
 /// Whether every database takes the token, which comes after `before`, for what it is here.
 bool ReadsAlike(const SqlToken& token, const SqlToken& before) {
     const bool escapes =
-        token.kind == SqlTokenKind::kText && token.blank.empty() && EndsInE(before.text);
+        token.kind == SqlTokenKind::kText && token.blank.empty() && MakesEscapes(before);
     const bool dollar =
         token.kind == SqlTokenKind::kValue && token.text.find('$') != token.text.npos;
     const bool odd_name = token.text.starts_with('[') || token.text.starts_with('`');
-    return !escapes && !dollar && !odd_name && IsWhole(token) && IsPlainBlank(token.blank);
+    const bool rewritten = token.text == "{" || token.text == "}";  // By ODBC drivers.
+    return !escapes && !dollar && !odd_name && !rewritten && IsWhole(token) &&
+           IsPlainBlank(token.blank);
 }
 
 void RequireOneReading(const std::vector<SqlToken>& tokens, const std::string& text) {

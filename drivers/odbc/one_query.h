@@ -12,8 +12,8 @@ struct OneQuery {
 };
 
 /// Raises an error when the text is no statement, more than one, begins like one that does more
-/// than read, or holds what databases do not all read alike (E'…', $…$, […], `…`, a comment in a
-/// comment, a literal without an end): there a second statement could hide. What a reading
+/// than read, or holds what databases do not all read alike (E'…', $…$, […], `…`, {…}, a comment in
+/// a comment, a literal without an end): there a second statement could hide. What a reading
 /// statement may do beyond that is for the read-only session to refuse.
 OneQuery FindQuery(const std::string& text);
 

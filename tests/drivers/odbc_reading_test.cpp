@@ -142,9 +142,9 @@ TEST_F(OdbcReading, ASessionStaysReadOnly) {
 TEST_F(OdbcReading, NoSecondStatementHidesInAQuery) {
     database_->Prepare("CREATE TABLE T (Id INTEGER NOT NULL); INSERT INTO T VALUES (1);");
     const std::string attack = "; COMMIT; BEGIN READ WRITE; DELETE FROM T; COMMIT; --'";
-    for (const char* start :
-         {"E'\\''", "e'\\''", "1E'\\''", "$$'$$", "1$$'$$", "$a$'$a$", "1 /* /* */ ' */",
-          "1 --\r '\n", "ARRAY[']']", "`'`", "\"x", "1 /* x"}) {
+    for (const char* start : {"E'\\''", "e'\\''", "1E'\\''", "$$'$$", "1$$'$$", "$a$'$a$",
+                              "1 /* /* */ ' */", "1 --\r '\n", "ARRAY[']']", "`'`", "\"x", "1 /* x",
+                              "1 /*/*/ ' */", "1 -{d -'}\n", "1 /{d *'}*/"}) {
         const std::string text = "SELECT " + std::string(start) + attack;
         EXPECT_NE(database_->Failure(text).Number(), 0) << text;
         EXPECT_EQ(database_->Value("SELECT COUNT(*) FROM T"), "1") << text;
@@ -153,7 +153,9 @@ TEST_F(OdbcReading, NoSecondStatementHidesInAQuery) {
     OdbcConnections connections;
     const auto query = NewOdbcCommand(connections);
     query->SetActiveConnection(database_->ConnectionString());
-    query->SetText("SELECT '\\' AS Backslash, 'it''s \"so', 1 AS \"it's\" /* ' */ -- '\n FROM T");
+    query->SetText(
+        "SELECT '\\' AS Backslash, 'it''s \"so', 1 AS \"it's\" /* ' */ -- '\n FROM T WHERE 'e' "
+        "LIKE'%e%'");
     const auto rows = query->Execute(Command::kOptionsUnspecified);
     database_->Prepare("ALTER DATABASE postgres RESET standard_conforming_strings");
     EXPECT_EQ(rows->Current().Text({0}), "\\");

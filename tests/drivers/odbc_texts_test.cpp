@@ -31,7 +31,8 @@ TEST(ConnectionString, IsRefusedWithoutItsValuesBeingShown) {
 
 TEST(ConnectionString, HasTheSettingsThatTheDriversRestOnWhateverItSays) {
     EXPECT_EQ(WithOwnSettings("DSN=shop;boolsaschar=1;UseDeclareFetch=1;keepalivetime=5"),
-              "DSN=shop;keepalivetime=5;UseDeclareFetch=0;BoolsAsChar=0;KeepaliveInterval=10;");
+              "DSN=shop;keepalivetime=5;UseDeclareFetch=0;BoolsAsChar=0;UseServerSidePrepare=1;"
+              "KeepaliveInterval=10;");
 }
 
 TEST(OneQuery, IsSentFromItsFirstWordToItsLast) {
