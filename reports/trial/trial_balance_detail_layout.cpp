@@ -13,8 +13,8 @@ namespace {
 
 using namespace framework;
 
-constexpr auto kSeqNo = ColumnPlace::Left(0, 580);
-constexpr auto kSource = ColumnPlace::Left(620, 560);
+constexpr auto kSeqNo = ColumnPlace::Left(0, 620);
+constexpr auto kSource = ColumnPlace::Left(650, 550);
 constexpr auto kDate = ColumnPlace::Left(1'220, 980);
 constexpr auto kDescription = ColumnPlace::Left(2'260, 2'360, Stretch::kWiden);
 constexpr auto kForeign = ColumnPlace::Amount(4'680, 1'580);
