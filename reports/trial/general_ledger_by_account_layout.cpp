@@ -15,9 +15,9 @@ constexpr std::int16_t kCarriedForward = 30053;
 constexpr std::int16_t kBroughtForward = 30054;
 
 constexpr auto kDate = ColumnPlace::Left(0, 900);
-constexpr auto kSeqNo = ColumnPlace::Left(960, 620);
-constexpr auto kSource = ColumnPlace::Left(1'620, 560);
-constexpr auto kReference = ColumnPlace::Left(2'210, 960);
+constexpr auto kSeqNo = ColumnPlace::Left(950, 610);
+constexpr auto kSource = ColumnPlace::Left(1'600, 560);
+constexpr auto kReference = ColumnPlace::Left(2'170, 1'020);
 constexpr auto kDescription = ColumnPlace::Left(3'220, 1'820, Stretch::kWiden);
 constexpr auto kRemarks = ColumnPlace::Left(3'220, 7'580, Stretch::kWiden);
 constexpr auto kForeign = ColumnPlace::Amount(5'100, 1'320);
