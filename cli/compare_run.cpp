@@ -10,7 +10,6 @@
 #include "cli/output_file.h"
 #include "cli/report_run.h"
 #include "cli/run_monitor.h"
-#include "cli/told_place.h"
 
 namespace varnel::cli {
 
@@ -76,9 +75,8 @@ bool RunInto(std::shared_ptr<ComparableReportSink> sink, const PreparedReport& p
         .IComparableReport_ComparableReportGen(std::move(sink));
     RunMonitor monitor(console, *prepared.host);
     auto& report = *prepared.report->IReport_ReportDesigner();
-    const auto result =
-        TellingPlace("RunInto", [&] { return engine::RunToBands(report, info, bands, &monitor); });
-    return monitor.IsOfUse(result);
+    return monitor.Watch("RunInto",
+                         [&] { return engine::RunToBands(report, info, bands, &monitor); });
 }
 
 /// A side of the comparison: a run as it was asked for.

@@ -188,14 +188,8 @@ int RunReport(const RunRequest& request, Console& console) {
     const auto info = InfoOf(*report, *host, settings.language);
     auto& designer = *report->IReport_ReportDesigner();
     const auto layout = LayoutOf(request, settings);
-    engine::RunResult result;
-    try {
-        result = TellingPlace(
-            "RunReport", [&] { return format.write(designer, info, layout, output, monitor); });
-    } catch (const Error&) {
-        if (!log.Lost()) throw;  // Otherwise it is told.
-    }
-    const bool written = monitor.IsOfUse(result);
+    const bool written = monitor.Watch(
+        "RunReport", [&] { return format.write(designer, info, layout, output, monitor); });
     if (written)
         output.Commit();
     else if (!log.Lost())

@@ -27,13 +27,8 @@ SQLPOINTER AsPointer(SQLULEN value) {
     return reinterpret_cast<SQLPOINTER>(value);  // NOLINT(performance-no-int-to-ptr)
 }
 
-/// What a message shows of a statement, which may hold a thousand rows; whole characters.
-std::string_view Beginning(std::string_view sql) {
-    std::size_t shown = 300;
-    if (sql.size() <= shown) return sql;
-    while ((sql[shown] & 0xC0) == 0x80) --shown;
-    return sql.substr(0, shown);
-}
+/// What a message shows of a statement, which may hold a thousand rows.
+std::string_view Shown(std::string_view sql) { return Beginning(sql, 300); }
 
 }  // namespace
 
@@ -121,8 +116,8 @@ OdbcStatementHandle OdbcConnection::Ran(std::string_view sql) const {
     const OdbcWatch::Guard guard(watch_, statement.get());
     const auto result = SQLExecDirectW(statement.get(), text.data(), SQL_NTS);
     if (SQL_SUCCEEDED(result) || result == SQL_NO_DATA) return statement;
-    if (watch_.Cancelled()) RaiseOdbc(kCancelled, Beginning(sql));
-    RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()), Beginning(sql));
+    if (watch_.Cancelled()) RaiseOdbc(kCancelled, Shown(sql));
+    RaiseOdbc(Diagnose(SQL_HANDLE_STMT, statement.get()), Shown(sql));
 }
 
 void OdbcConnection::Execute(std::string_view sql) const { Ran(sql); }

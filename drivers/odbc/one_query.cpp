@@ -4,6 +4,7 @@
 #include <array>
 
 #include "drivers/odbc/odbc_error.h"
+#include "drivers/odbc/utf16.h"
 #include "drivers/query_faults.h"
 #include "drivers/sql_tokens.h"
 #include "host/object.h"
@@ -67,7 +68,7 @@ void RequireOneReading(const std::vector<SqlToken>& tokens, const std::string& t
     for (const auto& token : tokens) {
         if (!ReadsAlike(token, before))
             RaiseOdbc("Databases read the query differently from \"" +
-                          std::string(token.text.substr(0, 20)) +
+                          std::string(Beginning(token.text, 20)) +
                           "\" on: write texts as '…' and names as \"…\", each with its end, "
                           "without comments.",
                       text);

@@ -82,6 +82,12 @@ WideText ToUtf16(std::string_view utf8) {
     return utf16;
 }
 
+std::string_view Beginning(std::string_view utf8, std::size_t most) {
+    if (utf8.size() <= most) return utf8;
+    while (most > 0 && (utf8[most] & 0xC0) == 0x80) --most;
+    return utf8.substr(0, most);
+}
+
 void AppendUtf8(std::span<const unsigned short> utf16, std::string& out) {
     for (std::size_t i = AppendAscii(utf16, out); i < utf16.size(); ++i) {
         char32_t character = utf16[i];

@@ -30,9 +30,7 @@ RESTLESS = ("DROP TABLE Segment; CREATE VIEW Segment AS SELECT abs(random() % 10
 
 class Copy(ServerTest):
     def setUp(self):
-        for place in self.folder.iterdir():
-            if place.name != "shop.db":
-                place.unlink()
+        self.remove_all_but_the_shop()
         self.sql(f"DROP DATABASE {self.database} WITH (FORCE)", "postgres")
         self.sql(f"CREATE DATABASE {self.database}", "postgres")
 

@@ -18,9 +18,7 @@ LONG_CHANGE = ("PRAGMA cache_size = 5; BEGIN; CREATE TABLE Filler AS WITH RECURS
 
 class ReplacedCompany(VarnelTest):
     def setUp(self):
-        for place in self.folder.iterdir():
-            if place.name != "shop.db":
-                place.unlink()
+        self.remove_all_but_the_shop()
 
     def names(self):
         return sorted(place.name for place in self.folder.iterdir())

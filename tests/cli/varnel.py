@@ -35,6 +35,11 @@ class VarnelTest(unittest.TestCase):
         return subprocess.Popen([PROGRAM, *arguments], cwd=cls.folder, env=environment,
                                 **options)
 
+    def remove_all_but_the_shop(self):
+        for place in self.folder.iterdir():
+            if place.name != "shop.db":
+                place.unlink()
+
     def run_varnel(self, *arguments, **options):
         """Exit code, bytes of standard output, text of standard error."""
         process = self.start(*arguments, **options)

@@ -41,6 +41,12 @@ TEST(OneQuery, IsSentFromItsFirstWordToItsLast) {
     EXPECT_EQ(query.parameters, 2U);
 }
 
+TEST(Utf16, TheBeginningOfATextIsWholeCharacters) {
+    EXPECT_EQ(Beginning("aé€", 6), "aé€");
+    EXPECT_EQ(Beginning("aé€", 5), "aé");
+    EXPECT_EQ(Beginning("aé€", 2), "a");
+}
+
 TEST(Utf16, TurnsTextsThereAndBack) {
     const std::string text = "aé€😀";
     EXPECT_EQ(ToUtf16(text), (WideText{'a', 0xE9, 0x20AC, 0xD83D, 0xDE00, 0}));
